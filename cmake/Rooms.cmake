@@ -1,0 +1,51 @@
+# How every target of the project is built, and the two kinds of rooms: a core room stands on the
+# standard library alone, a windows' room on Qt. A room links what stands left of it, nothing else.
+
+add_library(orvalis_options INTERFACE)
+target_compile_options(orvalis_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(ORVALIS_WERROR)
+  target_compile_options(orvalis_options INTERFACE -Werror)
+endif()
+if(ORVALIS_SANITIZE)
+  target_compile_options(orvalis_options INTERFACE -fsanitize=${ORVALIS_SANITIZE}
+                         -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orvalis_options INTERFACE -fsanitize=${ORVALIS_SANITIZE})
+endif()
+
+# orvalis_core_room(NAME SOURCES file... ROOMS room...)
+function(orvalis_core_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC orvalis_options ${ROOM_ROOMS})
+endfunction()
+
+# orvalis_windows_room(NAME SOURCES file... ROOMS room... QT component...)
+function(orvalis_windows_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;QT" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_compile_definitions(${name} PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                             QT_NO_KEYWORDS)
+  list(TRANSFORM ROOM_QT PREPEND Qt6::)
+  target_link_libraries(${name} PUBLIC orvalis_options ${ROOM_ROOMS} Qt6::Widgets ${ROOM_QT})
+  if(name STREQUAL "orvalis_platform_windows")
+    target_precompile_headers(${name} PRIVATE <QtWidgets>)
+  elseif(NOT ROOM_QT)
+    target_precompile_headers(${name} REUSE_FROM orvalis_platform_windows)
+  endif()
+endfunction()
+
+# orvalis_test(NAME SOURCES file... ROOMS room...): one test program; windows run offscreen.
+function(orvalis_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS" ${ARGN})
+  add_executable(${name} ${TEST_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE ORVALIS_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
+                             ORVALIS_SOURCES="${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} GTest::gtest)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 120
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=de_DE.UTF-8;LC_ALL=de_DE.UTF-8;QT_ACCESSIBILITY=0")
+endfunction()

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "mapdata/EntityNames.h"
+#include "mapdata/IniOps.h"
+#include "platform/Text.h"
+
+#include <array>
+#include <vector>
+
+/// The interface language: built-in German, or a folder under the language root with a language
+/// file of texts.
+namespace LOCAL {
+
+/// The name of the built-in language, compared exactly.
+inline constexpr TextView German = u"Deutsch";
+
+/// The one language state of the program.
+///
+/// Its three values are three states: `CurrentLanguage` chooses texts and the folder of the
+/// descriptions, `LanguageFolder` documents and flag, `LanguageFile` the look-ups.
+class Language : public EntityNames {
+ public:
+  /// `programInfoFile` is the path of the German descriptions.
+  explicit Language(Text programInfoFile) : programInfoFile_(std::move(programInfoFile)) {}
+
+  /// The declared name of the active language.
+  Text CurrentLanguage;
+  /// The chosen language's folder name.
+  Text LanguageFolder;
+  /// The folder of all languages, with a separator at its end.
+  Text LanguageRoot;
+  /// The active language's file; "*" after German was chosen.
+  Text LanguageFile;
+
+  [[nodiscard]] bool IsGerman() const { return CurrentLanguage == German; }
+
+  /// The text a window shows: `german` while German is active, else the entry of the language
+  /// file, `english` where that is missing or empty.
+  [[nodiscard]] Text Lookup(IniOps::Snapshot& files, TextView section, TextView key,
+                            TextView english, TextView german) const;
+
+  /// Builds the table of entity names for the current language; German leaves it as it was.
+  void CacheTranslationTable(IniOps::Snapshot& files);
+
+  /// The name shown for an entity key in a language that is not German.
+  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name);
+
+  /// The entity key behind a name that `LocalizeEntityName` gave.
+  [[nodiscard]] Text UnlocalizeEntityName(TextView text);
+
+  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) override;
+  [[nodiscard]] Text Key(TextView shown) override;
+  [[nodiscard]] Text InfoFile() override;
+
+ private:
+  struct RegionWord {
+    TextView word;
+    Text translation;
+  };
+
+  Text programInfoFile_;
+  std::vector<Text> EntityKeys_;
+  std::vector<Text> EntityTranslations_;
+  std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
+                                             {u"Skaldor", {}},
+                                             {u"Sarrakh", {}},
+                                             {u"Ostrakh", {}},
+                                             {u"Tempel von", {}}}};
+};
+
+}  // namespace LOCAL

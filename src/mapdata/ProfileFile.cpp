@@ -1,0 +1,193 @@
+#include "mapdata/ProfileFile.h"
+
+#include "mapdata/ProfileLines.h"
+
+#include <bit>
+
+using ProfileLines::Blanks;
+using ProfileLines::HashName;
+using ProfileLines::SameAscii;
+using ProfileLines::SameName;
+using ProfileLines::Strip;
+using ProfileLines::TakeLine;
+
+namespace {
+
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+constexpr uint32_t Free = 0xFFFFFFFF;
+
+// The number of the first name that is the same but for ASCII case, else of the first that is the
+// same but for the case of any letter, else none: a file may hold "Š" and "š" as two keys.
+template <typename NameAt>
+std::optional<uint32_t> Find(const std::vector<uint32_t>& slots, std::string_view name,
+                             NameAt nameAt) {
+  const size_t mask = slots.size() - 1;
+  std::optional<uint32_t> found;
+  for (size_t at = HashName(name) & mask; slots[at] != Free; at = (at + 1) & mask) {
+    if (SameAscii(nameAt(slots[at]), name))
+      return slots[at];
+    if (!found && SameName(nameAt(slots[at]), name))
+      found = slots[at];
+  }
+  return found;
+}
+
+// Registers the names 0 to count - 1; of names that are the same the first stays.
+template <typename NameAt>
+std::vector<uint32_t> BuildSlots(size_t count, NameAt nameAt) {
+  std::vector<uint32_t> slots(std::bit_ceil(count * 2 + 2), Free);
+  const size_t mask = slots.size() - 1;
+  for (uint32_t i = 0; i < count; ++i) {
+    size_t at = HashName(nameAt(i)) & mask;
+    while (slots[at] != Free && !SameAscii(nameAt(slots[at]), nameAt(i)))
+      at = (at + 1) & mask;
+    if (slots[at] == Free)
+      slots[at] = i;
+  }
+  return slots;
+}
+
+std::string_view HeaderName(std::string_view strippedLine) {
+  strippedLine.remove_prefix(1);
+  return Strip(strippedLine.substr(0, strippedLine.find(']')), Blanks);
+}
+
+std::string_view Unquoted(std::string_view value) {
+  const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                      (value.front() == '"' || value.front() == '\'');
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+}  // namespace
+
+ProfileFile::ProfileFile(std::string bytes) : bytes_(std::move(bytes)) {
+  IndexSections();
+}
+
+std::string_view ProfileFile::Lines() const {
+  const std::string_view bytes = bytes_;
+  return bytes.substr(bytes.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
+}
+
+void ProfileFile::IndexSections() {
+  std::string_view rest = Lines();
+  while (!rest.empty()) {
+    const std::string_view line = TakeLine(rest);
+    const std::string_view stripped = Strip(line, Blanks);
+    if (!sections_.empty()) {
+      auto& body = sections_.back().body;
+      body = {body.data(), static_cast<size_t>(line.data() - body.data())};
+    }
+    if (stripped.starts_with('['))
+      sections_.push_back({HeaderName(stripped), rest, false, {}, {}});
+  }
+  if (!sections_.empty()) {
+    auto& body = sections_.back().body;
+    body = {body.data(), static_cast<size_t>(bytes_.data() + bytes_.size() - body.data())};
+  }
+  sectionSlots_ = BuildSlots(sections_.size(), [this](uint32_t i) { return sections_[i].name; });
+}
+
+void ProfileFile::IndexKeys(const Section& section) const {
+  section.indexed = true;
+  std::string_view rest = section.body;
+  while (!rest.empty()) {
+    const std::string_view line = Strip(TakeLine(rest), Blanks);
+    if (line.empty() || line.starts_with(';'))
+      continue;
+    const auto equals = line.find('=');
+    const bool hasValue = equals != std::string_view::npos;
+    const std::string_view value = hasValue ? line.substr(equals + 1) : line.substr(line.size());
+    section.lines.push_back(
+        {Strip(line.substr(0, equals), Blanks), Strip(value, Blanks), hasValue});
+  }
+  section.slots =
+      BuildSlots(section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; });
+}
+
+const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
+  const auto found =
+      Find(sectionSlots_, Strip(name, " "), [this](uint32_t i) { return sections_[i].name; });
+  return found ? &sections_[*found] : nullptr;
+}
+
+const ProfileFile::KeyLine* ProfileFile::FindKey(std::string_view section,
+                                                 std::string_view key) const {
+  const Section* in = FindSection(section);
+  if (!in)
+    return nullptr;
+  if (!in->indexed)
+    IndexKeys(*in);
+  const auto found =
+      Find(in->slots, Strip(key, " "), [in](uint32_t i) { return in->lines[i].key; });
+  return found ? &in->lines[*found] : nullptr;
+}
+
+std::optional<std::string_view> ProfileFile::Value(std::string_view section,
+                                                   std::string_view key) const {
+  const KeyLine* line = FindKey(section, key);
+  if (!line || !line->hasValue)
+    return std::nullopt;
+  return Unquoted(line->value);
+}
+
+std::vector<std::string_view> ProfileFile::SectionNames() const {
+  std::vector<std::string_view> names;
+  names.reserve(sections_.size());
+  for (const Section& section : sections_)
+    names.push_back(section.name);
+  return names;
+}
+
+std::vector<std::string_view> ProfileFile::KeyNames(std::string_view section) const {
+  std::vector<std::string_view> keys;
+  const std::string header = '[' + std::string(section) + ']';
+  std::string_view rest = Lines();
+  bool inside = false;
+  while (!rest.empty()) {
+    const std::string_view line = TakeLine(rest);
+    if (inside && line.starts_with('['))
+      break;
+    if (inside && !Strip(line, " ").empty())
+      keys.push_back(Strip(line.substr(0, line.find('=')), " "));
+    inside = inside || line == header;
+  }
+  return keys;
+}
+
+std::string_view ProfileFile::LineEnd() const {
+  const auto lf = bytes_.find('\n');
+  if (lf != std::string::npos)
+    return lf > 0 && bytes_[lf - 1] == '\r' ? "\r\n" : "\n";
+  return bytes_.find('\r') == std::string::npos ? "\r\n" : "\r";
+}
+
+std::string ProfileFile::WithValue(std::string_view section, std::string_view key,
+                                   std::string_view value) const {
+  const auto offset = [this](const char* at) { return static_cast<size_t>(at - bytes_.data()); };
+  const std::string end(LineEnd());
+  const std::string entry = std::string(key) + '=' + std::string(value);
+  std::string changed = bytes_;
+  if (const KeyLine* line = FindKey(section, key)) {
+    const size_t from = offset(line->key.data());
+    const size_t to =
+        line->hasValue ? offset(line->value.data()) + line->value.size() : from + line->key.size();
+    return changed.replace(from, to - from, std::string(line->key) + '=' + std::string(value));
+  }
+  const auto newLine = [&](size_t at) {
+    const bool cut = at > 0 && bytes_[at - 1] != '\n' && bytes_[at - 1] != '\r';
+    return (cut ? end : std::string()) + entry + end;
+  };
+  const Section* in = FindSection(section);
+  if (!in) {
+    const bool cut = !bytes_.empty() && bytes_.back() != '\n' && bytes_.back() != '\r';
+    return changed.append(cut ? end : "") + '[' + std::string(Strip(section, " ")) + ']' + end +
+           entry + end;
+  }
+  size_t after = offset(in->body.data());
+  std::string_view rest = in->body;
+  while (!rest.empty())
+    if (!Strip(TakeLine(rest), Blanks).empty())
+      after = offset(rest.data());
+  return changed.insert(after, newLine(after));
+}

@@ -1,0 +1,194 @@
+#include "platform/PosixFile.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int64_t NanosecondsPerSecond = 1'000'000'000;
+constexpr mode_t WriteBits = S_IWUSR | S_IWGRP | S_IWOTH;
+
+int64_t Nanoseconds(const timespec& time) {
+  return int64_t{time.tv_sec} * NanosecondsPerSecond + time.tv_nsec;
+}
+
+PosixFile::Stamp StampOf(const struct stat& status) {
+  return {status.st_dev, status.st_ino, static_cast<uint64_t>(status.st_size),
+          Nanoseconds(status.st_mtim), Nanoseconds(status.st_ctim)};
+}
+
+// An open file that closes itself.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+
+  ~Descriptor() {
+    if (number_ >= 0)
+      ::close(number_);
+  }
+
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+
+  [[nodiscard]] int Number() const { return number_; }
+
+  [[nodiscard]] bool Open() const { return number_ >= 0; }
+
+ private:
+  int number_;
+};
+
+std::string Folder(const std::string& path) {
+  const auto slash = path.rfind('/');
+  if (slash == std::string::npos)
+    return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+// The file that a chain of links ends at, also where that file does not exist yet.
+std::string LinkTarget(std::string path) {
+  constexpr int mostLinks = 40;
+  for (int i = 0; i < mostLinks; ++i) {
+    std::string target(4096, '\0');
+    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+    if (length <= 0)
+      break;
+    target.resize(static_cast<size_t>(length));
+    path = target.front() == '/' ? target : Folder(path) + '/' + target;
+  }
+  return path;
+}
+
+bool WriteAll(int file, const std::string& bytes) {
+  size_t written = 0;
+  while (written < bytes.size()) {
+    const ssize_t step = ::write(file, bytes.data() + written, bytes.size() - written);
+    if (step <= 0)
+      return false;
+    written += static_cast<size_t>(step);
+  }
+  return true;
+}
+
+// The permissions for the new file: those of the old one; none if that is not to be written.
+std::optional<mode_t> WritableMode(const std::string& path) {
+  struct stat status {};
+
+  if (::stat(path.c_str(), &status) != 0)
+    return mode_t{0644};
+  if (!S_ISREG(status.st_mode) || (status.st_mode & WriteBits) == 0)
+    return std::nullopt;
+  return status.st_mode & mode_t{07777};
+}
+
+// The mode is set last: the owner's change clears bits of it.
+void CopyOwnership(int file, const std::string& from, mode_t mode) {
+  struct stat status {};
+
+  if (::stat(from.c_str(), &status) == 0 && ::fchown(file, status.st_uid, status.st_gid) != 0)
+    mode &= mode_t{0777};
+  ::fchmod(file, mode);
+}
+
+}  // namespace
+
+namespace PosixFile {
+
+bool Exists(const std::string& path) {
+  struct stat status {};
+
+  return ::stat(path.c_str(), &status) == 0;
+}
+
+std::optional<Stamp> RegularFile(const std::string& path) {
+  struct stat status {};
+
+  if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+    return std::nullopt;
+  return StampOf(status);
+}
+
+std::optional<Contents> Read(const std::string& path, size_t maximum) {
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+
+  struct stat status {};
+
+  if (!file.Open() || ::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
+    return std::nullopt;
+  Contents contents{{}, StampOf(status)};
+  if (contents.stamp.size > maximum)
+    return std::nullopt;
+  contents.bytes.resize(static_cast<size_t>(contents.stamp.size));
+  size_t have = 0;
+  while (have < contents.bytes.size()) {
+    const ssize_t step =
+        ::read(file.Number(), contents.bytes.data() + have, contents.bytes.size() - have);
+    if (step < 0)
+      return std::nullopt;
+    if (step == 0)
+      break;
+    have += static_cast<size_t>(step);
+  }
+  contents.bytes.resize(have);
+  return contents;
+}
+
+bool Replace(const std::string& path, const std::string& bytes) {
+  const std::string target = LinkTarget(path);
+  const auto mode = WritableMode(target);
+  if (!mode)
+    return false;
+  std::string temporary = target + ".XXXXXX";
+  const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+  if (!file.Open())
+    return false;
+  CopyOwnership(file.Number(), target, *mode);
+  if (!WriteAll(file.Number(), bytes) || ::fsync(file.Number()) != 0 ||
+      ::rename(temporary.c_str(), target.c_str()) != 0) {
+    ::unlink(temporary.c_str());
+    return false;
+  }
+  const Descriptor folder(::open(Folder(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder.Open())
+    ::fsync(folder.Number());
+  return true;
+}
+
+std::vector<std::string> Entries(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(folder.c_str()), ::closedir);
+  if (!listing)
+    return names;
+  while (const dirent* entry = ::readdir(listing.get())) {
+    std::string name = static_cast<const char*>(entry->d_name);
+    if (name != "." && name != "..")
+      names.push_back(std::move(name));
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string ExecutableFolder() {
+  const std::unique_ptr<char, void (*)(void*)> path(::realpath("/proc/self/exe", nullptr),
+                                                    std::free);
+  return path ? Folder(path.get()) : ".";
+}
+
+bool ChangeFolder(const std::string& folder) {
+  return ::chdir(folder.c_str()) == 0;
+}
+
+int64_t Now() {
+  timespec time{};
+  ::clock_gettime(CLOCK_REALTIME, &time);
+  return Nanoseconds(time);
+}
+
+}  // namespace PosixFile

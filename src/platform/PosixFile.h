@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What the program needs of the system's files; paths are the system's bytes. The one place that
+/// stands on POSIX.
+namespace PosixFile {
+
+/// What tells two states of a file apart. Times are in nanoseconds since 1970.
+struct Stamp {
+  uint64_t device = 0;
+  uint64_t inode = 0;
+  uint64_t size = 0;
+  int64_t modified = 0;
+  int64_t changed = 0;
+  bool operator==(const Stamp&) const = default;
+};
+
+/// A file's bytes, and its stamp as it was when they were read.
+struct Contents {
+  std::string bytes;
+  Stamp stamp;
+};
+
+/// Whether anything stands under the path.
+[[nodiscard]] bool Exists(const std::string& path);
+
+/// The stamp of a regular file, links followed; none for anything else.
+[[nodiscard]] std::optional<Stamp> RegularFile(const std::string& path);
+
+/// The whole regular file; none if there is none, it can't be read, or it is larger than
+/// `maximum` bytes. Never waits for a device or a pipe.
+[[nodiscard]] std::optional<Contents> Read(const std::string& path, size_t maximum);
+
+/// Puts the bytes in the place of the file, or creates it: written beside it, flushed, renamed
+/// over it, the folder flushed; at no moment is the old content gone before the new is safe. The
+/// permissions stay, a symbolic link stays one. False, and nothing changed, if the file is
+/// read-only or any step fails.
+bool Replace(const std::string& path, const std::string& bytes);
+
+/// The names in a folder in byte order, "." and ".." left out; none if it can't be listed.
+[[nodiscard]] std::vector<std::string> Entries(const std::string& folder);
+
+/// The folder of the running executable, symbolic links resolved.
+[[nodiscard]] std::string ExecutableFolder();
+
+/// Makes the folder the current directory; false if that fails.
+bool ChangeFolder(const std::string& folder);
+
+/// Nanoseconds since 1970.
+[[nodiscard]] int64_t Now();
+
+}  // namespace PosixFile
