@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/Twips2Pixel_Module.h"
+
+#include <QFont>
+#include <QSize>
+
+class QWidget;
+
+/// Where twips become a widget's pixels, and the fonts that sizes in twips were made for.
+namespace WidgetTwips {
+
+/// The scale of the screen that the widget is on.
+[[nodiscard]] Twips2Pixel_Module::Screen ScreenOf(const QWidget& widget);
+
+/// Horizontal twips as whole pixels.
+[[nodiscard]] int ToPixelsX(const Twips2Pixel_Module::Screen& screen, int twips);
+
+/// Vertical twips as whole pixels.
+[[nodiscard]] int ToPixelsY(const Twips2Pixel_Module::Screen& screen, int twips);
+
+/// A size in pixels as twips.
+[[nodiscard]] Twips2Pixel_Module::Twips ToTwips(const Twips2Pixel_Module::Screen& screen,
+                                                const QSize& pixels);
+
+/// The program's font in points, fractions allowed.
+[[nodiscard]] QFont Font(double points, bool bold = false);
+
+}  // namespace WidgetTwips
