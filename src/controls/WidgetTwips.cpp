@@ -40,4 +40,8 @@ QFont Font(double points, bool bold) {
   return font;
 }
 
+QColor Color(int number) {
+  return {number & 0xFF, (number >> 8) & 0xFF, (number >> 16) & 0xFF};
+}
+
 }  // namespace WidgetTwips

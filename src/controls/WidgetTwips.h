@@ -2,6 +2,7 @@
 
 #include "app/Twips2Pixel_Module.h"
 
+#include <QColor>
 #include <QFont>
 #include <QSize>
 
@@ -25,5 +26,8 @@ namespace WidgetTwips {
 
 /// The program's font in points, fractions allowed.
 [[nodiscard]] QFont Font(double points, bool bold = false);
+
+/// The colour that a number stands for: red + 256 x green + 65536 x blue.
+[[nodiscard]] QColor Color(int number);
 
 }  // namespace WidgetTwips

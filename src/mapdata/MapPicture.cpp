@@ -1,0 +1,63 @@
+#include "mapdata/MapPicture.h"
+
+#include "mapdata/FileSystem.h"
+#include "mapdata/PictureReader.h"
+
+#include <algorithm>
+
+namespace {
+
+std::optional<PosixFile::Stamp> StampOf(TextView path) {
+  const auto file = FileSystem::Resolve(path);
+  return file ? PosixFile::RegularFile(*file) : std::nullopt;
+}
+
+}  // namespace
+
+MapPicture::Picture* MapPicture::Find(TextView path) {
+  const auto found = std::find_if(pictures_.begin(), pictures_.end(),
+                                  [path](const Picture& picture) { return picture.path == path; });
+  return found == pictures_.end() ? nullptr : &*found;
+}
+
+bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
+  screen_ = screen;
+  const auto stamp = StampOf(path);
+  Picture* known = Find(path);
+  const bool same = known && known->stamp == stamp;
+  const bool ready = same && (!known->pixels.isNull() || known->scaled.size() == size);
+  if (!ready) {
+    QImage pixels = PictureReader::Read(path, screen);
+    if (pixels.isNull())
+      return false;
+    const Text shownPath = shown_ ? shown_->path : Text();
+    if (!known)
+      known = &pictures_.emplace_back(Picture{Text(path), stamp, {}, {}});
+    *known = {Text(path), stamp, std::move(pixels), {}};
+    shown_ = Find(shownPath);
+  }
+  if (shown_ && shown_ != known)
+    shown_->pixels = {};
+  shown_ = known;
+  return true;
+}
+
+const QImage& MapPicture::Pixels() {
+  static const QImage none;
+  if (!shown_)
+    return none;
+  if (shown_->pixels.isNull())
+    shown_->pixels = PictureReader::Read(shown_->path, screen_);
+  return shown_->pixels;
+}
+
+const QImage& MapPicture::At(const QSize& size) {
+  if (!shown_)
+    return Pixels();
+  if (shown_->scaled.size() != size && !Pixels().isNull())
+    shown_->scaled =
+        shown_->pixels.size() == size
+            ? shown_->pixels
+            : shown_->pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  return shown_->scaled;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QLabel>
+
+/// A name on the map: sizes itself to its text, shown as it stands on a coloured ground. Colours
+/// are red + 256 x green + 65536 x blue.
+class NameLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  NameLabel(QWidget* parent, double points, int textColor, int groundColor);
+
+  /// Sets the text and takes the size that it needs.
+  void SetCaption(const QString& caption);
+
+  void SetTextColor(int color);
+
+ Q_SIGNALS:
+  void MouseMove();
+  void DblClick();
+
+ protected:
+  bool event(QEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+};
