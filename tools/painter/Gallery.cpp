@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int MapQuality = 88;
+constexpr int MapQuality = 93;
 
 /// Pictures still to be painted; each is made and written by the thread that takes it.
 class Easel {

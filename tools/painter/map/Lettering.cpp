@@ -47,10 +47,10 @@ void DrawHaloed(QPainter& painter, const RegionStyle& style, const QString& text
   painter.setBrush(Qt::NoBrush);
   const double size = font.pixelSize();
   painter.setPen(
-      QPen(style.paper.color(110), size * 0.30, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      QPen(style.paper.color(130), size * 0.32, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPath(path);
   painter.setPen(
-      QPen(style.paper.color(215), size * 0.17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      QPen(style.paper.color(235), size * 0.17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPath(path);
   painter.setPen(Qt::NoPen);
   painter.setBrush(style.ink.color());

@@ -7,6 +7,7 @@
 #include "map/Lettering.h"
 #include "map/Ornament.h"
 #include "map/Relief.h"
+#include "map/Ruins.h"
 #include "map/Settlements.h"
 #include "map/Signs.h"
 #include "map/TemplePainter.h"
@@ -173,7 +174,7 @@ void RegionPainter::drawSites(QPainter& painter, Lettering& lettering) const {
   for (const Site& site : sites_) {
     const bool city = site.kind == Landmark::City;
     if (city || site.kind == Landmark::Place) {
-      const QFont font = city ? MapFont(38, true, false) : MapFont(27, false, true);
+      const QFont font = city ? MapFont(38, true, false) : MapFont(30, false, true);
       lettering.write(painter, site.place.name, font, OnPicture(site.place.at),
                       ReachOf(site.kind) + 3, city);
     }
@@ -232,21 +233,29 @@ QImage RegionPainter::paint() {
   if (!carved) {
     drawRivers(painter);
     drawWays(painter);
+    DrawRuins(painter, field_, style_);
     DrawSigns(painter, field_, style_, reserved_);
   }
   painter.end();
   AgePaper(image, field_.shape->seed);
   painter.begin(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QPointF title = quietCorner(CartoucheSize, lettering);
-  lettering.reserve(QRectF(title, CartoucheSize));
+  // Between the temple's halls there is less room than at sea.
+  const double titleScale = carved ? 0.74 : 1.0;
+  const QSizeF titleSize = CartoucheSize * titleScale;
+  const QPointF title = quietCorner(titleSize, lettering);
+  lettering.reserve(QRectF(title, titleSize));
   const QPointF compass = quietCorner(CompassSize, lettering);
   lettering.reserve(QRectF(compass, CompassSize));
   DrawCompass(painter, style_,
               compass + QPointF(CompassSize.width() / 2, CompassSize.height() / 2 + 14),
               CompassSize.width() * 0.42);
   drawSites(painter, lettering);
-  DrawCartouche(painter, style_, title);
+  painter.save();
+  painter.translate(title);
+  painter.scale(titleScale, titleScale);
+  DrawCartouche(painter, style_, QPointF(0, 0));
+  painter.restore();
   DrawFrame(painter, style_, image.size());
   return image;
 }

@@ -110,7 +110,7 @@ double Maker::moisture(Point at) const {
     case Climate::Desert:
       return Clamp01(0.22 * wet + 0.9 * SmoothStep(-12, 14, DiscDepth(shape_.oases, warped(at))));
     case Climate::Barren:
-      return Clamp01(0.55 * wet);
+      return Clamp01(0.85 * wet - 0.05);
     case Climate::Underground:
       return 0;
     case Climate::Temperate:

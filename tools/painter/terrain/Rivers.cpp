@@ -12,6 +12,8 @@ namespace {
 constexpr int CellSize = 3;
 constexpr std::size_t ShortestRiver = 12;
 constexpr double WidestRiver = 6.5;
+// What was built stands dry.
+constexpr float BuiltUp = 0.4F;
 
 struct Cell {
   int x = -1;
@@ -68,7 +70,9 @@ void Drainage::sample() {
     for (int x = 0; x < height_.width(); ++x) {
       // A little roughness makes rivers wind where a plain would let them run straight.
       const double rough = 0.018 * GradientNoise(seed, x / 3.1, y / 3.1);
-      const float level = field_.height.at(x * CellSize + 1, y * CellSize + 1);
+      const bool paved = field_.floor.at(x * CellSize + 1, y * CellSize + 1) > -8;
+      const float level =
+          field_.height.at(x * CellSize + 1, y * CellSize + 1) + (paved ? BuiltUp : 0.0F);
       height_.at(x, y) = level < 0 ? level : std::max(0.001F, level + static_cast<float>(rough));
     }
   }
