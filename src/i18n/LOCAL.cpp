@@ -18,6 +18,13 @@ Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, T
   return IsGerman() ? Text(german) : files.IniRead(LanguageFile, section, key, english);
 }
 
+void Language::StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder) {
+  LanguageRoot = root;
+  LanguageFile = Texts::Join(root, folder, FileSystem::Separator, folder, u".lng");
+  LanguageFolder = folder;
+  CurrentLanguage = files.IniRead(LanguageFile, u"general", u"language", German);
+}
+
 void Language::CacheTranslationTable(IniOps::Snapshot& files) {
   if (CurrentLanguage.empty())
     CurrentLanguage = German;

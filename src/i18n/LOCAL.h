@@ -39,6 +39,10 @@ class Language : public EntityNames {
   [[nodiscard]] Text Lookup(IniOps::Snapshot& files, TextView section, TextView key,
                             TextView english, TextView german) const;
 
+  /// Chooses the language of the folder `folder` under the language root `root`; German if that
+  /// holds no language file which declares its name.
+  void StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder);
+
   /// Builds the table of entity names for the current language; German leaves it as it was.
   void CacheTranslationTable(IniOps::Snapshot& files);
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/MenuTable.h"
+
+#include <QMenuBar>
+
+#include <span>
+#include <vector>
+
+class QMenu;
+
+/// The menu bar of the main window, made from the menu table with German captions. Every menu and
+/// command has its control's name as object name.
+class MenuBar : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  explicit MenuBar(QWidget* parent = nullptr);
+
+  /// Sets the captions, one for each of `MenuTable::Captions`; without any all stay.
+  void SetCaptions(std::span<const Text> captions);
+
+  /// A disabled command's shortcut does nothing; an unknown name changes nothing.
+  void SetEnabled(TextView name, bool enabled);
+
+  /// A hidden command's shortcut does nothing; an unknown name changes nothing.
+  void SetShown(TextView name, bool shown);
+
+  /// Heading of the map for a category: the captions now shown of its region's menu and of its
+  /// command, "&" signs included.
+  [[nodiscard]] Text Heading(const MenuRow& category) const;
+
+ Q_SIGNALS:
+  void CategoryChosen(const MenuRow& row);
+  void CommandChosen(const MenuRow& row);
+
+ private:
+  QAction* MakeAction(const MenuRow& row);
+  [[nodiscard]] QAction* Find(TextView name) const;
+
+  // The action of each row of the table.
+  std::vector<QAction*> actions_;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "i18n/LOCAL.h"
+#include "platform/Text.h"
+
+#include <span>
+#include <vector>
+
+/// The caption of one menu or command: its key in section "menus" of a language file, what is
+/// shown where that is missing or empty, and the German caption.
+struct MenuCaption {
+  TextView key;
+  TextView english;
+  TextView german;
+};
+
+/// Every text of the main window that follows the language.
+struct InterfaceTexts {
+  /// One for each menu asked for; empty if the menus keep the captions they have.
+  std::vector<Text> menus;
+  /// The first row of the entity list; begins with a blank in every language.
+  Text prompt;
+  Text infoToolTip;
+};
+
+/// The texts of the active language file.
+[[nodiscard]] InterfaceTexts Translate_UI(IniOps::Snapshot& files, const LOCAL::Language& language,
+                                          std::span<const MenuCaption> menus);
+
+/// The German texts beside the menus, which have theirs when the window is made.
+[[nodiscard]] InterfaceTexts Translate_UI_DE();
+
+/// All German texts, menus included: what a switch back to German needs.
+[[nodiscard]] InterfaceTexts RestoreGerman(std::span<const MenuCaption> menus);
