@@ -88,6 +88,8 @@ bool Hyperlink::PaintWithFocus(QEvent& event) {
   painting_ = false;
   QStyleOptionFocusRect option;
   option.initFrom(&label_);
+  // Styles leave the frame out unless the last key was one that moves the focus.
+  option.state |= QStyle::State_KeyboardFocusChange;
   QPainter painter(&label_);
   label_.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &label_);
   return true;
