@@ -23,10 +23,8 @@ Text Value(const ProfileFile& file, TextView section, TextView key, TextView def
   const auto keyBytes = Windows1252::Encode(key);
   if (!sectionBytes || !keyBytes)
     return Text(defaultValue);
-  const auto value = file.Value(*sectionBytes, *keyBytes);
-  if (!value || value->empty())
-    return Text(defaultValue);
-  return Windows1252::Decode(value->substr(0, IniOps::LongestValue));
+  const auto value = IniOps::IniReadBytes(file, *sectionBytes, *keyBytes);
+  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
 std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
@@ -80,10 +78,14 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
 }
 
 const ProfileFile& Snapshot::File(TextView file) {
+  return *SharedFile(file);
+}
+
+std::shared_ptr<const ProfileFile> Snapshot::SharedFile(TextView file) {
   for (const Seen& seen : seen_)
     if (seen.path == file)
-      return *seen.profile;
-  return *seen_.emplace_back(Text(file), cache_.Get(file)).profile;
+      return seen.profile;
+  return seen_.emplace_back(Text(file), cache_.Get(file)).profile;
 }
 
 Text Snapshot::IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {
@@ -96,6 +98,11 @@ std::vector<Text> Snapshot::IniSectionNames(TextView file) {
 
 std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
+}
+
+std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                              std::string_view key) {
+  return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
 }
 
 Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

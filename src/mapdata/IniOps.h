@@ -44,6 +44,9 @@ class Snapshot {
   /// The file itself, for callers with thousands of questions.
   [[nodiscard]] const ProfileFile& File(TextView file);
 
+  /// The same, for those who keep views of its bytes beyond the event.
+  [[nodiscard]] std::shared_ptr<const ProfileFile> SharedFile(TextView file);
+
   /// The value of the key, or the default if there is none or it is empty. Letter case and blanks
   /// around section and key don't count.
   [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);
@@ -64,6 +67,10 @@ class Snapshot {
   Cache& cache_;
   std::deque<Seen> seen_;
 };
+
+/// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
+[[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                                            std::string_view key);
 
 /// One question to the file as it stands now; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);
