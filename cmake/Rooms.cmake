@@ -37,15 +37,37 @@ function(orvalis_windows_room name)
   endif()
 endfunction()
 
-# orvalis_test(NAME SOURCES file... ROOMS room...): one test program; windows run offscreen.
-function(orvalis_test name)
+# What every test program finds: its sources' data, the project, and a German system.
+set(ORVALIS_TEST_ENVIRONMENT LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
+
+# orvalis_test_program(NAME SOURCES file... ROOMS room...): a test program without its ctest entry.
+function(orvalis_test_program name)
   cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE ORVALIS_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                              ORVALIS_SOURCES="${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE ${TEST_ROOMS} GTest::gtest)
+endfunction()
+
+# orvalis_test(NAME SOURCES file... ROOMS room...): a test of core rooms.
+function(orvalis_test name)
+  orvalis_test_program(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE GTest::gtest_main)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 120
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=de_DE.UTF-8;LC_ALL=de_DE.UTF-8;QT_ACCESSIBILITY=0")
+  set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT "${ORVALIS_TEST_ENVIRONMENT}")
+endfunction()
+
+# orvalis_window_test(NAME SOURCES file... ROOMS room...): a test of windows, run offscreen on
+# screens of 96 and of 120 dots per inch.
+function(orvalis_window_test name)
+  orvalis_test_program(${name} ${ARGN})
+  target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/QtMain.cpp)
+  target_link_libraries(${name} PRIVATE Qt6::Test)
+  foreach(dpi 96 120)
+    add_test(NAME ${name}_${dpi} COMMAND ${name})
+    set(screen ${PROJECT_SOURCE_DIR}/tests/support/screen-${dpi}.json)
+    set_tests_properties(${name}_${dpi} PROPERTIES TIMEOUT 120
+      ENVIRONMENT "${ORVALIS_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen:configfile=${screen}")
+  endforeach()
 endfunction()

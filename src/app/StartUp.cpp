@@ -48,9 +48,9 @@ Edition ReadEdition(IniOps::Snapshot& files, const ProgramPaths& paths) {
   if (edition.withoutExtras)
     edition.text = u"Lite";
   if (edition.withoutLanguages)
-    edition.text = Join(
-        edition.text, u" ",
-        Texts::Trim(Settings::Read(files, paths.settings, Settings::LocalizedString)));
+    edition.text =
+        Join(edition.text, u" ",
+             Texts::Trim(Settings::Read(files, paths.settings, Settings::LocalizedString)));
   return edition;
 }
 
@@ -72,8 +72,8 @@ std::optional<Text> MissingFile(const ProgramPaths& paths) {
   return std::nullopt;
 }
 
-Message FileNotFound(IniOps::Snapshot& files, const ProgramPaths& paths,
-                     const Text& languageFolder, const Text& missing) {
+Message FileNotFound(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& languageFolder,
+                     const Text& missing) {
   LOCAL::Language language(paths.infoData);
   language.StartUp(files, paths.languageRoot, languageFolder);
   const Text shown = NativePath::ForDisplay(missing);

@@ -1,0 +1,44 @@
+#include "app/Program.h"
+
+#include "app/Context.h"
+#include "app/MenuTable.h"
+#include "app/frmMain.h"
+#include "i18n/InterfaceTexts.h"
+#include "platform/NativePath.h"
+#include "platform/PosixFile.h"
+#include "platform/ShowMessage.h"
+
+Program::Program(Context& context) : context_(context) {}
+
+Program::~Program() = default;
+
+bool Program::Start() {
+  PosixFile::ChangeFolder(NativePath::ToBytes(context_.paths.programFolder));
+  IniOps::Snapshot files(context_.files);
+  const Text chosen = StartUp::ChosenLanguage(files, context_.paths);
+  if (!CheckFiles(chosen))
+    return false;
+  window_ = std::make_unique<frmMain>(context_);
+  window_->show();
+  ChooseLanguage(chosen);
+  return true;
+}
+
+bool Program::CheckFiles(const Text& chosenLanguage) {
+  const auto missing = StartUp::MissingFile(context_.paths);
+  if (!missing)
+    return true;
+  IniOps::Snapshot files(context_.files);
+  const auto message = StartUp::FileNotFound(files, context_.paths, chosenLanguage, *missing);
+  ShowMessage(nullptr, MessageIcon::Critical, message.text, message.caption);
+  return false;
+}
+
+void Program::ChooseLanguage(const Text& chosenLanguage) {
+  IniOps::Snapshot files(context_.files);
+  LOCAL::Language& language = context_.language;
+  language.StartUp(files, context_.paths.languageRoot, chosenLanguage);
+  window_->ShowTexts(language.IsGerman() ? Translate_UI_DE()
+                                         : Translate_UI(files, language, MenuTable::Captions()));
+  language.CacheTranslationTable(files);
+}

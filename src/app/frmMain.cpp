@@ -1,0 +1,59 @@
+#include "app/frmMain.h"
+
+#include "app/Context.h"
+#include "app/MenuBar.h"
+#include "controls/WidgetTwips.h"
+#include "mapdata/MapView.h"
+#include "platform/QtText.h"
+
+using QtText::ToQt;
+
+namespace {
+
+QSize StartSize(const QWidget& widget) {
+  const auto screen = WidgetTwips::ScreenOf(widget);
+  return {WidgetTwips::ToPixelsX(screen, MapView::StartSize.x),
+          WidgetTwips::ToPixelsY(screen, MapView::StartSize.y)};
+}
+
+}  // namespace
+
+frmMain::frmMain(Context& context)
+    : context_(context),
+      menus_(new MenuBar(this)),
+      map_(new MapView(context.files, context.language, this)) {
+  setObjectName(QLatin1StringView("frmMain"));
+  setWindowTitle(ToQt(StartUp::Caption(context.edition)));
+  setMenuBar(menus_);
+  setCentralWidget(map_);
+  const QSize map = StartSize(*this);
+  resize(map.width(), map.height() + menus_->sizeHint().height());
+  menus_->SetShown(u"mnuExtras", !context.edition.withoutExtras);
+  menus_->SetShown(u"mnuLanguage", !context.edition.withoutLanguages);
+  connect(menus_, &MenuBar::CategoryChosen, this, &frmMain::RunCategory);
+  connect(menus_, &MenuBar::CommandChosen, this, &frmMain::RunCommand);
+  connect(map_, &MapView::Displayed, this, [this] { menus_->SetEnabled(u"miPrint", true); });
+  connect(map_, &MapView::InfoRequested, this, &frmMain::ShowInfo);
+}
+
+void frmMain::ShowTexts(const InterfaceTexts& texts) {
+  menus_->SetCaptions(texts.menus);
+  map_->SetTexts(texts.prompt, texts.infoToolTip);
+}
+
+void frmMain::RunCategory(const MenuRow& row) {
+  const auto& region = context_.paths.regions[static_cast<size_t>(row.region)];
+  const Text category(row.category);
+  if (row.mode == DisplayMode::List)
+    map_->Change(region.picture, region.data, category);
+  else
+    map_->ChangeMulti(region.picture, region.data, category, menus_->Heading(row),
+                      row.mode == DisplayMode::LabelsOnHover);
+}
+
+void frmMain::RunCommand(const MenuRow& row) {
+  if (row.action == Action::Quit)
+    close();
+}
+
+void frmMain::ShowInfo() {}

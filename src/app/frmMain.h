@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QMainWindow>
+
+class MapView;
+class MenuBar;
+struct Context;
+struct InterfaceTexts;
+struct MenuRow;
+
+/// The main window: the menu bar and the map below it.
+class frmMain : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit frmMain(Context& context);
+
+  /// Shows the texts of the current language in menus and map.
+  void ShowTexts(const InterfaceTexts& texts);
+
+ private:
+  void RunCategory(const MenuRow& row);
+  void RunCommand(const MenuRow& row);
+  void ShowInfo();
+
+  Context& context_;
+  MenuBar* menus_;
+  MapView* map_;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QColor>
+#include <algorithm>
+
+namespace Map {
+
+/// A colour that can be reckoned with; parts of 0 to 255, beyond that while reckoning.
+struct Tone {
+  double red = 0;
+  double green = 0;
+  double blue = 0;
+
+  [[nodiscard]] constexpr Tone towards(const Tone& other, double share) const {
+    return {red + (other.red - red) * share, green + (other.green - green) * share,
+            blue + (other.blue - blue) * share};
+  }
+
+  [[nodiscard]] constexpr Tone lit(double light) const {
+    return {red * light, green * light, blue * light};
+  }
+
+  [[nodiscard]] QRgb rgb() const { return qRgb(part(red), part(green), part(blue)); }
+
+  [[nodiscard]] QColor color(int alpha = 255) const {
+    return {part(red), part(green), part(blue), alpha};
+  }
+
+ private:
+  [[nodiscard]] static int part(double value) {
+    return static_cast<int>(std::clamp(value, 0.0, 255.0) + 0.5);
+  }
+};
+
+}  // namespace Map
