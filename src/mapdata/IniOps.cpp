@@ -17,6 +17,7 @@ std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
   return std::make_shared<const ProfileFile>(std::move(bytes));
 }
 
+<<<<<<< HEAD
 // A name asked for that Windows-1252 can't hold stands in no file.
 Text Value(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
   const auto sectionBytes = Windows1252::Encode(section);
@@ -27,6 +28,8 @@ Text Value(const ProfileFile& file, TextView section, TextView key, TextView def
   return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
+=======
+>>>>>>> i18n
 std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
   std::vector<Text> texts;
   texts.reserve(names.size());
@@ -77,11 +80,15 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   return kept_.emplace_back(Text(file), contents->stamp, std::move(profile)).profile;
 }
 
+<<<<<<< HEAD
 const ProfileFile& Snapshot::File(TextView file) {
   return *SharedFile(file);
 }
 
 std::shared_ptr<const ProfileFile> Snapshot::SharedFile(TextView file) {
+=======
+const std::shared_ptr<const ProfileFile>& Snapshot::Shared(TextView file) {
+>>>>>>> i18n
   for (const Seen& seen : seen_)
     if (seen.path == file)
       return seen.profile;
@@ -89,7 +96,7 @@ std::shared_ptr<const ProfileFile> Snapshot::SharedFile(TextView file) {
 }
 
 Text Snapshot::IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {
-  return Value(File(file), section, key, defaultValue);
+  return IniOps::IniRead(File(file), section, key, defaultValue);
 }
 
 std::vector<Text> Snapshot::IniSectionNames(TextView file) {
@@ -100,9 +107,22 @@ std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
 }
 
+<<<<<<< HEAD
 std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
                               std::string_view key) {
   return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
+=======
+Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
+  const auto sectionBytes = Windows1252::Encode(section);
+  const auto keyBytes = Windows1252::Encode(key);
+  // A name asked for that Windows-1252 can't hold stands in no file.
+  if (!sectionBytes || !keyBytes)
+    return Text(defaultValue);
+  const auto value = file.Value(*sectionBytes, *keyBytes);
+  if (!value || value->empty())
+    return Text(defaultValue);
+  return Windows1252::Decode(value->substr(0, LongestValue));
+>>>>>>> i18n
 }
 
 Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

@@ -42,7 +42,10 @@ class Snapshot {
   explicit Snapshot(Cache& cache) : cache_(cache) {}
 
   /// The file itself, for callers with thousands of questions.
-  [[nodiscard]] const ProfileFile& File(TextView file);
+  [[nodiscard]] const ProfileFile& File(TextView file) { return *Shared(file); }
+
+  /// The same to keep: two that are the same object hold the same contents.
+  [[nodiscard]] const std::shared_ptr<const ProfileFile>& Shared(TextView file);
 
   /// The same, for those who keep views of its bytes beyond the event.
   [[nodiscard]] std::shared_ptr<const ProfileFile> SharedFile(TextView file);
@@ -68,9 +71,15 @@ class Snapshot {
   std::deque<Seen> seen_;
 };
 
+<<<<<<< HEAD
 /// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
 [[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
                                             std::string_view key);
+=======
+/// A question to a file that was read before; see `Snapshot::IniRead`.
+[[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
+                           TextView defaultValue);
+>>>>>>> i18n
 
 /// One question to the file as it stands now; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);
