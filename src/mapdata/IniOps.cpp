@@ -17,19 +17,6 @@ std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
   return std::make_shared<const ProfileFile>(std::move(bytes));
 }
 
-<<<<<<< HEAD
-// A name asked for that Windows-1252 can't hold stands in no file.
-Text Value(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
-  const auto sectionBytes = Windows1252::Encode(section);
-  const auto keyBytes = Windows1252::Encode(key);
-  if (!sectionBytes || !keyBytes)
-    return Text(defaultValue);
-  const auto value = IniOps::IniReadBytes(file, *sectionBytes, *keyBytes);
-  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
-}
-
-=======
->>>>>>> i18n
 std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
   std::vector<Text> texts;
   texts.reserve(names.size());
@@ -80,15 +67,7 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   return kept_.emplace_back(Text(file), contents->stamp, std::move(profile)).profile;
 }
 
-<<<<<<< HEAD
-const ProfileFile& Snapshot::File(TextView file) {
-  return *SharedFile(file);
-}
-
-std::shared_ptr<const ProfileFile> Snapshot::SharedFile(TextView file) {
-=======
 const std::shared_ptr<const ProfileFile>& Snapshot::Shared(TextView file) {
->>>>>>> i18n
   for (const Seen& seen : seen_)
     if (seen.path == file)
       return seen.profile;
@@ -107,22 +86,19 @@ std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
 }
 
-<<<<<<< HEAD
 std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
                               std::string_view key) {
   return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
-=======
+}
+
 Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
   const auto sectionBytes = Windows1252::Encode(section);
   const auto keyBytes = Windows1252::Encode(key);
   // A name asked for that Windows-1252 can't hold stands in no file.
   if (!sectionBytes || !keyBytes)
     return Text(defaultValue);
-  const auto value = file.Value(*sectionBytes, *keyBytes);
-  if (!value || value->empty())
-    return Text(defaultValue);
-  return Windows1252::Decode(value->substr(0, LongestValue));
->>>>>>> i18n
+  const auto value = IniReadBytes(file, *sectionBytes, *keyBytes);
+  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
 Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

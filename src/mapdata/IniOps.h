@@ -47,9 +47,6 @@ class Snapshot {
   /// The same to keep: two that are the same object hold the same contents.
   [[nodiscard]] const std::shared_ptr<const ProfileFile>& Shared(TextView file);
 
-  /// The same, for those who keep views of its bytes beyond the event.
-  [[nodiscard]] std::shared_ptr<const ProfileFile> SharedFile(TextView file);
-
   /// The value of the key, or the default if there is none or it is empty. Letter case and blanks
   /// around section and key don't count.
   [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);
@@ -71,15 +68,13 @@ class Snapshot {
   std::deque<Seen> seen_;
 };
 
-<<<<<<< HEAD
 /// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
 [[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
                                             std::string_view key);
-=======
+
 /// A question to a file that was read before; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
                            TextView defaultValue);
->>>>>>> i18n
 
 /// One question to the file as it stands now; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);

@@ -23,7 +23,7 @@ std::optional<InvalidLink> EntityCache::CacheEntities(IniOps::Snapshot& files,
                                                       LOCAL::Language& language,
                                                       const ProgramPaths::Region& region) {
   regions_.push_back(region);
-  auto info = files.SharedFile(language.InfoFile());
+  auto info = files.Shared(language.InfoFile());
   const ProfileFile& data = files.File(region.data);
   if (infoFiles_.empty() || infoFiles_.back() != info)
     infoFiles_.push_back(info);
