@@ -86,16 +86,19 @@ std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
 }
 
+std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                              std::string_view key) {
+  return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
+}
+
 Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
   const auto sectionBytes = Windows1252::Encode(section);
   const auto keyBytes = Windows1252::Encode(key);
   // A name asked for that Windows-1252 can't hold stands in no file.
   if (!sectionBytes || !keyBytes)
     return Text(defaultValue);
-  const auto value = file.Value(*sectionBytes, *keyBytes);
-  if (!value || value->empty())
-    return Text(defaultValue);
-  return Windows1252::Decode(value->substr(0, LongestValue));
+  const auto value = IniReadBytes(file, *sectionBytes, *keyBytes);
+  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
 Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

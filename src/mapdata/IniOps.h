@@ -68,6 +68,10 @@ class Snapshot {
   std::deque<Seen> seen_;
 };
 
+/// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
+[[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                                            std::string_view key);
+
 /// A question to a file that was read before; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
                            TextView defaultValue);
