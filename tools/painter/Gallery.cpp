@@ -4,10 +4,12 @@
 #include <atomic>
 #include <functional>
 #include <mutex>
+#include <set>
 #include <thread>
 #include <vector>
 
 #include "map/RegionPainter.h"
+#include "pictures/Subject.h"
 
 namespace Gallery {
 
@@ -16,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int MapQuality = 93;
+constexpr int PortraitQuality = 95;
 
 /// Pictures still to be painted; each is made and written by the thread that takes it.
 class Easel {
@@ -74,11 +77,20 @@ void AddRegions(Easel& easel, const fs::path& world, const fs::path& out) {
   }
 }
 
+void AddSubjects(Easel& easel, const fs::path& world, const fs::path& out) {
+  const std::vector<std::string> values = WorldData::DataFile(world / "PICS/pic.ini").values();
+  for (const std::string& name : std::set<std::string>(values.begin(), values.end())) {
+    easel.add(
+        out / name, [name] { return Pictures::PaintSubject(name); }, PortraitQuality);
+  }
+}
+
 }  // namespace
 
 std::string PaintAll(const fs::path& world, const fs::path& out) {
   Easel easel;
   AddRegions(easel, world, out / "program");
+  AddSubjects(easel, world, out / "program/PICS");
   return easel.run();
 }
 
