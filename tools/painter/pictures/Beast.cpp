@@ -14,11 +14,13 @@ void PaintNeck(Canvas& canvas, const Beast& beast) {
                 beast.hide.lit(0.72));
     return;
   }
+  canvas.flat(Angular({{14, 78}, {86, 78}, {100, 112}, {0, 112}}), beast.hide.lit(0.6).color());
   for (int tuft = 0; tuft < 11; ++tuft) {
     const double x = 10 + tuft * 8;
     const double y = 70 + std::abs(tuft - 5) * 3.2;
-    canvas.body(Angular({{x - 10, y - 12}, {x + 10, y - 12}, {x + 6, y + 44}, {x - 6, y + 44}}),
-                beast.hide.lit(0.6 + 0.09 * (tuft % 3)), 0.5);
+    canvas.body(
+        Rounded({{x - 9, y - 12}, {x + 9, y - 12}, {x + 8, y + 8}, {x, y + 26}, {x - 8, y + 8}}),
+        beast.hide.lit(0.6 + 0.09 * (tuft % 3)), 0.5);
   }
 }
 
