@@ -46,20 +46,47 @@ void FadeOut(std::vector<double>& sound, double seconds) {
   }
 }
 
+void FadeIn(std::vector<double>& sound, double seconds) {
+  const std::size_t length = std::min(sound.size(), Samples(seconds));
+  for (std::size_t i = 0; i < length; ++i) {
+    sound[i] *= static_cast<double>(i) / static_cast<double>(length);
+  }
+}
+
+// A string's shape when the finger leaves it: noise, the smoother the softer the touch, without
+// offset and of the same energy for every pitch.
+std::vector<double> Struck(std::size_t size, unsigned seed, double touch) {
+  std::vector<double> string(size);
+  Noise noise(seed);
+  double smooth = 0;
+  double smoother = 0;
+  double sum = 0;
+  for (double& sample : string) {
+    smooth += (noise.next() - smooth) * touch;
+    smoother += (smooth - smoother) * touch;
+    sample = smoother;
+    sum += sample;
+  }
+  double energy = 0;
+  for (double& sample : string) {
+    sample -= sum / static_cast<double>(size);
+    energy += sample * sample;
+  }
+  const double gain = 0.35 / std::sqrt(energy / static_cast<double>(size));
+  for (double& sample : string) {
+    sample *= gain;
+  }
+  return string;
+}
+
 // A burst of noise that runs round a string and loses its brightness on the way.
-std::vector<double> Pluck(const Score::Note& note, unsigned seed, double softness, double ring) {
+std::vector<double> Pluck(const Score::Note& note, unsigned seed, double touch, double ring) {
   const double period = SampleRate / Frequency(note.pitch);
   const auto size = static_cast<std::size_t>(period - 0.5);
   // The averaging filter delays by half a sample; an all-pass gives what is still missing.
   const double missing = period - 0.5 - static_cast<double>(size);
   const double tuning = (1 - missing) / (1 + missing);
-  std::vector<double> string(size);
-  Noise noise(seed);
-  double smooth = 0;
-  for (double& sample : string) {
-    smooth += (noise.next() - smooth) * softness;
-    sample = smooth;
-  }
+  std::vector<double> string = Struck(size, seed, touch);
   const double loss = std::pow(0.001, period / (ring * SampleRate));
   std::vector<double> sound(Samples(ring));
   double before = 0;
@@ -75,12 +102,10 @@ std::vector<double> Pluck(const Score::Note& note, unsigned seed, double softnes
     passedOut = tuned;
     cell = tuned;
   }
-  // Before it is heard, the noise in the string has some offset; a lute's body passes none.
-  double drift = 0;
   for (double& sample : sound) {
-    drift += (sample - drift) * 0.004;
-    sample = (sample - drift) * note.strength * 1.5 / std::sqrt(softness);
+    sample *= note.strength;
   }
+  FadeIn(sound, 0.004);
   FadeOut(sound, 0.3);
   return sound;
 }

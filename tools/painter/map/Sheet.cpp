@@ -27,7 +27,7 @@ constexpr Point Continent[] = {
 constexpr Point Ruins[] = {{850, 570}, {890, 535}, {945, 545}, {965, 600}, {930, 645}, {870, 635}};
 constexpr Point IsleWest[] = {{110, 330}, {150, 315}, {165, 350}, {125, 370}};
 constexpr Point IsleNorth[] = {{150, 150}, {180, 130}, {205, 160}, {170, 185}};
-constexpr Point IsleSouth[] = {{160, 680}, {200, 665}, {215, 700}, {175, 712}};
+constexpr Point IsleSouth[] = {{90, 560}, {130, 545}, {145, 580}, {105, 592}};
 constexpr Terrain::Outline Land[] = {Continent, Ruins, IsleWest, IsleNorth, IsleSouth};
 constexpr Point NorthCrest[] = {{300, 290}, {420, 270}, {560, 255}, {700, 270}};
 constexpr Point MiddleCrest[] = {{560, 350}, {640, 390}, {690, 440}};
@@ -44,7 +44,11 @@ constexpr Terrain::Shape World(Climate climate) {
           2200};
 }
 
-QImage PaintZone(Climate climate, const RegionStyle& style) {
+QImage PaintZone(Climate climate, std::string_view region) {
+  RegionStyle style = StyleOf(region);
+  // One sea surrounds all zones.
+  style.shallows = StyleOf("arvenna").shallows;
+  style.deep = StyleOf("arvenna").deep;
   const Terrain::Shape shape = World(climate);
   const Terrain::Field field = Terrain::MakeField(shape);
   QImage image = PaintRelief(field, style);
@@ -116,9 +120,9 @@ void DrawRivers(QPainter& painter, const Terrain::Field& field, const RegionStyl
 }
 
 QImage PaintWorldSheet() {
-  QImage sheet = PaintZone(Climate::Arctic, StyleOf("skaldor"));
-  Join(sheet, PaintZone(Climate::Temperate, StyleOf("arvenna")), 285);
-  Join(sheet, PaintZone(Climate::Desert, StyleOf("sarrakh")), 505);
+  QImage sheet = PaintZone(Climate::Arctic, "skaldor");
+  Join(sheet, PaintZone(Climate::Temperate, "arvenna"), 285);
+  Join(sheet, PaintZone(Climate::Desert, "sarrakh"), 505);
   AgePaper(sheet, 2720);
   return sheet;
 }
@@ -134,7 +138,7 @@ QImage PaintOverview(const QImage& sheet) {
   for (const Caption& caption : Captions) {
     DrawCaption(painter, style, caption);
   }
-  DrawCartouche(painter, titled, QPointF(60, 1180));
+  DrawCartouche(painter, titled, QPointF(56, 1300));
   DrawCompass(painter, style, QPointF(1850, 420), 110);
   DrawFrame(painter, style, image.size());
   painter.end();
