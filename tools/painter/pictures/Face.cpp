@@ -59,6 +59,18 @@ void PaintNose(Canvas& canvas, const Person& person) {
               person.skin.lit(1.25).color(120));
 }
 
+void PaintTusks(Canvas& canvas, const Person& person, double y) {
+  const double length = 5 + 3.2 * person.tusks;
+  const double root = 41 - person.tusks;
+  const QPainterPath tusk = Rounded(
+      {{root, y + 2}, {root - 1.2, y - length * 0.5}, {root + 1, y - length}, {root + 4.4, y + 2}});
+  canvas.body(tusk, Bone, 0.6);
+  // The one or other tusk was lost in a fight.
+  if (!person.scarred) {
+    canvas.body(Mirrored(tusk), Bone.lit(0.9), 0.6);
+  }
+}
+
 void PaintMouth(Canvas& canvas, const Person& person) {
   const double y = 62.5 + 0.8 * person.jaw;
   const double half = (person.woman ? 5.6 : 6.6) + 0.8 * person.width + (person.orc ? 2.5 : 0);
@@ -76,7 +88,7 @@ void PaintMouth(Canvas& canvas, const Person& person) {
   gap.quadTo(QPointF(50, y + 1), QPointF(50 + half, y - bend));
   canvas.line(gap, lips.towards(Ink, 0.7).color(), 0.9);
   if (person.orc) {
-    canvas.pair(Angular({{40.5, y + 1.5}, {42, y - 7.5}, {44.5, y + 1.5}}), Bone, 0.6);
+    PaintTusks(canvas, person, y);
   }
 }
 
@@ -95,8 +107,21 @@ void PaintMarks(Canvas& canvas, const Person& person) {
     canvas.line(QPointF(58, 33), QPointF(62, 54), person.skin.lit(1.2).color(), 1.5);
     canvas.line(QPointF(58.7, 33), QPointF(62.7, 54), Tone{150, 70, 60}.color(150), 0.7);
   }
-  if (person.painted) {
-    const QColor paint = person.role.trim.color(200);
+  if (person.noseRing) {
+    canvas.line(Oval({50, 59.5}, 3.0, 3.2), Ink.color(), 1.9);
+    canvas.line(Oval({50, 59.5}, 3.0, 3.2), Gold.color(), 1.2);
+  }
+  if (person.eyepatch) {
+    canvas.line(QPointF(50 - CheekOf(person), 30), QPointF(50 + CheekOf(person), 45), Ink.color(),
+                1.6);
+    canvas.flat(Rounded({{53, 37}, {65, 38}, {64, 47}, {58, 50}, {53, 46}}), Ink.color());
+  }
+  const QColor paint = person.role.trim.color(200);
+  if (person.painted && person.hairStyle % 2 == 1) {
+    canvas.line(QPointF(36, 38), QPointF(37, 60), paint, 2.6);
+    canvas.line(QPointF(41, 37), QPointF(42, 64), paint, 2.6);
+    canvas.line(QPointF(46, 70), QPointF(54, 70), paint, 2.6);
+  } else if (person.painted) {
     canvas.line(QPointF(34, 47), QPointF(44, 51), paint, 2.2);
     canvas.line(QPointF(66, 47), QPointF(56, 51), paint, 2.2);
     canvas.line(QPointF(50, 24), QPointF(50, 35), paint, 2.0);

@@ -1,5 +1,7 @@
 #include "pictures/Face.h"
 
+#include <cmath>
+
 namespace Pictures {
 
 namespace {
@@ -138,6 +140,64 @@ void PaintFurCap(Canvas& canvas, const Person& person) {
               Tone{150, 128, 100});
 }
 
+void PaintHornedHelmet(Canvas& canvas, const Person& person) {
+  const double cheek = CheekOf(person) + 1;
+  canvas.pair(Rounded({{54 - cheek, 20},
+                       {40 - cheek, 14},
+                       {38 - cheek, -2},
+                       {45 - cheek, 8},
+                       {58 - cheek, 13}}),
+              Bone.lit(0.9));
+  canvas.body(Rounded({{50, 6},
+                       {50 - cheek * 0.8, 12},
+                       {50 - cheek, 31},
+                       {50, 27},
+                       {50 + cheek, 31},
+                       {50 + cheek * 0.8, 12}}),
+              Steel.towards(Wood, 0.45));
+  canvas.body(Angular({{47.5, 27}, {52.5, 27}, {51.5, 42}, {48.5, 42}}), Steel.lit(0.8), 0.6);
+}
+
+void PaintOrcHair(Canvas& canvas, const Person& person) {
+  const double cheek = CheekOf(person);
+  switch (person.hairStyle) {
+    case 1:
+      return PaintHornedHelmet(canvas, person);
+    case 2:
+      for (const double x : {50 - cheek, 50 + cheek}) {
+        for (int knot = 0; knot < 5; ++knot) {
+          canvas.body(Oval({x, 34 + knot * 8.0}, 3.4, 4.6), person.hair, 0.5);
+        }
+      }
+      [[fallthrough]];
+    case 3:
+      canvas.body(Rounded({{50, 11},
+                           {50 - cheek * 0.8, 16},
+                           {52 - cheek, 32},
+                           {40, 25},
+                           {50, 23},
+                           {60, 25},
+                           {48 + cheek, 32},
+                           {50 + cheek * 0.8, 16}}),
+                  person.hair);
+      return;
+    case 4:
+      canvas.body(Rounded({{46, 18}, {42, 4}, {50, 2}, {60, 6}, {54, 18}}), person.hair);
+      return;
+    case 5:
+      for (int spike = -3; spike <= 3; ++spike) {
+        const double x = 50 + spike * 4.2;
+        canvas.body(Angular({{x - 3, 20.0 + std::abs(spike)},
+                             {x, 4.0 + std::abs(spike) * 2},
+                             {x + 3, 20.0 + std::abs(spike)}}),
+                    person.hair, 0.5);
+      }
+      return;
+    default:
+      return;
+  }
+}
+
 }  // namespace
 
 void PaintBackHair(Canvas& canvas, const Person& person) {
@@ -162,10 +222,7 @@ void PaintBackHair(Canvas& canvas, const Person& person) {
 
 void PaintHair(Canvas& canvas, const Person& person) {
   if (person.orc) {
-    if (person.hairStyle > 2) {
-      canvas.body(Rounded({{46, 18}, {42, 4}, {50, 2}, {60, 6}, {54, 18}}), person.hair);
-    }
-    return;
+    return PaintOrcHair(canvas, person);
   }
   if (IsBald(person)) {
     return;
@@ -196,6 +253,11 @@ void PaintHair(Canvas& canvas, const Person& person) {
 }
 
 void PaintBeard(Canvas& canvas, const Person& person) {
+  if (person.orc && person.beard > 3) {
+    canvas.body(Rounded({{44, 71}, {50, 70}, {56, 71}, {54, 84}, {50, 92}, {46, 84}}), person.hair,
+                0.6);
+    canvas.line(QPointF(46.5, 82), QPointF(53.5, 82), Gold.color(), 2);
+  }
   if (person.woman || person.orc || person.beard == 0) {
     return;
   }

@@ -152,7 +152,9 @@ constexpr Role Roles[] = {{"firemage",
 constexpr Tone Skins[] = {{242, 206, 178}, {230, 190, 156}, {236, 196, 168}, {214, 168, 130},
                           {226, 180, 148}, {190, 142, 104}, {204, 158, 122}};
 constexpr Tone SouthernSkins[] = {{190, 138, 98}, {164, 114, 78}, {142, 96, 64}, {206, 156, 114}};
-constexpr Tone OrcSkins[] = {{112, 134, 72}, {128, 124, 78}, {92, 118, 86}, {134, 142, 96}};
+constexpr Tone OrcSkins[] = {{104, 138, 66}, {146, 138, 78},  {78, 112, 96}, {154, 160, 104},
+                             {132, 110, 82}, {116, 124, 122}, {70, 92, 62}};
+constexpr Tone OrcEyes[] = {{226, 168, 40}, {206, 54, 36}, {238, 232, 120}, {120, 200, 190}};
 constexpr Tone Hairs[] = {{52, 38, 30},    {86, 56, 34},  {128, 82, 44}, {196, 152, 84},
                           {222, 190, 126}, {150, 66, 32}, {36, 32, 34},  {106, 88, 70}};
 constexpr Tone Greys[] = {{176, 172, 168}, {216, 214, 208}, {140, 136, 134}};
@@ -198,17 +200,24 @@ Person MakePerson(std::string_view sex, std::string_view role, std::string_view 
                                    : Pick(random, Skins);
   person.skin = Varied(random, person.skin, 0.03);
   person.hair = person.old || person.ghost ? Pick(random, Greys) : Pick(random, Hairs);
-  person.eyes = person.orc ? Tone{214, 160, 40} : Pick(random, Eyes);
+  person.eyes = person.orc ? Pick(random, OrcEyes) : Pick(random, Eyes);
   person.cloth = Varied(random, person.role.cloth, 0.18);
   person.backdrop = Varied(random, person.role.backdrop, 0.16);
   person.hairStyle = random.below(6);
   person.beard = person.woman ? 0 : random.below(7);
   person.scenery = random.below(5);
+  if (person.orc) {
+    person.hair = Varied(random, person.hair, 0.3);
+    person.backdrop = Varied(random, person.backdrop, 0.35);
+  }
   person.covered = random.chance(0.72);
   person.scarred = random.chance(0.22);
   person.painted = random.chance(person.orc ? 0.6 : 0.06);
   person.earrings = random.chance(person.woman || person.orc ? 0.5 : 0.15);
   person.mirrored = random.chance(0.5);
+  person.tusks = random.below(4);
+  person.eyepatch = random.chance(person.orc ? 0.2 : 0.03);
+  person.noseRing = random.chance(person.orc ? 0.35 : 0.0);
   for (double* part :
        {&person.width, &person.jaw, &person.nose, &person.brow, &person.mouth, &person.eyeSize}) {
     *part = random.between(-1, 1);

@@ -55,6 +55,10 @@ struct Person {
   bool scarred = false;
   bool painted = false;
   bool earrings = false;
+  bool eyepatch = false;
+  bool noseRing = false;
+  /// Orcs only: 0 to 3, which and how long.
+  int tusks = 0;
   bool mirrored = false;
   /// Parts of the face, -1 to 1 around the average.
   double width = 0, jaw = 0, nose = 0, brow = 0, mouth = 0, eyeSize = 0;

@@ -320,7 +320,14 @@ bool PaintScene(Canvas& canvas, std::string_view kind, std::string_view name) {
   }
   Random random(NameSeed(name));
   PaintSky(canvas, random);
+  QPainter& painter = canvas.painter();
+  painter.save();
+  // Seen from the one or other side, from nearer or farther.
+  const double near = random.between(1.0, 1.18);
+  const double side = random.chance(0.5) ? near : -near;
+  painter.setTransform(QTransform(side, 0, 0, near, 50 - 50 * side, 90 - 90 * near), true);
   found->paint(canvas, random);
+  painter.restore();
   return true;
 }
 
