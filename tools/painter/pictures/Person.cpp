@@ -207,7 +207,7 @@ Person MakePerson(std::string_view sex, std::string_view role, std::string_view 
   person.beard = person.woman ? 0 : random.below(7);
   person.scenery = random.below(5);
   if (person.orc) {
-    person.hair = Varied(random, person.hair, 0.3);
+    person.hair = Varied(random, person.hair, 0.1);
     person.backdrop = Varied(random, person.backdrop, 0.35);
   }
   person.covered = random.chance(0.72);
