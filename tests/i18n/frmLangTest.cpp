@@ -162,40 +162,33 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
 }
 
 TEST(frmLang, FourFoldersThroughStartUpAndSelect) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/Sound/Sound.lng", English);
-  folder.Write("LANG/Without/readme.html", "x");
-  folder.Write("LANG/Claims/Claims.lng",
-               "[general]\r\nlanguage=Deutsch\r\n[menus]\r\nmnuFile=X\r\n");
-  folder.Write("LANG/Blanks/Blanks.lng", "[general]\r\nlanguage=\" English \"\r\n");
-
   const struct {
-    TextView folder;
-    TextView row;
+    const char* languageFile;
     TextView started;
     TextView selectedAtStart;
     const char* caption;
     TextView chosen;
     TextView fileMenu;
   } cases[] = {
-      {u"Sound", u" English", u"English", u" English", "Languages", u"English", u"&File"},
-      {u"Without", u" ?", u"Deutsch", u" Deutsch", "Sprache auswählen", u"Deutsch", u"File"},
-      {u"Claims", u" Deutsch", u"Deutsch", u" Deutsch", "Sprache auswählen", u"Deutsch", u"&Datei"},
-      {u"Blanks", u" English", u" English ", u"", "Choose language", u"English", u"File"},
+      {English, u"English", u" English", "Languages", u"English", u"&File"},
+      {nullptr, u"Deutsch", u" Deutsch", "Sprache auswählen", u"Deutsch", u"File"},
+      {"[general]\nlanguage=Deutsch\n[menus]\nmnuFile=X\n", u"Deutsch", u" Deutsch",
+       "Sprache auswählen", u"Deutsch", u"&Datei"},
+      {"[general]\nlanguage=\" English \"\n", u" English ", u"", "Choose language", u"English",
+       u"File"},
   };
 
   for (const auto& test : cases) {
-    const TemporaryFolder one;
-    const std::string name = QtText::ToQt(test.folder).toStdString();
-    const std::string file = "LANG/" + name + '/' + name + ".lng";
-    one.Write("LANG/" + name + "/readme.html", "x");
-    if (const std::string bytes = folder.Read(file); !bytes.empty())
-      one.Write(file, bytes);
-    Session session(one, test.folder);
-    const Text path = one.Path(QtText::FromQt(QString::fromStdString(file)));
-    EXPECT_EQ(session.language.CurrentLanguage, test.started);
-    EXPECT_EQ(session.language.LanguageFolder, test.folder);
-    EXPECT_EQ(session.language.LanguageFile, path);
+    const TemporaryFolder folder;
+    folder.Write("LANG/F/readme.html", "x");
+    if (test.languageFile)
+      folder.Write("LANG/F/F.lng", test.languageFile);
+    Session session(folder, u"F");
+    const Text path = folder.Path(u"LANG/F/F.lng");
+    const auto& language = session.language;
+    EXPECT_EQ(language.CurrentLanguage, test.started);
+    EXPECT_EQ(language.LanguageFolder, u"F");
+    EXPECT_EQ(language.LanguageFile, path);
     EXPECT_EQ(session.List().Text(), test.selectedAtStart);
     EXPECT_EQ(session.dialog.windowTitle().toStdString(), test.caption);
 
@@ -204,12 +197,12 @@ TEST(frmLang, FourFoldersThroughStartUpAndSelect) {
         session.List().Select(row);
     QTest::mouseClick(session.Find<QPushButton>("btnSelect"), Qt::LeftButton);
     EXPECT_FALSE(session.dialog.isVisible());
-    EXPECT_EQ(session.language.CurrentLanguage, test.chosen);
-    EXPECT_EQ(session.language.LanguageFolder, test.folder);
-    EXPECT_EQ(session.language.LanguageFile, path);
+    EXPECT_EQ(language.CurrentLanguage, test.chosen);
+    EXPECT_EQ(language.LanguageFolder, u"F");
+    EXPECT_EQ(language.LanguageFile, path);
     ASSERT_FALSE(session.menus.empty());
     EXPECT_EQ(session.menus[0], test.fileMenu);
-    EXPECT_EQ(session.settingsAtChange, "[general]\r\nlanguage=" + name + "\r\n");
+    EXPECT_EQ(session.settingsAtChange, "[general]\r\nlanguage=F\r\n");
   }
 }
 
