@@ -53,10 +53,7 @@ constexpr ControlDesign Controls[] = {
      .text = u"{Beschreibung}",
      .bold = true},
     {.name = u"lblEMailLabel", .place = {225, 4485, 495, 240}, .text = u"eMail:", .bold = true},
-    {.name = u"lblEMail",
-     .place = {1095, 4485, 5100, 240},
-     .text = Product::EMail,
-     .bold = true},
+    {.name = u"lblEMail", .place = {1095, 4485, 5100, 240}, .text = Product::EMail, .bold = true},
     {.name = u"lblWebSiteLabel", .place = {240, 4815, 780, 240}, .text = u"WebSite:", .bold = true},
     {.name = u"lblWebSite",
      .place = {1095, 4815, 5100, 240},
@@ -165,8 +162,7 @@ void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& langua
                           const Text& edition) {
   setWindowTitle(ToQt(Texts::Join(u"Über ", Product::Title, u" ", edition)));
   Label(u"lblTitle").setText(ToQt(Product::Title));
-  Label(u"lblVersion")
-      .setText(ToQt(Texts::Join(u"Version: ", Product::Version, u" ", edition)));
+  Label(u"lblVersion").setText(ToQt(Texts::Join(u"Version: ", Product::Version, u" ", edition)));
   Label(u"lblCopyright").setText(ToQt(Product::Copyright));
   Label(u"lblDescription").setText(ToQt(Product::Description));
   if (!language.IsGerman())

@@ -71,8 +71,8 @@ void frmExtras::applyTexts(IniOps::Snapshot& files) {
     Add(text(extra.key, extra.english, extra.german), extra.file);
 }
 
-void frmExtras::Add(TextView Text, TextView File) {
-  glbExtras->AddItem(Text, imgList->pixmap(), File);
+void frmExtras::Add(TextView name, TextView File) {
+  glbExtras->AddItem(name, imgList->pixmap(), File);
 }
 
 void frmExtras::btnSelect_Click() {

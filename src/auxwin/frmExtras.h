@@ -20,9 +20,9 @@ class frmExtras : public Dialog {
 
  private:
   void applyTexts(IniOps::Snapshot& files);
-  void Add(TextView Text, TextView File);
+  void Add(TextView name, TextView File);
   void btnSelect_Click();
-  [[nodiscard]] ::Text Copy(TextView File) const;
+  [[nodiscard]] Text Copy(TextView File) const;
   void Show_EXE(TextView File);
   void Show_HTML(TextView File);
   void Show_CHM(TextView File);
