@@ -166,6 +166,8 @@ std::string ProfileFile::WithValue(std::string_view section, std::string_view ke
                                    std::string_view value) const {
   const auto offset = [this](const char* at) { return static_cast<size_t>(at - bytes_.data()); };
   const std::string end(LineEnd());
+  // Blanks around it would not be read, but would grow with every write.
+  value = Strip(value, Blanks);
   const std::string entry = std::string(key) + '=' + std::string(value);
   std::string changed = bytes_;
   if (const KeyLine* line = FindKey(section, key)) {
