@@ -2,6 +2,7 @@
 #include "app/MenuTable.h"
 #include "docs/Document.h"
 #include "mapdata/IniOps.h"
+#include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 
 #include <algorithm>
@@ -58,6 +59,15 @@ TEST(DocumentedCategories, AreTheCategoriesOfEachRegion) {
     if (row.kind == MenuRow::Kind::Category)
       offered.insert({std::to_string(row.region), Narrow(row.category), Mode(row.mode)});
   EXPECT_EQ(documented, offered);
+}
+
+TEST(DocumentedPerks, AreThePerksOfTheProgram) {
+  Table expected;
+  for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks)
+    expected.push_back({Narrow(PerkCatalogue::LanguageKey(perk)),
+                        Narrow(PerkCatalogue::English(perk)), Narrow(perk.german),
+                        Narrow(perk.key)});
+  EXPECT_EQ(Document::Read("translators.md").Table("[frmPerks]: the perks"), expected);
 }
 
 class DocumentedSections : public testing::TestWithParam<const char*> {};
