@@ -127,12 +127,10 @@ class Program {
 
   std::string PortraitOf(const Text& key) {
     const Text list = Texts::Join(paths_.picturesFolder, u"pic.ini");
-    const Text file =
-        Texts::Join(paths_.picturesFolder, files_.IniRead(list, u"pics", key, u""));
+    const Text file = Texts::Join(paths_.picturesFolder, files_.IniRead(list, u"pics", key, u""));
     const auto native = FileSystem::Resolve(file);
-    return native && FileSystem::FileExists(file)
-               ? native->substr(folder_.Native("").size())
-               : "placeholder";
+    return native && FileSystem::FileExists(file) ? native->substr(folder_.Native("").size())
+                                                  : "placeholder";
   }
 
  private:
@@ -150,22 +148,18 @@ class Program {
 
 // Examples that show everything there is, line by line.
 const std::map<std::string, Lines (Program::*)()> Listings = {
-    {"markers", &Program::Markers}, {"list", &Program::List},       {"sections", &Program::Sections},
-    {"caption", &Program::Caption}, {"missing", &Program::Missing},
+    {"markers", &Program::Markers},   {"list", &Program::List},
+    {"sections", &Program::Sections}, {"caption", &Program::Caption},
+    {"missing", &Program::Missing},
 };
 
 // Examples of lines "question -> answer".
 const std::map<std::string, std::string (Program::*)(const Text&)> Questions = {
-    {"value", &Program::Value},
-    {"picked", &Program::Picked},
-    {"found", &Program::Found},
-    {"names", &Program::NameOf},
-    {"keys", &Program::KeyOf},
-    {"language", &Program::LanguageOf},
-    {"menus", &Program::MenuCaptionOf},
-    {"description", &Program::DescriptionOf},
-    {"tooltip", &Program::ToolTipOf},
-    {"portrait", &Program::PortraitOf},
+    {"value", &Program::Value},         {"picked", &Program::Picked},
+    {"found", &Program::Found},         {"names", &Program::NameOf},
+    {"keys", &Program::KeyOf},          {"language", &Program::LanguageOf},
+    {"menus", &Program::MenuCaptionOf}, {"description", &Program::DescriptionOf},
+    {"tooltip", &Program::ToolTipOf},   {"portrait", &Program::PortraitOf},
 };
 
 void Write(const TemporaryFolder& folder, const Document::Block& block) {
