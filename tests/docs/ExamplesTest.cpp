@@ -32,6 +32,10 @@ std::string Narrow(TextView text) {
   return NativePath::ToBytes(text);
 }
 
+std::string Encoded(TextView text) {
+  return Windows1252::Encode(text).value();
+}
+
 std::string Shown(const EntityFile::Position& position) {
   return std::to_string(position.x) + "," + std::to_string(position.y);
 }
@@ -92,7 +96,7 @@ class Program {
   std::string Found(const Text& key) {
     if (EntityFile::IsDisabled(key) || EntityFile::IsHiddenFromSearch(key))
       return "not found";
-    const auto found = EntityFile::ReadFound(files_, File(), Section(), key);
+    const auto found = EntityFile::ReadFound(files_.File(File()), Encoded(Section()), Encoded(key));
     return found.invalidLink ? "invalid link to " + Narrow(found.target) : Shown(found.position);
   }
 
@@ -167,8 +171,7 @@ void Write(const TemporaryFolder& folder, const Document::Block& block) {
   for (const std::string& line : block.body)
     utf8 += line + "\r\n";
   const bool asUtf8 = block.attributes.contains("encoding");
-  folder.Write(block.attributes.at("file"),
-               asUtf8 ? utf8 : Windows1252::Encode(Wide(utf8)).value());
+  folder.Write(block.attributes.at("file"), asUtf8 ? utf8 : Encoded(Wide(utf8)));
 }
 
 void Check(const TemporaryFolder& folder, const Document::Block& block) {
