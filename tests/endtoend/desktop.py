@@ -1,6 +1,7 @@
 """Drives Orvalis on an X server as a user does: keys, the pointer, and what the screen shows."""
 
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -82,9 +83,11 @@ class Program:
         time.sleep(0.2)
 
     def geometry(self, window=None):
-        lines = xdotool("getwindowgeometry", "--shell", window or self.window).split()
-        values = dict(line.split("=") for line in lines)
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        """Left, top, width and height of the client area on the screen."""
+        info = subprocess.run(["xwininfo", "-id", window or self.window], check=True, capture_output=True,
+                              text=True).stdout
+        return tuple(int(re.search(name + r":\s+(-?\d+)", info).group(1))
+                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def resize(self, width, height):
         xdotool("windowsize", "--sync", self.window, width, height)

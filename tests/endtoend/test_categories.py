@@ -9,7 +9,7 @@ START_HEIGHT = 769
 CATEGORIES = [
     ("arvenna.data", "friendsX", ["alt+a", "Right", "f"]),
     ("skaldor.data", "friendsX", ["alt+a", "Escape", "Right", "Down", "Right", "f"]),
-    ("sarrakh.data", "nomads", ["alt+a", "Escape", "Right", "Right", "Down", "Right", "n", "n", "Return"]),
+    ("sarrakh.data", "friendsX", ["alt+a", "Escape", "Right", "Right", "Down", "Right", "f"]),
     ("ostrakh.data", "NPC", ["alt+o", "Right", "n"]),
     ("ancestors.data", "orcs", ["alt+h", "Right", "o"]),
 ]
