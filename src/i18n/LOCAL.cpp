@@ -9,9 +9,19 @@ namespace {
 
 constexpr TextView Entities = u"entities";
 
+// Most names hold no region's word: they cost no copy.
+void Replace(Text& text, TextView part, TextView by) {
+  if (text.find(part) != Text::npos)
+    text = ReplaceAll(text, part, by);
+}
+
 }  // namespace
 
 namespace LOCAL {
+
+Text FileOfLanguage(TextView root, TextView folder, TextView suffix) {
+  return Texts::Join(root, folder, FileSystem::Separator, folder, suffix);
+}
 
 Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, TextView english,
                       TextView german) const {
@@ -20,9 +30,24 @@ Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, T
 
 void Language::StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder) {
   LanguageRoot = root;
-  LanguageFile = Texts::Join(root, folder, FileSystem::Separator, folder, u".lng");
+  LanguageFile = FileOfLanguage(root, folder, u".lng");
   LanguageFolder = folder;
   CurrentLanguage = files.IniRead(LanguageFile, u"general", u"language", German);
+}
+
+void Language::Choose(IniOps::Snapshot& files, const Text& file) {
+  LanguageFile = file;
+  if (file == BuiltIn) {
+    CurrentLanguage = German;
+    LanguageFolder = German;
+    return;
+  }
+  CurrentLanguage = Trim(files.IniRead(file, u"general", u"language", u""));
+  LanguageFolder = Trim(FileSystem::GetBaseName(file));
+}
+
+bool Language::IsToBeOffered(TextView systemLanguage) const {
+  return IsGerman() && Texts::Lower(Trim(systemLanguage)) != u"deu";
 }
 
 void Language::CacheTranslationTable(IniOps::Snapshot& files) {
@@ -30,40 +55,63 @@ void Language::CacheTranslationTable(IniOps::Snapshot& files) {
     CurrentLanguage = German;
   if (IsGerman())
     return;
-  EntityKeys_ = files.IniReadFile(LanguageFile, Entities);
-  EntityTranslations_.clear();
-  for (const Text& key : EntityKeys_)
-    EntityTranslations_.push_back(files.IniRead(LanguageFile, Entities, key, u""));
+  EntityKeys_ = PrefixIndex(files.IniReadFile(LanguageFile, Entities));
+  tableFile_ = files.Shared(LanguageFile);
+  file_ = nullptr;
+}
+
+void Language::Refresh(IniOps::Snapshot& files) {
+  const auto& now = files.Shared(LanguageFile);
+  if (file_ == now)
+    return;
+  file_ = now;
+  for (RegionWord& region : RegionWords_)
+    region.translation = IniOps::IniRead(*file_, Entities, region.word, region.word);
+  values_.assign(EntityKeys_.size(), std::nullopt);
+}
+
+const Text& Language::ValueOf(size_t key) {
+  auto& value = values_[key];
+  if (!value)
+    value = IniOps::IniRead(*file_, Entities, EntityKeys_[key], u"");
+  return *value;
 }
 
 Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
+  Refresh(files);
   Text shown(Trim(name));
-  for (RegionWord& region : RegionWords_) {
-    region.translation = files.IniRead(LanguageFile, Entities, region.word, region.word);
-    shown = ReplaceAll(shown, region.word, region.translation);
+  for (const RegionWord& region : RegionWords_)
+    Replace(shown, region.word, region.translation);
+  const auto key = EntityKeys_.FirstPrefixOf(shown);
+  if (!key)
+    return shown;
+  Text translated = ReplaceAll(shown, EntityKeys_[*key], ValueOf(*key));
+  return Trim(translated).empty() ? shown : translated;
+}
+
+void Language::IndexTranslations() {
+  std::vector<Text> translations;
+  translations.reserve(EntityKeys_.size());
+  for (size_t key = 0; key < EntityKeys_.size(); ++key) {
+    Text translation = IniOps::IniRead(*tableFile_, Entities, EntityKeys_[key], u"");
+    // Else a blank translation would match every name.
+    translations.push_back(Trim(translation).empty() ? u";" : std::move(translation));
   }
-  for (const Text& key : EntityKeys_) {
-    if (!shown.starts_with(key))
-      continue;
-    Text translated = ReplaceAll(shown, key, files.IniRead(LanguageFile, Entities, key, u""));
-    return Trim(translated).empty() ? shown : translated;
-  }
-  return shown;
+  EntityTranslations_ = PrefixIndex(std::move(translations));
+  tableFile_ = nullptr;
 }
 
 Text Language::UnlocalizeEntityName(TextView text) {
+  if (tableFile_)
+    IndexTranslations();
   Text name(Trim(text));
   for (const RegionWord& region : RegionWords_)
-    name = ReplaceAll(name, region.translation, region.word);
-  for (size_t i = 0; i < EntityTranslations_.size(); ++i) {
-    if (Trim(EntityTranslations_[i]).empty())
-      EntityTranslations_[i] = u";";
-    if (!name.starts_with(EntityTranslations_[i]))
-      continue;
-    Text key = ReplaceAll(name, EntityTranslations_[i], EntityKeys_[i]);
-    return Trim(key).empty() ? name : key;
-  }
-  return name;
+    Replace(name, region.translation, region.word);
+  const auto number = EntityTranslations_.FirstPrefixOf(name);
+  if (!number)
+    return name;
+  Text key = ReplaceAll(name, EntityTranslations_[*number], EntityKeys_[*number]);
+  return Trim(key).empty() ? name : key;
 }
 
 Text Language::Shown(IniOps::Snapshot& files, TextView key) {

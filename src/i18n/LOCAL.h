@@ -1,10 +1,13 @@
 #pragma once
 
+#include "i18n/PrefixIndex.h"
 #include "mapdata/EntityNames.h"
 #include "mapdata/IniOps.h"
 #include "platform/Text.h"
 
 #include <array>
+#include <memory>
+#include <optional>
 #include <vector>
 
 /// The interface language: built-in German, or a folder under the language root with a language
@@ -13,6 +16,12 @@ namespace LOCAL {
 
 /// The name of the built-in language, compared exactly.
 inline constexpr TextView German = u"Deutsch";
+
+/// Stands for the path of a language file while German is the user's choice.
+inline constexpr TextView BuiltIn = u"*";
+
+/// A file of a language folder that bears the folder's name; `suffix` as ".lng".
+[[nodiscard]] Text FileOfLanguage(TextView root, TextView folder, TextView suffix);
 
 /// The one language state of the program.
 ///
@@ -43,6 +52,14 @@ class Language : public EntityNames {
   /// holds no language file which declares its name.
   void StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder);
 
+  /// Chooses the language of a language file, or German with `BuiltIn`. The name it declares may
+  /// be empty until the table of entity names is built.
+  void Choose(IniOps::Snapshot& files, const Text& file);
+
+  /// Whether start-up asks for the language: German is active and the system, by its three-letter
+  /// abbreviation, speaks another or an unknown one.
+  [[nodiscard]] bool IsToBeOffered(TextView systemLanguage) const;
+
   /// Builds the table of entity names for the current language; German leaves it as it was.
   void CacheTranslationTable(IniOps::Snapshot& files);
 
@@ -62,14 +79,25 @@ class Language : public EntityNames {
     Text translation;
   };
 
+  void Refresh(IniOps::Snapshot& files);
+  const Text& ValueOf(size_t key);
+  void IndexTranslations();
+
   Text programInfoFile_;
-  std::vector<Text> EntityKeys_;
-  std::vector<Text> EntityTranslations_;
+  PrefixIndex EntityKeys_;
   std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
                                              {u"Skaldor", {}},
                                              {u"Sarrakh", {}},
                                              {u"Ostrakh", {}},
                                              {u"Tempel von", {}}}};
+  // The language file as names were last translated from it: its region words are in use, and
+  // the values of keys that were met since.
+  std::shared_ptr<const ProfileFile> file_;
+  std::vector<std::optional<Text>> values_;
+  // The language file as the table was built from it, until the translations are wanted: most
+  // events only translate one way.
+  std::shared_ptr<const ProfileFile> tableFile_;
+  PrefixIndex EntityTranslations_;
 };
 
 }  // namespace LOCAL

@@ -1,6 +1,7 @@
 #include "mapdata/EntityFile.h"
 
 #include "mapdata/StringOps.h"
+#include "platform/Windows1252.h"
 
 #include <algorithm>
 
@@ -84,11 +85,17 @@ std::optional<Position> ReadPicked(Snapshot& files, TextView dataFile, TextView 
   return Position{*x, *y};
 }
 
-Found ReadFound(Snapshot& files, TextView dataFile, TextView category, TextView key) {
-  const Text own = files.IniRead(dataFile, category, key, u"");
-  const Text value = PositionValue(files, dataFile, key, own);
-  if (IsLink(own) && Trim(GetField(value, 1, Comma)).empty())
-    return {{}, true, Text(LinkTarget(own))};
+Found ReadFound(const ProfileFile& dataFile, std::string_view category, std::string_view key) {
+  const auto read = [&dataFile, key](std::string_view section) {
+    return Windows1252::Decode(IniOps::IniReadBytes(dataFile, section, key));
+  };
+  Text value = read(category);
+  if (IsLink(value)) {
+    Text target(LinkTarget(value));
+    value = read(Windows1252::Encode(target).value_or(std::string()));
+    if (Trim(GetField(value, 1, Comma)).empty())
+      return {{}, true, std::move(target)};
+  }
   return {{StringOps::WholeNumber(GetField(value, 1, Comma)).value_or(0),
            StringOps::WholeNumber(GetField(value, 2, Comma)).value_or(0)},
           false,

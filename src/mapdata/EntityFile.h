@@ -59,8 +59,9 @@ struct Found {
 [[nodiscard]] std::optional<Position> ReadPicked(IniOps::Snapshot& files, TextView dataFile,
                                                  TextView category, TextView key);
 
-/// The position of one entity for the search; a field that is no number counts 0.
-[[nodiscard]] Found ReadFound(IniOps::Snapshot& files, TextView dataFile, TextView category,
-                              TextView key);
+/// The position of one entity for the search, which asks for all of a file by its bytes; a field
+/// that is no number counts 0.
+[[nodiscard]] Found ReadFound(const ProfileFile& dataFile, std::string_view category,
+                              std::string_view key);
 
 }  // namespace EntityFile

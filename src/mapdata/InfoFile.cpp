@@ -3,6 +3,7 @@
 namespace {
 
 constexpr TextView Section = u"info";
+constexpr std::string_view SectionBytes = "info";
 constexpr TextView LineBreak = u"\\n";
 constexpr size_t TooltipLength = 80;
 
@@ -20,6 +21,13 @@ Text ReadRedirected(IniOps::Snapshot& files, TextView file, TextView key,
   if (!description.starts_with(u'#'))
     return description;
   return ReadEntry(files, file, targetKey(Texts::Trim(TextView(description).substr(1))));
+}
+
+std::string_view ReadRedirectedBytes(const ProfileFile& file, std::string_view key) {
+  const std::string_view description = IniOps::IniReadBytes(file, SectionBytes, key);
+  return description.starts_with('#')
+             ? IniOps::IniReadBytes(file, SectionBytes, description.substr(1))
+             : description;
 }
 
 Text TooltipOf(TextView description) {

@@ -18,6 +18,10 @@ namespace InfoFile {
 [[nodiscard]] Text ReadRedirected(IniOps::Snapshot& files, TextView file, TextView key,
                                   const std::function<Text(TextView)>& targetKey);
 
+/// The same where no key is translated, as the bytes that stand in the file, for callers with
+/// thousands of questions.
+[[nodiscard]] std::string_view ReadRedirectedBytes(const ProfileFile& file, std::string_view key);
+
 /// The start of a description for a tooltip: its first 80 characters and "...", line breaks as
 /// blanks; "" for a description of blanks alone.
 [[nodiscard]] Text TooltipOf(TextView description);

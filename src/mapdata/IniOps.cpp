@@ -17,18 +17,6 @@ std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
   return std::make_shared<const ProfileFile>(std::move(bytes));
 }
 
-// A name asked for that Windows-1252 can't hold stands in no file.
-Text Value(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
-  const auto sectionBytes = Windows1252::Encode(section);
-  const auto keyBytes = Windows1252::Encode(key);
-  if (!sectionBytes || !keyBytes)
-    return Text(defaultValue);
-  const auto value = file.Value(*sectionBytes, *keyBytes);
-  if (!value || value->empty())
-    return Text(defaultValue);
-  return Windows1252::Decode(value->substr(0, IniOps::LongestValue));
-}
-
 std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
   std::vector<Text> texts;
   texts.reserve(names.size());
@@ -79,15 +67,15 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   return kept_.emplace_back(Text(file), contents->stamp, std::move(profile)).profile;
 }
 
-const ProfileFile& Snapshot::File(TextView file) {
+const std::shared_ptr<const ProfileFile>& Snapshot::Shared(TextView file) {
   for (const Seen& seen : seen_)
     if (seen.path == file)
-      return *seen.profile;
-  return *seen_.emplace_back(Text(file), cache_.Get(file)).profile;
+      return seen.profile;
+  return seen_.emplace_back(Text(file), cache_.Get(file)).profile;
 }
 
 Text Snapshot::IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {
-  return Value(File(file), section, key, defaultValue);
+  return IniOps::IniRead(File(file), section, key, defaultValue);
 }
 
 std::vector<Text> Snapshot::IniSectionNames(TextView file) {
@@ -96,6 +84,21 @@ std::vector<Text> Snapshot::IniSectionNames(TextView file) {
 
 std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
+}
+
+std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                              std::string_view key) {
+  return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
+}
+
+Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
+  const auto sectionBytes = Windows1252::Encode(section);
+  const auto keyBytes = Windows1252::Encode(key);
+  // A name asked for that Windows-1252 can't hold stands in no file.
+  if (!sectionBytes || !keyBytes)
+    return Text(defaultValue);
+  const auto value = IniReadBytes(file, *sectionBytes, *keyBytes);
+  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
 Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

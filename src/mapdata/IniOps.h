@@ -42,7 +42,10 @@ class Snapshot {
   explicit Snapshot(Cache& cache) : cache_(cache) {}
 
   /// The file itself, for callers with thousands of questions.
-  [[nodiscard]] const ProfileFile& File(TextView file);
+  [[nodiscard]] const ProfileFile& File(TextView file) { return *Shared(file); }
+
+  /// The same to keep: two that are the same object hold the same contents.
+  [[nodiscard]] const std::shared_ptr<const ProfileFile>& Shared(TextView file);
 
   /// The value of the key, or the default if there is none or it is empty. Letter case and blanks
   /// around section and key don't count.
@@ -64,6 +67,14 @@ class Snapshot {
   Cache& cache_;
   std::deque<Seen> seen_;
 };
+
+/// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
+[[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                                            std::string_view key);
+
+/// A question to a file that was read before; see `Snapshot::IniRead`.
+[[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
+                           TextView defaultValue);
 
 /// One question to the file as it stands now; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);

@@ -2,7 +2,9 @@
 
 #include "mapdata/ProfileLines.h"
 
+#include <algorithm>
 #include <bit>
+#include <functional>
 
 using ProfileLines::Blanks;
 using ProfileLines::HashName;
@@ -33,13 +35,13 @@ std::optional<uint32_t> Find(const std::vector<uint32_t>& slots, std::string_vie
 }
 
 // Registers the names 0 to count - 1; of names that are the same the first stays.
-template <typename NameAt>
-std::vector<uint32_t> BuildSlots(size_t count, NameAt nameAt) {
+template <typename NameAt, typename Same>
+std::vector<uint32_t> BuildSlots(size_t count, NameAt nameAt, Same same) {
   std::vector<uint32_t> slots(std::bit_ceil(count * 2 + 2), Free);
   const size_t mask = slots.size() - 1;
   for (uint32_t i = 0; i < count; ++i) {
     size_t at = HashName(nameAt(i)) & mask;
-    while (slots[at] != Free && !SameAscii(nameAt(slots[at]), nameAt(i)))
+    while (slots[at] != Free && !same(nameAt(slots[at]), nameAt(i)))
       at = (at + 1) & mask;
     if (slots[at] == Free)
       slots[at] = i;
@@ -79,13 +81,17 @@ void ProfileFile::IndexSections() {
       body = {body.data(), static_cast<size_t>(line.data() - body.data())};
     }
     if (stripped.starts_with('['))
-      sections_.push_back({HeaderName(stripped), rest, false, {}, {}});
+      sections_.push_back({HeaderName(stripped), line, rest, false, {}, {}});
   }
   if (!sections_.empty()) {
     auto& body = sections_.back().body;
     body = {body.data(), static_cast<size_t>(bytes_.data() + bytes_.size() - body.data())};
   }
-  sectionSlots_ = BuildSlots(sections_.size(), [this](uint32_t i) { return sections_[i].name; });
+  sectionSlots_ = BuildSlots(
+      sections_.size(), [this](uint32_t i) { return sections_[i].name; }, SameAscii);
+  headerSlots_ = BuildSlots(
+      sections_.size(), [this](uint32_t i) { return sections_[i].header; },
+      std::equal_to<std::string_view>());
 }
 
 void ProfileFile::IndexKeys(const Section& section) const {
@@ -101,8 +107,8 @@ void ProfileFile::IndexKeys(const Section& section) const {
     section.lines.push_back(
         {Strip(line.substr(0, equals), Blanks), Strip(value, Blanks), hasValue});
   }
-  section.slots =
-      BuildSlots(section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; });
+  section.slots = BuildSlots(
+      section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; }, SameAscii);
 }
 
 const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
@@ -139,18 +145,30 @@ std::vector<std::string_view> ProfileFile::SectionNames() const {
   return names;
 }
 
+// The lines up to the next one that begins with "[": an indented header ends no key list.
+std::string_view ProfileFile::LinesBelow(std::string_view header) const {
+  const size_t mask = headerSlots_.size() - 1;
+  size_t at = HashName(header) & mask;
+  while (headerSlots_[at] != Free && sections_[headerSlots_[at]].header != header)
+    at = (at + 1) & mask;
+  if (headerSlots_[at] == Free)
+    return {};
+  const auto found = sections_.begin() + headerSlots_[at];
+  const auto next = std::find_if(found + 1, sections_.end(), [](const Section& section) {
+    return section.header.starts_with('[');
+  });
+  const char* const end =
+      next == sections_.end() ? bytes_.data() + bytes_.size() : next->header.data();
+  return {found->body.data(), static_cast<size_t>(end - found->body.data())};
+}
+
 std::vector<std::string_view> ProfileFile::KeyNames(std::string_view section) const {
   std::vector<std::string_view> keys;
-  const std::string header = '[' + std::string(section) + ']';
-  std::string_view rest = Lines();
-  bool inside = false;
+  std::string_view rest = LinesBelow('[' + std::string(section) + ']');
   while (!rest.empty()) {
     const std::string_view line = TakeLine(rest);
-    if (inside && line.starts_with('['))
-      break;
-    if (inside && !Strip(line, " ").empty())
+    if (!Strip(line, " ").empty())
       keys.push_back(Strip(line.substr(0, line.find('=')), " "));
-    inside = inside || line == header;
   }
   return keys;
 }

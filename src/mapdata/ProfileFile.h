@@ -47,6 +47,8 @@ class ProfileFile {
 
   struct Section {
     std::string_view name;
+    // The whole line, with the blanks before and the text behind the name.
+    std::string_view header;
     std::string_view body;
     // Built at the first look-up in the section: most sections of a large file are never asked.
     mutable bool indexed = false;
@@ -58,10 +60,13 @@ class ProfileFile {
   void IndexSections();
   void IndexKeys(const Section& section) const;
   [[nodiscard]] const Section* FindSection(std::string_view name) const;
+  [[nodiscard]] std::string_view LinesBelow(std::string_view header) const;
   [[nodiscard]] const KeyLine* FindKey(std::string_view section, std::string_view key) const;
   [[nodiscard]] std::string_view LineEnd() const;
 
   std::string bytes_;
   std::vector<Section> sections_;
   Slots sectionSlots_;
+  // Over the whole header lines, letter case counting.
+  Slots headerSlots_;
 };

@@ -88,7 +88,7 @@ TEST(EntityFile, ThreeReadersOfOneValue) {
     EXPECT_EQ(markers[0].position, test.marker) << test.value;
     EXPECT_EQ(markers[0].highlighted, test.value.find('*') != std::string::npos) << test.value;
     EXPECT_EQ(EntityFile::ReadPicked(files, file, u"t", u"Tom"), test.picked) << test.value;
-    const auto found = EntityFile::ReadFound(files, file, u"t", u"Tom");
+    const auto found = EntityFile::ReadFound(files.File(file), "t", "Tom");
     EXPECT_EQ(found.invalidLink, !test.found) << test.value;
     EXPECT_EQ(found.position, test.found.value_or(Position())) << test.value;
   }

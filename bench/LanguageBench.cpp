@@ -1,0 +1,174 @@
+#include "Ratios.h"
+#include "app/MenuTable.h"
+#include "i18n/InterfaceTexts.h"
+#include "mapdata/EntityFile.h"
+#include "support/GermanNames.h"
+#include "support/StartedLanguage.h"
+#include "support/TemporaryFolder.h"
+
+#include <benchmark/benchmark.h>
+
+#include <sys/stat.h>
+
+#include <random>
+#include <unordered_map>
+
+using IniOps::Snapshot;
+
+namespace {
+
+constexpr size_t Keys = 5000;
+constexpr size_t Names = 32765;
+constexpr size_t Markers = 81;
+
+const std::vector<std::string> Trades = {"H\xE4ndler", "Schmied", "J\xE4ger", "Koch",
+                                         "Alchemist",  "Druide",  "Wolf",     "Truhe"};
+const std::vector<std::string> Syllables = {"ma", "ra",  "bor", "kel", "in", "tha",
+                                            "ul", "gor", "fen", "dis", "ho", "wen"};
+
+// A language of 5,000 names, a region's data with a category of 81 and one of 32,765, as a world
+// would have them: a trade and a person's name.
+class World {
+ public:
+  World() {
+    std::mt19937 random(5);
+    std::string language =
+        "[general]\r\nlanguage=English\r\n[entities]\r\nTempel von=Temple of\r\n";
+    while (keys.size() < Keys) {
+      const std::string name = NewName(random);
+      language.append(name).append("=").append(NewName(random)).append("\r\n");
+      keys.push_back(Windows1252::Decode(name));
+    }
+    Write("English/English.lng", language);
+    std::string data = "[teachers]\r\n";
+    for (size_t i = 0; i < Names; ++i)
+      names.push_back(keys[random() % Keys]);
+    for (size_t i = 0; i < Markers; ++i)
+      data.append(*Windows1252::Encode(keys[i * 61]))
+          .append("=512,")
+          .append(std::to_string(i))
+          .append("\r\n");
+    Write("arvenna.data", data);
+  }
+
+  [[nodiscard]] Text Root() const { return folder_.Path(u""); }
+
+  [[nodiscard]] Text File() const { return folder_.Path(u"English/English.lng"); }
+
+  [[nodiscard]] Text Data() const { return folder_.Path(u"arvenna.data"); }
+
+  std::vector<Text> keys;
+  std::vector<Text> names;
+
+ private:
+  static std::string NewName(std::mt19937& random) {
+    std::string name = Trades[random() % Trades.size()] + ' ';
+    for (int n = 0; n < 4; ++n)
+      name += Syllables[random() % Syllables.size()];
+    return name;
+  }
+
+  // Files of a world are old: new ones are read again at each event.
+  void Write(const std::string& name, const std::string& bytes) const {
+    folder_.Write(name, bytes);
+    const timespec longAgo[2] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
+    ::utimensat(AT_FDCWD, folder_.Native(name).c_str(), longAgo, 0);
+  }
+
+  TemporaryFolder folder_;
+};
+
+const World& TheWorld() {
+  static const World world;
+  return world;
+}
+
+void LookUpInHash(benchmark::State& state) {
+  const World& world = TheWorld();
+  std::unordered_map<Text, size_t> numbers;
+  for (size_t i = 0; i < world.keys.size(); ++i)
+    numbers.emplace(world.keys[i], i);
+  for (auto _ : state)
+    for (const Text& name : world.names)
+      benchmark::DoNotOptimize(numbers.find(name));
+}
+
+void Translate(benchmark::State& state, size_t count) {
+  const World& world = TheWorld();
+  IniOps::Cache cache;
+  Snapshot start(cache);
+  StartedLanguage language(start, world.Root(), u"English");
+  for (auto _ : state) {
+    Snapshot files(cache);
+    for (size_t i = 0; i < count; ++i)
+      benchmark::DoNotOptimize(language.LocalizeEntityName(files, world.names[i]));
+  }
+}
+
+void TranslateAllNames(benchmark::State& state) {
+  Translate(state, Names);
+}
+
+void TranslateAQuarter(benchmark::State& state) {
+  Translate(state, Names / 4);
+}
+
+void ShowMarkers(benchmark::State& state, EntityNames& names, IniOps::Cache& cache) {
+  for (auto _ : state) {
+    Snapshot files(cache);
+    benchmark::DoNotOptimize(
+        EntityFile::ReadMarkers(files, TheWorld().Data(), u"teachers", names, Markers));
+  }
+}
+
+void ShowGermanMarkers(benchmark::State& state) {
+  IniOps::Cache cache;
+  GermanNames names;
+  ShowMarkers(state, names, cache);
+}
+
+void ShowTranslatedMarkers(benchmark::State& state) {
+  IniOps::Cache cache;
+  Snapshot start(cache);
+  StartedLanguage language(start, TheWorld().Root(), u"English");
+  ShowMarkers(state, language, cache);
+}
+
+void ReadLanguageFile(benchmark::State& state) {
+  for (auto _ : state)
+    benchmark::DoNotOptimize(IniOps::IniRead(TheWorld().File(), u"entities", u"Tempel von", u""));
+}
+
+void SwitchLanguage(benchmark::State& state) {
+  const auto menus = MenuTable::Captions();
+  LOCAL::Language language({});
+  for (auto _ : state) {
+    IniOps::Cache cache;
+    Snapshot files(cache);
+    language.Choose(files, TheWorld().File());
+    benchmark::DoNotOptimize(Translate_UI(files, language, menus));
+    language.CacheTranslationTable(files);
+  }
+}
+
+constexpr int Rounds = 7;
+
+BENCHMARK(LookUpInHash)->Repetitions(Rounds);
+BENCHMARK(TranslateAllNames)->Repetitions(Rounds);
+BENCHMARK(TranslateAQuarter)->Repetitions(Rounds);
+BENCHMARK(ShowGermanMarkers)->Repetitions(Rounds);
+BENCHMARK(ShowTranslatedMarkers)->Repetitions(Rounds);
+BENCHMARK(ReadLanguageFile)->Repetitions(Rounds);
+BENCHMARK(SwitchLanguage)->Repetitions(Rounds);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const Ratios::Ratio ratios[] = {
+      {"TranslateAllNames", "LookUpInHash", 8},
+      {"TranslateAllNames", "TranslateAQuarter", 4.4},
+      {"ShowTranslatedMarkers", "ShowGermanMarkers", 1.5},
+      {"SwitchLanguage", "ReadLanguageFile", 2},
+  };
+  return Ratios::Run(argc, argv, ratios);
+}

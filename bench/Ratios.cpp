@@ -1,0 +1,56 @@
+#include "Ratios.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+namespace {
+
+// Prints as usual, and keeps the quickest run of each measurement.
+class Reporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration || run.error_occurred)
+        continue;
+      const double time = run.real_accumulated_time / static_cast<double>(run.iterations);
+      const auto known = quickest.emplace(run.run_name.function_name, time).first;
+      known->second = std::min(known->second, time);
+    }
+  }
+
+  // Seconds by name.
+  std::map<std::string, double> quickest;
+};
+
+bool Holds(const Ratios::Ratio& ratio, const std::map<std::string, double>& seconds) {
+  const auto of = seconds.find(ratio.of);
+  const auto by = seconds.find(ratio.by);
+  if (of == seconds.end() || by == seconds.end()) {
+    std::cout << ratio.of << " / " << ratio.by << ": not measured\n";
+    return false;
+  }
+  const double measured = of->second / by->second;
+  std::cout << ratio.of << " / " << ratio.by << " = " << measured << " (at most " << ratio.limit
+            << ")\n";
+  return measured <= ratio.limit;
+}
+
+}  // namespace
+
+namespace Ratios {
+
+int Run(int argc, char** argv, std::span<const Ratio> ratios) {
+  benchmark::Initialize(&argc, argv);
+  Reporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  const auto held = std::count_if(ratios.begin(), ratios.end(), [&](const Ratio& ratio) {
+    return Holds(ratio, reporter.quickest);
+  });
+  return held == std::ssize(ratios) ? 0 : 1;
+}
+
+}  // namespace Ratios

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+/// Measurements that are judged by how they compare in one run on one machine.
+namespace Ratios {
+
+/// The measurement `of` may take at most `limit` times as long as `by`.
+struct Ratio {
+  std::string of;
+  std::string by;
+  double limit = 1;
+};
+
+/// Runs all registered measurements by rounds, takes the quickest of each, and prints the ratios.
+/// The program's exit code: 1 if a ratio is over its limit or one of its sides was not measured.
+[[nodiscard]] int Run(int argc, char** argv, std::span<const Ratio> ratios);
+
+}  // namespace Ratios

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing: install.sh GROUP...
+# run: build and start the program; display: a virtual display; test, ci: what the checks use.
+set -euo pipefail
+
+run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation xdg-utils"
+display="xvfb xauth openbox xdotool imagemagick x11-utils"
+test="libgtest-dev libbenchmark-dev poppler-utils strace python3"
+ci="clang-format clang libclang-rt-14-dev"
+
+wanted=""
+for group in "$@"; do
+  wanted+=" ${!group}"
+done
+missing=""
+for package in $wanted; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+    missing+=" $package"
+done
+[ -z "$missing" ] && exit 0
+
+echo "Installing:$missing"
+as_root=""
+[ "$(id -u)" -eq 0 ] || as_root=sudo
+$as_root apt-get -qq update
+# shellcheck disable=SC2086
+$as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -y install --no-install-recommends $missing

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/Text.h"
+
+#include <span>
+
+/// The control that stands at a place of a dialog.
+enum class ControlKind {
+  /// QLabel: plain text, wrapped within its width.
+  Label,
+  /// QLineEdit.
+  TextField,
+  /// QPlainTextEdit; Tab leaves it.
+  TextBox,
+  /// QPushButton.
+  Button,
+  /// QRadioButton.
+  OptionButton,
+  /// QGroupBox.
+  Frame,
+  /// QComboBox, choice only.
+  ComboBox,
+  /// QLabel without text; the design text is what a screen reader speaks.
+  Picture,
+  /// GridListbox.
+  GridList,
+  /// QTreeWidget.
+  Tree,
+  /// QFrame, one colour all over.
+  Line
+};
+
+/// A rectangle in twips, from the top left corner of the frame or the client area around it.
+struct TwipsRect {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+/// One control of a dialog as it was designed. A width of 0 is as wide as the text.
+struct ControlDesign {
+  TextView name;
+  ControlKind kind = ControlKind::Label;
+  TwipsRect place;
+  TextView text = {};
+  double points = 8.25;
+  bool bold = false;
+  /// The frame around it, which stands earlier in the table; empty for none.
+  TextView frame = {};
+  /// The control whose text names this one to a screen reader, where it has no text of its own.
+  TextView namedBy = {};
+};
+
+/// A dialog as it was designed: what it holds, in tab order, and the two buttons that Enter and
+/// Escape press; empty for none.
+struct DialogDesign {
+  TextView name;
+  TextView caption;
+  int width = 0;
+  int height = 0;
+  TextView defaultButton;
+  TextView cancelButton;
+  std::span<const ControlDesign> controls;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Text.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/// A list of texts that finds the first of them with which another text begins, as a scan of the
+/// list would, in time that grows with that text's length and not with the list's.
+class PrefixIndex {
+ public:
+  PrefixIndex() = default;
+  explicit PrefixIndex(std::vector<Text> prefixes);
+
+  /// The number of the first text that is a prefix of `text`; none if there is no such text. The
+  /// empty text is a prefix of every other.
+  [[nodiscard]] std::optional<size_t> FirstPrefixOf(TextView text) const;
+
+  [[nodiscard]] const Text& operator[](size_t number) const { return prefixes_[number]; }
+
+  [[nodiscard]] size_t size() const { return prefixes_.size(); }
+
+ private:
+  // A slot of an open-addressing table over the texts' hashes.
+  struct Slot {
+    uint32_t hash = 0;
+    uint32_t number = 0;
+  };
+
+  void Add(uint32_t number);
+  // Where the first text of that hash stands, or would.
+  [[nodiscard]] size_t SlotOf(uint32_t hash) const;
+  [[nodiscard]] std::optional<size_t> Scan(TextView text) const;
+
+  std::vector<Text> prefixes_;
+  std::vector<Slot> slots_;
+  // Whether the list holds a text of that length.
+  std::vector<bool> lengths_;
+};

@@ -1,0 +1,97 @@
+#include "perks/PerkTree.h"
+
+#include "mapdata/StringOps.h"
+#include "perks/PerkCatalogue.h"
+
+#include <algorithm>
+#include <array>
+
+using PerkCatalogue::Categories;
+using PerkCatalogue::Category;
+using PerkCatalogue::Perk;
+using Texts::Join;
+
+namespace {
+
+constexpr TextView RegionSign = u"%s";
+constexpr TextView PictureExtension = u"jpg";
+
+struct PerkedRegion {
+  TextView dataFile;
+  TextView name;
+  TextView headingKey;
+  TextView germanHeading;
+};
+
+constexpr std::array<PerkedRegion, 3> PerkedRegions = {{
+    {u"arvenna.data", u"Arvenna", u"ArvennaTeachersFor", u"Arvenna: Lehrer für"},
+    {u"skaldor.data", u"Skaldor", u"SkaldorTeachersFor", u"Skaldor: Lehrer für"},
+    {u"sarrakh.data", u"Sarrakh", u"SarrakhTeachersFor", u"Sarrakh: Lehrer für"},
+}};
+
+// The last one that the path names: a folder may be called like a data file.
+const PerkedRegion* RegionOf(TextView perksData) {
+  const auto found = std::find_if(PerkedRegions.rbegin(), PerkedRegions.rend(),
+                                  [perksData](const PerkedRegion& region) {
+                                    return StringOps::StrContains(perksData, region.dataFile);
+                                  });
+  return found == PerkedRegions.rend() ? nullptr : &*found;
+}
+
+PerkTree::Node PerkNode(const Perk& perk, const PerkTree::Lookup& lookup) {
+  return {Text(perk.key), Text(1, perk.category),
+          lookup(PerkCatalogue::LanguageKey(perk), PerkCatalogue::English(perk), perk.german),
+          PerkTree::PerkPicture, false};
+}
+
+}  // namespace
+
+namespace PerkTree {
+
+Text PerkRegion(TextView perksData) {
+  const PerkedRegion* region = RegionOf(perksData);
+  return Text(region ? region->name : TextView());
+}
+
+Text WindowCaption(const Region& region, const Lookup& lookup) {
+  const Text german = Join(u"Lehrer für Perks in ", region.name);
+  return Texts::ReplaceAll(lookup(u"caption", u"Perks in %s", german), RegionSign, region.shown);
+}
+
+std::vector<Node> Build(std::span<const Text> sectionNames, const Region& region,
+                        const Lookup& lookup) {
+  const Text root = lookup(u"root", u"Perks in %s", Join(u"Lehrer in ", region.name));
+  std::vector<Node> nodes = {
+      {Text(RootKey), {}, Texts::ReplaceAll(root, RegionSign, region.shown), RootPicture, true}};
+  for (const Category& category : Categories)
+    nodes.push_back({Text(1, category.key), Text(RootKey),
+                     lookup(category.languageKey, category.english, category.german),
+                     category.picture, true});
+  std::vector<const Perk*> shown;
+  for (const Text& name : sectionNames) {
+    const Perk* perk = PerkCatalogue::Find(name);
+    if (!perk || std::find(shown.begin(), shown.end(), perk) != shown.end())
+      continue;
+    shown.push_back(perk);
+    nodes.push_back(PerkNode(*perk, lookup));
+  }
+  return nodes;
+}
+
+bool IsPerk(TextView key) {
+  return key.size() > 1 && key != RootKey;
+}
+
+Text MapHeading(TextView perksData, TextView perkCaption, const Lookup& lookup) {
+  const PerkedRegion* region = RegionOf(perksData);
+  if (!region)
+    return {};
+  return Join(lookup(region->headingKey, u"", region->germanHeading), u" ", perkCaption);
+}
+
+Text PicturePath(TextView perksData) {
+  const size_t point = perksData.rfind(u'.');
+  return Join(perksData.substr(0, point == TextView::npos ? 0 : point + 1), PictureExtension);
+}
+
+}  // namespace PerkTree

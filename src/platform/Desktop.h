@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Text.h"
+
+#include <string>
+#include <vector>
+
+/// What the program asks of the desktop around it. Paths are the system's bytes.
+class Desktop {
+ public:
+  /// Results of opening something; those above 32 are successes.
+  enum Result { FileMissing = 2, Refused = 31, LastFailure = 32, Started = 42 };
+
+  Desktop() = default;
+  virtual ~Desktop() = default;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  /// Hands an address or a path, as one argument, to the program that the desktop has for it.
+  virtual Result Open(const std::string& target) = 0;
+
+  /// Whether the desktop names a program for documents of this MIME type.
+  [[nodiscard]] virtual bool HasViewer(const std::string& mimeType) = 0;
+
+  /// Shows a page of HTML in a modal window of the program's own.
+  virtual void ShowPage(const std::string& path) = 0;
+
+  /// Starts a program without arguments in a folder and doesn't wait for it.
+  virtual Result StartProgram(const std::string& path, const std::string& folder) = 0;
+
+  /// Plays a wave file over and over until `StopSound`; silence if that can't be done.
+  virtual void LoopSound(const std::string& path) = 0;
+
+  virtual void StopSound() = 0;
+
+  virtual void Beep() = 0;
+
+  /// The user's interface language as three letters, "deu" for German; "" if nothing is known.
+  [[nodiscard]] virtual Text UserLanguage() = 0;
+
+  /// The names of the installed printers in the system's order.
+  [[nodiscard]] virtual std::vector<Text> Printers() = 0;
+
+  /// Asks the user for a file to write; "" if there shall be none.
+  [[nodiscard]] virtual std::string AskFileToWrite(TextView caption, TextView suggestedName) = 0;
+};

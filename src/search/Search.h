@@ -1,0 +1,66 @@
+#pragma once
+
+#include "mapdata/IniOps.h"
+#include "mapdata/ProgramPaths.h"
+#include "platform/Text.h"
+#include "search/EntityCache.h"
+
+#include <variant>
+
+namespace LOCAL {
+class Language;
+}
+
+/// Finding an entity of any region by the start of its name or by a part of its description.
+/// Letter case counts, blanks count, and a search never begins again at the front by itself.
+namespace Search {
+
+enum class Mode { Names = 0, Descriptions = 1 };
+
+/// What the search keeps while the program runs.
+struct State {
+  /// The term of the last search from the dialog, as typed.
+  Text SearchTerm;
+  /// Chosen in the dialog, also in a cancelled one.
+  Mode SearchMode = Mode::Names;
+  /// The record found last; stays when nothing is found.
+  size_t LastFoundIndex = 0;
+  /// Filled by the first search.
+  EntityCache Cache;
+};
+
+/// The record found.
+struct Hit {
+  size_t index;
+};
+
+struct NothingFound {};
+
+/// An invalid link leaves nothing to go on with: the program tells of it and ends.
+using Outcome = std::variant<Hit, NothingFound, InvalidLink>;
+
+/// A message box of the search.
+struct Message {
+  Text text;
+  Text caption;
+};
+
+/// Searches all entities from the first one for `term` in the mode of the state; fills the cache
+/// before if it is empty. Names are compared as they are shown in the language of this moment.
+[[nodiscard]] Outcome FindFirst(State& state, IniOps::Snapshot& files, LOCAL::Language& language,
+                                const ProgramPaths& paths, TextView term);
+
+/// Searches on behind the record found last. Names are compared as they were shown when the cache
+/// was filled.
+[[nodiscard]] Outcome FindNext(State& state);
+
+[[nodiscard]] Message NotFoundMessage(const State& state, IniOps::Snapshot& files,
+                                      const LOCAL::Language& language);
+
+[[nodiscard]] Message InvalidLinkMessage(const InvalidLink& link);
+
+/// The heading of a record that is shown: what was searched for.
+[[nodiscard]] Text ResultHeading(const State& state, IniOps::Snapshot& files,
+                                 const LOCAL::Language& language);
+
+}  // namespace Search

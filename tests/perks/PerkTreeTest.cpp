@@ -1,0 +1,154 @@
+#include "perks/PerkTree.h"
+
+#include "perks/PerkCatalogue.h"
+
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+using namespace PerkTree;
+
+namespace {
+
+const Region Skaldor = {u"Skaldor", u"Skaldor"};
+
+Text German(TextView, TextView, TextView german) {
+  return Text(german);
+}
+
+// A language whose file holds these entries.
+Lookup LanguageOf(std::map<Text, Text> entries) {
+  return [entries = std::move(entries)](TextView key, TextView english, TextView) {
+    const auto entry = entries.find(Text(key));
+    return entry == entries.end() ? Text(english) : entry->second;
+  };
+}
+
+// "parent > caption" of the nodes below the categories.
+std::vector<Text> PerksOf(const std::vector<Node>& nodes) {
+  std::vector<Text> perks;
+  for (const Node& node : nodes)
+    if (node.picture == PerkPicture)
+      perks.push_back(node.parent + u" > " + node.caption);
+  return perks;
+}
+
+}  // namespace
+
+TEST(PerkCatalogue, DerivesLanguageKeysAndEnglishCaptions) {
+  struct Row {
+    TextView key;
+    TextView languageKey;
+    TextView english;
+  };
+
+  constexpr Row Rows[] = {
+      {u"perk crossbowman", u"Crossbowman", u"Crossbowman"},
+      {u"perk large weapons", u"LargeWeapons", u"Large weapons"},
+      {u"perk large weapons ii", u"LargeWeaponsII", u"Large weapons II"},
+      {u"perk large weapons iii", u"LargeWeaponsIII", u"Large weapons III"},
+      {u"perk staff fighting iii", u"StaffFightingIII", u"Staff fighting III"},
+      {u"perk master archer crossbow", u"MasterArcherCrossbow", u"master archer crossbow"},
+      {u"perk master archer Bow", u"MasterArcherBow", u"Master archer bow"},
+      {u"perk teeth, claws, and horns", u"TeethClawsAndHorns", u"Teeth, claws and horns"},
+      {u"perk ancient knowledge", u"AncientKnowledge", u"Ancient knowledge"},
+      {u"perk water mage", u"WaterMage", u"Watermage"},
+      {u"perk Amnesia", u"Amnesia", u"Amnesia"},
+      {u"perk Banish evil", u"Banish evil", u"Banish evil"},
+      {u"perk Bless weapon", u"Bless weapon", u"bless weapon"},
+      {u"perk Lightning bolt", u"Lightning bolt", u"Lightning bold"},
+      {u"perk Weaken", u"Weaken", u"wWaken"},
+      {u"perk Word of dominance", u"Word of dominance", u"Word of dominance"},
+      {u"perk forge ore weapons", u"ForgeOreWeapons", u"Forge ore weapons"},
+      {u"perk Forge weapons from pure ore", u"ForgeWeaponsFromPureOre",
+       u"Forge weapons from pure ore"},
+      {u"perk Difficult pickpocketing", u"DifficultPickpocketing", u"Difficult pickpocketing"},
+      {u"perk brew Potions with permanent effects", u"BrewPotionsWithPermanentEffects",
+       u"Brew potions with permament effects"},
+      {u"perk Make poison arrows", u"MakePoisonArrows", u"Make poison arrorws"},
+      {u"perk endurance of the wolf", u"EnduranceOfTheWolf", u"Endurance of the wolf"},
+      {u"perk Endurance", u"Endurance", u"Endurance"},
+      {u"perk Health", u"Health", u"Health"},
+  };
+  for (const Row& row : Rows) {
+    const PerkCatalogue::Perk* perk = PerkCatalogue::Find(row.key);
+    ASSERT_TRUE(perk);
+    EXPECT_EQ(PerkCatalogue::LanguageKey(*perk), row.languageKey);
+    EXPECT_EQ(PerkCatalogue::English(*perk), row.english);
+  }
+}
+
+TEST(PerkCatalogue, HoldsEveryPerkOnce) {
+  std::map<char16_t, int> perksOfCategory;
+  std::set<TextView> keys;
+  std::set<Text> languageKeys;
+  for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks) {
+    ++perksOfCategory[perk.category];
+    keys.insert(perk.key);
+    languageKeys.insert(PerkCatalogue::LanguageKey(perk));
+  }
+  const std::map<char16_t, int> expected = {{u'f', 16}, {u'h', 10}, {u'm', 44}, {u's', 6},
+                                            {u't', 10}, {u'a', 8},  {u'o', 8}};
+  EXPECT_EQ(perksOfCategory, expected);
+  EXPECT_EQ(keys.size(), 102U);
+  EXPECT_EQ(languageKeys.size(), 102U);
+  for (const auto& exception : PerkCatalogue::EnglishExceptions)
+    EXPECT_TRUE(keys.contains(exception.key));
+  EXPECT_EQ(PerkCatalogue::Find(u"perk Bloodlust")->german, u"Blutrausch  ");
+  EXPECT_EQ(PerkCatalogue::Find(u"perk Acrobatics"), nullptr);
+  EXPECT_EQ(PerkCatalogue::Find(u"perk "), nullptr);
+}
+
+TEST(PerkTree, ShowsCategoriesAndThePerksOfTheFileInItsOrder) {
+  const Text sections[] = {u"teachers",        u"perk Fog", u"perk archer", u"Perk acrobatics",
+                           u"perk Acrobatics", u"perk Fog", u"perkiness",   u"perk druid"};
+  const auto nodes = Build(sections, Skaldor, German);
+  ASSERT_EQ(nodes.size(), 11U);
+  EXPECT_EQ(nodes[0].key, u"root");
+  EXPECT_EQ(nodes[0].caption, u"Lehrer in Skaldor");
+  EXPECT_EQ(nodes[0].picture, RootPicture);
+  EXPECT_EQ(nodes[3].caption, u"Magietalente");
+  EXPECT_EQ(nodes[3].parent, u"root");
+  EXPECT_EQ(nodes[3].picture, 3);
+  EXPECT_TRUE(nodes[7].bold);
+  EXPECT_FALSE(nodes[8].bold);
+  EXPECT_EQ(PerksOf(nodes), (std::vector<Text>{u"m > Nebel", u"h > Bogenschütze", u"m > Druide"}));
+  EXPECT_EQ(Build({}, Skaldor, German).size(), 8U);
+}
+
+TEST(PerkTree, TakesCaptionsFromTheLanguageFile) {
+  const Region region = {u"Sarrakh", u"Sarrakh Desert"};
+  const Text sections[] = {u"perk Health", u"perk large weapons ii", u"perk archer"};
+  const Lookup english = LanguageOf({{u"caption", u"%s: perks in %s"},
+                                     {u"root", u"no sign"},
+                                     {u"magicskills", u"Spells"},
+                                     {u"Archer", u"Bow & arrow %s"}});
+  EXPECT_EQ(WindowCaption(region, english), u"Sarrakh Desert: perks in Sarrakh Desert");
+  EXPECT_EQ(WindowCaption(region, LanguageOf({})), u"Perks in Sarrakh Desert");
+  EXPECT_EQ(WindowCaption(region, German), u"Lehrer für Perks in Sarrakh");
+  const auto nodes = Build(sections, region, english);
+  EXPECT_EQ(nodes[0].caption, u"no sign");
+  EXPECT_EQ(nodes[1].caption, u"Fighting skills");
+  EXPECT_EQ(nodes[3].caption, u"Spells");
+  EXPECT_EQ(PerksOf(nodes),
+            (std::vector<Text>{u"o > Health", u"f > Large weapons II", u"h > Bow & arrow %s"}));
+}
+
+TEST(PerkTree, KnowsTheRegionByItsDataFile) {
+  EXPECT_EQ(PerkRegion(u"/w/skaldor.data"), u"Skaldor");
+  EXPECT_EQ(PerkRegion(u"/arvenna.data/sarrakh.data"), u"Sarrakh");
+  EXPECT_EQ(PerkRegion(u"/sarrakh.data/arvenna.data"), u"Sarrakh");
+  EXPECT_EQ(PerkRegion(u"/w/ostrakh.data"), u"");
+  EXPECT_EQ(MapHeading(u"/w/arvenna.data", u"Orktöter", German), u"Arvenna: Lehrer für Orktöter");
+  EXPECT_EQ(MapHeading(u"/w/arvenna.data", u"Orcslayer", LanguageOf({})), u" Orcslayer");
+  EXPECT_EQ(MapHeading(u"/w/ostrakh.data", u"Orcslayer", German), u"");
+  EXPECT_EQ(PicturePath(u"/my data/world.data/arvenna.data"), u"/my data/world.data/arvenna.jpg");
+}
+
+TEST(PerkTree, OffersPerksAlone) {
+  EXPECT_FALSE(IsPerk(u"root"));
+  EXPECT_FALSE(IsPerk(u"m"));
+  EXPECT_FALSE(IsPerk(u""));
+  EXPECT_TRUE(IsPerk(u"perk Fog"));
+}

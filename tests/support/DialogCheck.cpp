@@ -1,0 +1,130 @@
+#include "support/DialogCheck.h"
+
+#include "controls/Dialog.h"
+#include "controls/TextFit.h"
+#include "controls/WidgetTwips.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTest>
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QWidget* Find(const Dialog& dialog, TextView name) {
+  return dialog.findChild<QWidget*>(QtText::ToQt(name));
+}
+
+std::string NameOf(const ControlDesign& design) {
+  return QtText::ToQt(design.name).toStdString();
+}
+
+bool TakesKeys(ControlKind kind) {
+  return kind != ControlKind::Label && kind != ControlKind::Frame && kind != ControlKind::Picture &&
+         kind != ControlKind::Line;
+}
+
+void CheckPlace(const Dialog& dialog, const ControlDesign& design) {
+  const auto screen = WidgetTwips::ScreenOf(dialog);
+  const QRect place = Find(dialog, design.name)->geometry();
+  EXPECT_EQ(place.left(), WidgetTwips::ToPixelsX(screen, design.place.left)) << NameOf(design);
+  EXPECT_EQ(place.top(), WidgetTwips::ToPixelsY(screen, design.place.top)) << NameOf(design);
+  EXPECT_GE(place.width(), WidgetTwips::ToPixelsX(screen, design.place.width)) << NameOf(design);
+  EXPECT_GE(place.height(), WidgetTwips::ToPixelsY(screen, design.place.height)) << NameOf(design);
+}
+
+void CheckText(const QWidget& control) {
+  const QSize needed = TextFit::Needed(control, control.font(), control.width());
+  const std::string what =
+      control.objectName().toStdString() + ": " + TextFit::TextOf(control).toStdString();
+  EXPECT_LE(needed.width(), control.width()) << "clipped: " << what;
+  EXPECT_LE(needed.height(), control.height()) << "clipped: " << what;
+  EXPECT_TRUE(control.parentWidget()->rect().contains(QRect(control.pos(), needed)))
+      << "outside: " << what;
+}
+
+void CheckSpokenName(QWidget& control) {
+  const auto* interface = QAccessible::queryAccessibleInterface(&control);
+  ASSERT_NE(interface, nullptr) << control.objectName().toStdString();
+  const bool emptyText = qobject_cast<QLabel*>(&control) && TextFit::TextOf(control).isEmpty();
+  EXPECT_TRUE(emptyText || !interface->text(QAccessible::Name).trimmed().isEmpty())
+      << "no name to speak: " << control.objectName().toStdString();
+}
+
+// The rectangle that the letters take, which may be less than the label's.
+QRect Letters(const QLabel& label) {
+  return {label.pos(), TextFit::Needed(label, label.font(), label.width())};
+}
+
+void CheckOverlaps(const Dialog& dialog) {
+  const auto labels = dialog.findChildren<QLabel*>();
+  for (const auto* a : labels) {
+    for (const auto* b : labels) {
+      if (a >= b || a->parentWidget() != b->parentWidget() || !a->isVisible() || !b->isVisible() ||
+          a->text().isEmpty() || b->text().isEmpty())
+        continue;
+      EXPECT_FALSE(Letters(*a).intersects(Letters(*b)))
+          << a->objectName().toStdString() << " over " << b->objectName().toStdString();
+    }
+  }
+}
+
+// Every widget that Tab comes to, and its parents: the list inside a control stands for it.
+std::set<const QWidget*> Reached(Dialog& dialog) {
+  std::set<const QWidget*> reached;
+  for (int presses = 0; presses < 2 * static_cast<int>(dialog.Design().controls.size());
+       ++presses) {
+    for (const QWidget* at = dialog.focusWidget(); at && at != &dialog; at = at->parentWidget())
+      reached.insert(at);
+    QTest::keyClick(dialog.focusWidget() ? dialog.focusWidget() : &dialog, Qt::Key_Tab);
+  }
+  return reached;
+}
+
+bool ChosenWithArrows(const QWidget& control) {
+  const auto* option = qobject_cast<const QRadioButton*>(&control);
+  return option && !option->isChecked();
+}
+
+void CheckKeyboard(Dialog& dialog) {
+  const auto reached = Reached(dialog);
+  for (const ControlDesign& design : dialog.Design().controls) {
+    const QWidget* control = Find(dialog, design.name);
+    if (control->isVisible() && control->isEnabled() && !ChosenWithArrows(*control) &&
+        (TakesKeys(design.kind) || control->focusPolicy() != Qt::NoFocus)) {
+      EXPECT_TRUE(reached.contains(control)) << "not reached with Tab: " << NameOf(design);
+    }
+  }
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog.isVisible()) << "still open after Escape";
+}
+
+}  // namespace
+
+void CheckDialog(Dialog& dialog) {
+  dialog.show();
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  const auto screen = WidgetTwips::ScreenOf(dialog);
+  EXPECT_EQ(dialog.size(), QSize(WidgetTwips::ToPixelsX(screen, dialog.Design().width),
+                                 WidgetTwips::ToPixelsY(screen, dialog.Design().height)));
+  EXPECT_FALSE(dialog.objectName().isEmpty());
+  EXPECT_FALSE(dialog.windowTitle().trimmed().isEmpty());
+  for (const ControlDesign& design : dialog.Design().controls) {
+    QWidget* control = Find(dialog, design.name);
+    ASSERT_NE(control, nullptr) << NameOf(design);
+    CheckPlace(dialog, design);
+    if (!control->isVisible() || design.kind == ControlKind::Line)
+      continue;
+    CheckText(*control);
+    CheckSpokenName(*control);
+  }
+  CheckOverlaps(dialog);
+  CheckKeyboard(dialog);
+}
