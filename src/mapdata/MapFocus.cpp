@@ -106,6 +106,8 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::HideToParent:
       if (tabStop_ == &marker)
         MakeTabStop(nullptr);
+      // The toolkit leaves the focus on a hidden widget where no other can take it.
+      marker.clearFocus();
       break;
     case QEvent::FocusIn:
       Rest(marker);
