@@ -4,7 +4,7 @@
 #include "i18n/LOCAL.h"
 #include "mapdata/FileSystem.h"
 #include "platform/NativePath.h"
-#include "platform/Product.h"
+#include "platform/ProgramInfo.h"
 
 #include <array>
 
@@ -55,7 +55,7 @@ Edition ReadEdition(IniOps::Snapshot& files, const ProgramPaths& paths) {
 }
 
 Text Caption(const Edition& edition) {
-  return Join(Product::Title, u" ", Product::Version, u" ", edition.text);
+  return Join(ProgramInfo::Title, u" ", ProgramInfo::Version, u" ", edition.text);
 }
 
 Text ChosenLanguage(IniOps::Snapshot& files, const ProgramPaths& paths) {

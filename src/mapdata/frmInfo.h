@@ -26,4 +26,5 @@ class frmInfo : public Dialog {
   QLabel* picPortrait;
   QPlainTextEdit* txtInfo;
   QPushButton* btnClose;
+  QLabel* imgBackup;
 };
