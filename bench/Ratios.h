@@ -6,7 +6,7 @@
 /// Measurements that are judged by how they compare in one run on one machine.
 namespace Ratios {
 
-/// The measurement `of` may take at most `limit` times as long as `by`.
+/// The measurement `of` may take at most `limit` times the processor time of `by`.
 struct Ratio {
   std::string of;
   std::string by;

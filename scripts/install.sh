@@ -4,7 +4,7 @@
 set -euo pipefail
 
 run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation xdg-utils"
-display="xvfb xauth openbox xdotool imagemagick"
+display="xvfb xauth openbox xdotool imagemagick x11-utils"
 test="libgtest-dev libbenchmark-dev poppler-utils strace python3"
 ci="clang-format clang libclang-rt-14-dev"
 

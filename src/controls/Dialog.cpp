@@ -91,7 +91,8 @@ void Dialog::FitTexts() {
   for (const Placed& placed : controls_)
     placed.control->setGeometry(placed.place);
   for (const Placed& placed : controls_) {
-    const QFont font = WidgetTwips::Font(placed.design->points, placed.design->bold);
+    QFont font = placed.control->font();
+    font.setPointSizeF(placed.design->points);
     const TextFit::Place fit = TextFit::Fit(*placed.control, placed.place, font);
     placed.control->setGeometry(fit.rectangle);
     // Setting a font asks for the next fitting, which must come to an end.

@@ -9,10 +9,11 @@ namespace {
 
 constexpr TextView Entities = u"entities";
 
-// Most names hold no region's word: they cost no copy.
-void Replace(Text& text, TextView part, TextView by) {
-  if (text.find(part) != Text::npos)
-    text = ReplaceAll(text, part, by);
+// The text with a region's word replaced. Most names hold none: they are not copied.
+TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
+  if (part.empty() || by.empty() || text.find(part) == TextView::npos)
+    return text;
+  return storage = ReplaceAll(text, part, by);
 }
 
 }  // namespace
@@ -65,8 +66,11 @@ void Language::Refresh(IniOps::Snapshot& files) {
   if (file_ == now)
     return;
   file_ = now;
-  for (RegionWord& region : RegionWords_)
-    region.translation = IniOps::IniRead(*file_, Entities, region.word, region.word);
+  for (RegionWord& region : RegionWords_) {
+    region.translation = IniOps::IniRead(*file_, Entities, region.word, u"");
+    if (region.translation == region.word)
+      region.translation.clear();
+  }
   values_.assign(EntityKeys_.size(), std::nullopt);
 }
 
@@ -79,14 +83,15 @@ const Text& Language::ValueOf(size_t key) {
 
 Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
   Refresh(files);
-  Text shown(Trim(name));
+  Text replaced;
+  TextView shown = Trim(name);
   for (const RegionWord& region : RegionWords_)
-    Replace(shown, region.word, region.translation);
+    shown = Replaced(shown, region.word, region.translation, replaced);
   const auto key = EntityKeys_.FirstPrefixOf(shown);
   if (!key)
-    return shown;
+    return Text(shown);
   Text translated = ReplaceAll(shown, EntityKeys_[*key], ValueOf(*key));
-  return Trim(translated).empty() ? shown : translated;
+  return Trim(translated).empty() ? Text(shown) : translated;
 }
 
 void Language::IndexTranslations() {
@@ -104,14 +109,15 @@ void Language::IndexTranslations() {
 Text Language::UnlocalizeEntityName(TextView text) {
   if (tableFile_)
     IndexTranslations();
-  Text name(Trim(text));
+  Text replaced;
+  TextView name = Trim(text);
   for (const RegionWord& region : RegionWords_)
-    Replace(name, region.translation, region.word);
+    name = Replaced(name, region.translation, region.word, replaced);
   const auto number = EntityTranslations_.FirstPrefixOf(name);
   if (!number)
-    return name;
+    return Text(name);
   Text key = ReplaceAll(name, EntityTranslations_[*number], EntityKeys_[*number]);
-  return Trim(key).empty() ? name : key;
+  return Trim(key).empty() ? Text(name) : key;
 }
 
 Text Language::Shown(IniOps::Snapshot& files, TextView key) {

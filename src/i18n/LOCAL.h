@@ -76,6 +76,7 @@ class Language : public EntityNames {
  private:
   struct RegionWord {
     TextView word;
+    // Empty while the word stays as it is.
     Text translation;
   };
 

@@ -9,7 +9,7 @@
 class Desktop {
  public:
   /// Results of opening something; those above 32 are successes.
-  enum Result { FileMissing = 2, Refused = 31, Started = 42 };
+  enum Result { FileMissing = 2, Refused = 31, LastFailure = 32, Started = 42 };
 
   Desktop() = default;
   virtual ~Desktop() = default;

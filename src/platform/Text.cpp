@@ -22,6 +22,7 @@ Text ReplaceAll(TextView text, TextView part, TextView by) {
   if (part.empty())
     return Text(text);
   Text replaced;
+  replaced.reserve(text.size() + by.size());
   size_t from = 0;
   for (size_t at = text.find(part); at != TextView::npos; at = text.find(part, from)) {
     replaced.append(text, from, at - from).append(by);

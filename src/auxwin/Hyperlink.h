@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QLabel;
+
+/// Makes a label a link: underlined, in one colour, in another while the pointer is over it; a
+/// click, or Enter or Space while it has the focus, opens it. A pointer exactly on the right or
+/// bottom edge, one pixel beyond the label, counts as over it.
+///
+/// Colours are red + 256 x green + 65536 x blue.
+class Hyperlink : public QObject {
+  Q_OBJECT
+
+ public:
+  /// The colours of all links of the program: blue, and red under the pointer.
+  static constexpr int LinkColor = 0xFF0000;
+  static constexpr int LinkColorMouseOver = 0x0000FF;
+
+  /// Makes the label a link; `open` is called for each click. The link belongs to the label.
+  static void CreateHyperlink(QLabel& Label, int LabelColor, int LabelColorMouseOver,
+                              std::function<void()> open);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  Hyperlink(QLabel& label, int color, int colorMouseOver, std::function<void()> open);
+  bool LabelEvent(QEvent& event);
+  bool PaintWithFocus(QEvent& event);
+  void FollowPointer(const QPoint& globalPoint);
+  void ApplyColor(int color);
+
+  QLabel& label_;
+  int color_;
+  int colorMouseOver_;
+  int currentColor_ = -1;
+  bool painting_ = false;
+  std::function<void()> open_;
+};

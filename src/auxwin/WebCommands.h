@@ -1,0 +1,31 @@
+#pragma once
+
+#include "auxwin/Launching.h"
+#include "i18n/LOCAL.h"
+#include "mapdata/ProgramPaths.h"
+#include "platform/Text.h"
+
+/// The commands that open help, the read-me and addresses of the web. They keep nothing: each
+/// click reads the settings afresh. Nothing is reported if something can't be opened.
+class WebCommands {
+ public:
+  WebCommands(const ProgramPaths& paths, const LOCAL::Language& language, Desktop& desktop)
+      : paths_(paths), language_(language), launching_(paths, desktop) {}
+
+  /// Opens the help of the chosen language, the program's own if that can't be opened.
+  void miHelp_Click();
+
+  /// Shows the read-me of the chosen language, the program's own if there is none, and makes the
+  /// program's folder the current directory.
+  void miReadMe_Click();
+
+  /// Opens the address behind a command such as "miUpdateOrvalis": the one in section "urls" of
+  /// the settings, where the command has a key there, else the built-in one. Other commands do
+  /// nothing.
+  void OpenWebSite(TextView command);
+
+ private:
+  const ProgramPaths& paths_;
+  const LOCAL::Language& language_;
+  Launching launching_;
+};

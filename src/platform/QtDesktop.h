@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <memory>
+
+class QSoundEffect;
+
+/// The desktop that the program runs on.
+class QtDesktop : public Desktop {
+ public:
+  QtDesktop();
+  ~QtDesktop() override;
+
+  Result Open(const std::string& target) override;
+  [[nodiscard]] bool HasViewer(const std::string& mimeType) override;
+  void ShowPage(const std::string& path) override;
+  Result StartProgram(const std::string& path, const std::string& folder) override;
+  void LoopSound(const std::string& path) override;
+  void StopSound() override;
+  void Beep() override;
+  [[nodiscard]] Text UserLanguage() override;
+  [[nodiscard]] std::vector<Text> Printers() override;
+  [[nodiscard]] std::string AskFileToWrite(TextView caption, TextView suggestedName) override;
+
+ private:
+  std::unique_ptr<QSoundEffect> sound_;
+};

@@ -1,0 +1,193 @@
+#include "auxwin/Launching.h"
+
+#include "auxwin/Addresses.h"
+#include "auxwin/Documents.h"
+#include "auxwin/WebCommands.h"
+#include "platform/NativePath.h"
+#include "support/RecordingDesktop.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+using Addresses::Kind;
+
+namespace {
+
+struct Judged {
+  const char* what;
+  Text uri;
+  Kind kind;
+  std::string address;
+};
+
+// A program folder with a language of its own, and the state of a player who chose it.
+class Documented : public testing::Test {
+ protected:
+  Documented() : language(paths.infoData), commands(paths, language, desktop) {
+    paths.programFolder = folder.Path(u"");
+    paths.settings = folder.Path(u"orvalis.ini");
+    paths.languageRoot = folder.Path(u"LANG/");
+    language.LanguageRoot = paths.languageRoot;
+    Choose(u"Deutsch");
+  }
+
+  void Choose(TextView languageFolder) {
+    language.CurrentLanguage = languageFolder;
+    language.LanguageFolder = languageFolder;
+  }
+
+  void ExpectCalls(const std::vector<std::string>& calls) {
+    EXPECT_EQ(desktop.calls, calls);
+    desktop.calls.clear();
+  }
+
+  TemporaryFolder folder;
+  ProgramPaths paths;
+  LOCAL::Language language;
+  RecordingDesktop desktop;
+  WebCommands commands;
+};
+
+constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
+
+}  // namespace
+
+TEST(Addresses, OnlyTheWebMailAndPathsPass) {
+  const Judged table[] = {
+      {"as it stands", u"http://a.example/b?c=%20d#e", Kind::Web, "http://a.example/b?c=%20d#e"},
+      {"letter case", u"HTTPS://A.example", Kind::Web, "HTTPS://A.example"},
+      {"blanks around", u"  www.a.example ", Kind::Web, "http://www.a.example"},
+      {"scheme twice", u"http://http://a.example", Kind::Web, "http://http://a.example"},
+      {"blank inside", u"http://a.example/ --new-window", Kind::Web,
+       "http://a.example/%20--new-window"},
+      {"quotes and shell signs", u"http://a.example/\"`<|>\\", Kind::Web,
+       "http://a.example/%22%60%3C%7C%3E%5C"},
+      {"line break", u"http://a.example/\r\nx", Kind::Web, "http://a.example/%0D%0Ax"},
+      {"umlaut", u"http://a.example/ä", Kind::Web, "http://a.example/%C3%A4"},
+      {"scheme behind the first", u"http://javascript:x", Kind::Web, "http://javascript:x"},
+      {"mail", u"mailto:kart.en+1@a.example", Kind::Mail, "mailto:kart.en+1@a.example"},
+      {"mail with headers", u"mailto:a@b.example?attach=/etc/passwd&bcc=c", Kind::Mail,
+       "mailto:a@b.example%3Fattach%3D%2Fetc%2Fpasswd%26bcc%3Dc"},
+      {"mail to nobody", u"mailto:", Kind::Refused, ""},
+      {"option", u"-x", Kind::Refused, ""},
+      {"option in quotes", u"\"--help\"", Kind::Refused, ""},
+      {"script", u"javascript:alert(1)", Kind::Refused, ""},
+      {"script in capitals", u" JavaScript:alert(1)", Kind::Refused, ""},
+      {"file address", u"file:///etc/passwd", Kind::Refused, ""},
+      {"web without host", u"http://", Kind::Refused, ""},
+      {"web without slashes", u"http:a", Kind::Refused, ""},
+      {"blanks", u"   ", Kind::Refused, ""},
+      {"nothing", u"", Kind::Refused, ""},
+      {"very long", u"http://" + Text(10'000, u'a'), Kind::Web,
+       "http://" + std::string(10'000, 'a')},
+  };
+  for (const Judged& row : table) {
+    const Addresses::Target target = Addresses::Judge(row.uri);
+    EXPECT_EQ(target.kind, row.kind) << row.what;
+    EXPECT_EQ(target.address, row.address) << row.what;
+  }
+  EXPECT_EQ(Addresses::Judge(u"\"/a b/c.chm\"").path, u"/a b/c.chm");
+  EXPECT_EQ(Addresses::Judge(u"/a/\"b\".chm").path, u"/a/\"b\".chm");
+}
+
+TEST(Documents, TheTextBetweenTheFirstTwoPointsChoosesTheViewer) {
+  using Documents::Viewer;
+  EXPECT_EQ(Documents::ViewerOf(u"cheatlist.html"), Viewer::Page);
+  EXPECT_EQ(Documents::ViewerOf(u"Spellbook. CHM "), Viewer::Shell);
+  EXPECT_EQ(Documents::ViewerOf(u"tool.exe"), Viewer::Program);
+  EXPECT_EQ(Documents::ViewerOf(u"a.html.exe"), Viewer::Page);
+  EXPECT_EQ(Documents::ViewerOf(u"a.sh"), Viewer::None);
+  EXPECT_EQ(Documents::ViewerOf(u"html"), Viewer::None);
+}
+
+TEST_F(Documented, HelpFallsBackByTheResultOfOpening) {
+  folder.Write("orvalis.chm", "x");
+  folder.Write("LANG/English/orvalis.chm", "x");
+  desktop.viewers.insert(HelpFiles);
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("orvalis.chm")});
+  Choose(u"English");
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.chm")});
+  desktop.result = Desktop::Refused;
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.chm"),
+               "open " + folder.Native("orvalis.chm")});
+  desktop.result = Desktop::Started;
+  Choose(u"Français");
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("orvalis.chm")});
+}
+
+TEST_F(Documented, AHelpFileIsItsPageWhereNothingShowsHelpFiles) {
+  folder.Write("orvalis.html", "<p>Hilfe");
+  folder.Write("LANG/English/orvalis.chm", "x");
+  Choose(u"English");
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("orvalis.html")});
+  folder.Write("LANG/English/orvalis.html", "<p>Help");
+  commands.miHelp_Click();
+  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.html")});
+  desktop.viewers.clear();
+  commands.miHelp_Click();
+  ExpectCalls({"page " + folder.Native("LANG/English/orvalis.html")});
+}
+
+TEST_F(Documented, ReadMeIsChosenByWhatExists) {
+  folder.Write("README.HTML", "<p>Lies mich");
+  commands.miReadMe_Click();
+  ExpectCalls({"open " + folder.Native("README.HTML")});
+  EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(folder.Native(".")));
+  Choose(u"English");
+  folder.Write("LANG/English/readme.html", "");
+  commands.miReadMe_Click();
+  ExpectCalls({"open " + folder.Native("README.HTML")});
+  std::filesystem::remove(folder.Native("LANG/English/readme.html"));
+  std::filesystem::create_directory(folder.Native("LANG/English/readme.html"));
+  commands.miReadMe_Click();
+  ExpectCalls({"open " + folder.Native("README.HTML")});
+  std::filesystem::remove(folder.Native("LANG/English/readme.html"));
+  folder.Write("LANG/English/readme.html", "<p>Read me");
+  commands.miReadMe_Click();
+  ExpectCalls({"open " + folder.Native("LANG/English/readme.html")});
+  std::filesystem::remove(folder.Native("README.HTML"));
+  Choose(u"Deutsch");
+  commands.miReadMe_Click();
+  ExpectCalls({});
+}
+
+TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
+  folder.Write("prog/orvalis.chm", "x");
+  folder.Write("LANG/English/readme.html", "x");
+  folder.Write("secret.html", "x");
+  paths.programFolder = folder.Path(u"prog/");
+  Launching launching(paths, desktop);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
+  EXPECT_EQ(launching.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);
+  EXPECT_EQ(launching.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/none.pdf")), Desktop::FileMissing);
+  EXPECT_EQ(launching.StartProgram(folder.Path(u"secret.html")), Desktop::Refused);
+  EXPECT_TRUE(desktop.calls.empty());
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG/English/readme.html")), Desktop::Started);
+}
+
+TEST_F(Documented, AddressesComeFromTheSettingsReadAtEachClick) {
+  commands.OpenWebSite(u"miUpdateOrvalis");
+  ExpectCalls({"open http://www.orvalis.example/download/"});
+  folder.Write(
+      "orvalis.ini",
+      "[urls]\r\ntranlatorsdk= www.kit.example \r\nduskholdpatch=\"  \"\r\nDownload=-x\r\n");
+  commands.OpenWebSite(u"miDownloadTranslatorSDK");
+  ExpectCalls({"open http://www.kit.example"});
+  commands.OpenWebSite(u"miUpdate");
+  ExpectCalls({"open http://www.duskhold.example/patches/"});
+  commands.OpenWebSite(u"miUpdateOrvalis");
+  ExpectCalls({});
+  folder.Write("orvalis.ini", "[urls]\r\nDownload=javascript:x\r\n");
+  commands.OpenWebSite(u"miUpdateOrvalis");
+  commands.OpenWebSite(u"miQuit");
+  ExpectCalls({});
+  commands.OpenWebSite(u"miFanSiteC");
+  ExpectCalls({"open http://www.kartenstube.example/"});
+}
