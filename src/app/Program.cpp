@@ -10,6 +10,24 @@
 #include "platform/PosixFile.h"
 #include "platform/ShowMessage.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QWindow>
+
+namespace {
+
+constexpr int LongestWait = 500;
+
+// A dialog stands over the middle of its window, once the desktop has placed that.
+void WaitUntilShown(const QWidget& window) {
+  QElapsedTimer waiting;
+  waiting.start();
+  while (!window.windowHandle()->isExposed() && waiting.elapsed() < LongestWait)
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+}
+
+}  // namespace
+
 Program::Program(Context& context) : context_(context) {}
 
 Program::~Program() = default;
@@ -46,6 +64,8 @@ void Program::ChooseLanguage(const Text& chosenLanguage) {
   const Text systemLanguage = Registry_Module::ReadRegistryValue(Registry_Module::InternationalKey,
                                                                  Registry_Module::LanguageValue,
                                                                  context_.desktop.UserLanguage());
-  if (language.IsToBeOffered(systemLanguage))
-    window_->ChooseLanguage();
+  if (!language.IsToBeOffered(systemLanguage))
+    return;
+  WaitUntilShown(*window_);
+  window_->ChooseLanguage();
 }
