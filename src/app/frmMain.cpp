@@ -38,7 +38,7 @@ frmMain::frmMain(Context& context)
 
 void frmMain::ShowTexts(const InterfaceTexts& texts) {
   menus_->SetCaptions(texts.menus);
-  map_->SetTexts(texts.prompt, texts.infoToolTip);
+  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted);
 }
 
 void frmMain::RunCategory(const MenuRow& row) {

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 class MapArea;
+class MapFocus;
 class MarkerSlots;
 class NameLabel;
 class QComboBox;
@@ -27,8 +28,9 @@ class MapView : public QWidget {
   MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent = nullptr);
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
-  /// tooltip. The row shows when the list is filled the next time.
-  void SetTexts(const Text& prompt, const Text& infoToolTip);
+  /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
+  /// reader says of a highlighted marker.
+  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted = u"*");
 
   /// Hides and resets everything on the map; the picture stays.
   void ClearUI();
@@ -75,6 +77,13 @@ class MapView : public QWidget {
   /// Shows the text in the top right corner.
   void ShowHeading(const Text& caption);
 
+  /// The way of the keyboard over the markers.
+  [[nodiscard]] MapFocus& Focus() { return *focus_; }
+
+  /// What a screen reader tells of a marker beside its name: whether it is highlighted, and the
+  /// start of the entity's description.
+  [[nodiscard]] QString SpokenDescription(const ctlLocation& marker);
+
   /// The entity list, which keeps its rows while it is hidden.
   [[nodiscard]] QComboBox& Items() { return *cboItems; }
 
@@ -104,11 +113,13 @@ class MapView : public QWidget {
   void HideItem();
   void btnInfo_Click();
   void DOT_MouseMove(int index);
+  [[nodiscard]] QString Description(const NameLabel& label);
   void ShowDescription(NameLabel& label);
 
   IniOps::Cache& files_;
   EntityNames& names_;
   Text prompt_;
+  Text highlighted_;
   Text dataFile_;
   Text categoryKey_;
   Twips2Pixel_Module::Twips itemAt_;
@@ -118,6 +129,7 @@ class MapView : public QWidget {
   NameLabel* lblCaption;
   ctlLocation* ITEM;
   MarkerSlots* slots_;
+  MapFocus* focus_;
   NameLabel* lblMultiInfo;
   QComboBox* cboItems;
   QToolButton* btnInfo;
