@@ -4,8 +4,7 @@
 # packages: what builds and tries the packages.
 set -euo pipefail
 
-# shellcheck disable=SC2034  # the groups are read by their names
-run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation xdg-utils"
+run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation fonts-urw-base35 xdg-utils"
 display="xvfb xauth openbox xdotool imagemagick x11-utils"
 test="libgtest-dev libbenchmark-dev poppler-utils strace python3 desktop-file-utils appstream groff-base"
 ci="clang-format clang libclang-rt-14-dev"
