@@ -86,7 +86,11 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
 
 // The first label stands over the banner's right edge: the picture fades out before it.
 void frmPrint::ShowBanner() {
-  QPixmap banner = QIcon(QStringLiteral(":/builtin/banner-print.png")).pixmap(imgBanner->size());
+  // A picture without an alpha channel would fade to black.
+  QImage banner = QIcon(QStringLiteral(":/builtin/banner-print.png"))
+                      .pixmap(imgBanner->size())
+                      .toImage()
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
   imgBanner->setScaledContents(true);
   if (!banner.isNull()) {
     const QRectF place({}, banner.deviceIndependentSize());
@@ -98,7 +102,7 @@ void frmPrint::ShowBanner() {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.fillRect(place, fade);
   }
-  imgBanner->setPixmap(banner);
+  imgBanner->setPixmap(QPixmap::fromImage(banner));
 }
 
 void frmPrint::FillPrinters() {
