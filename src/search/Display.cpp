@@ -25,6 +25,8 @@ void SelectInList(MapView& map, const CachedEntity& entity) {
 
 }  // namespace
 
+namespace SearchResult {
+
 void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Language& language,
              IniOps::Cache& files) {
   const CachedEntity entity = state.Cache.At(index);
@@ -45,3 +47,5 @@ void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Lang
   map.ShowHeading(Search::ResultHeading(state, snapshot, language));
   map.View = {{}, entity.Database, entity.Section, {}, false, name};
 }
+
+}  // namespace SearchResult

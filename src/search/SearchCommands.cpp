@@ -23,7 +23,7 @@ void SearchCommands::miFindAgain_Click() {
 
 void SearchCommands::Report(const Search::Outcome& outcome) {
   if (const auto* hit = std::get_if<Search::Hit>(&outcome)) {
-    Display(hit->index, state_, map_, language_, files_);
+    SearchResult::Display(hit->index, state_, map_, language_, files_);
   } else if (const auto* link = std::get_if<InvalidLink>(&outcome)) {
     const Search::Message message = Search::InvalidLinkMessage(*link);
     ShowMessage(map_.window(), MessageIcon::Critical, message.text, message.caption);
