@@ -3,7 +3,7 @@
 # run: build and start the program; display: a virtual display; test, ci: what the checks use.
 set -euo pipefail
 
-run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation xdg-utils"
+run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation fonts-urw-base35 xdg-utils"
 display="xvfb xauth openbox xdotool imagemagick x11-utils"
 test="libgtest-dev libbenchmark-dev poppler-utils strace python3"
 ci="clang-format clang libclang-rt-14-dev"

@@ -4,6 +4,8 @@
 #include "app/MenuTable.h"
 #include "app/frmMain.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/Registry_Module.h"
+#include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/ShowMessage.h"
@@ -41,4 +43,9 @@ void Program::ChooseLanguage(const Text& chosenLanguage) {
   window_->ShowTexts(language.IsGerman() ? Translate_UI_DE()
                                          : Translate_UI(files, language, MenuTable::Captions()));
   language.CacheTranslationTable(files);
+  const Text systemLanguage = Registry_Module::ReadRegistryValue(Registry_Module::InternationalKey,
+                                                                 Registry_Module::LanguageValue,
+                                                                 context_.desktop.UserLanguage());
+  if (language.IsToBeOffered(systemLanguage))
+    window_->ChooseLanguage();
 }

@@ -193,6 +193,9 @@ std::string ProfileFile::WithValue(std::string_view section, std::string_view ke
                                    std::string_view value) const {
   const auto offset = [this](const char* at) { return static_cast<size_t>(at - bytes_.data()); };
   const std::string end(LineEnd());
+  // Blanks around them would not be read, but the next write would leave some of them.
+  key = Strip(key, " ");
+  value = Strip(value, Blanks);
   const std::string entry = std::string(key) + '=' + std::string(value);
   std::string changed = bytes_;
   if (const KeyLine* line = FindKey(section, key)) {

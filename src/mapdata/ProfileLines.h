@@ -28,13 +28,25 @@ inline constexpr std::string_view Blanks = " \t\v\f";
   return text;
 }
 
+/// The number of bytes before the next CR or LF.
+[[nodiscard]] inline size_t LineLength(std::string_view rest) {
+  // In steps: looking for an LF in the whole of a file that has none would take its length for
+  // every line.
+  constexpr size_t firstStep = 256;
+  for (size_t step = firstStep;; step *= 2) {
+    const std::string_view part = rest.substr(0, step);
+    const std::string_view upToLf = part.substr(0, part.find('\n'));
+    const size_t length = std::min(upToLf.find('\r'), upToLf.size());
+    if (length < part.size() || part.size() == rest.size())
+      return length;
+  }
+}
+
 /// The next line, taken off the front of `rest` with its end: CR LF, LF or CR.
 [[nodiscard]] inline std::string_view TakeLine(std::string_view& rest) {
-  const std::string_view upToLf = rest.substr(0, rest.find('\n'));
-  const std::string_view line = upToLf.substr(0, upToLf.find('\r'));
-  rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-  if (line.size() < upToLf.size() && line.size() + 1 == upToLf.size() && rest.starts_with('\n'))
-    rest.remove_prefix(1);
+  const std::string_view line = rest.substr(0, LineLength(rest));
+  rest.remove_prefix(line.size());
+  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<size_t>(rest.size(), 1));
   return line;
 }
 

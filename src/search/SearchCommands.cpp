@@ -6,8 +6,8 @@
 #include "search/frmFind.h"
 
 SearchCommands::SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
-                               IniOps::Cache& files)
-    : QObject(&map), map_(map), paths_(paths), language_(language), files_(files) {}
+                               IniOps::Cache& files, Search::State& state)
+    : QObject(&map), map_(map), paths_(paths), language_(language), files_(files), state_(state) {}
 
 void SearchCommands::miFind_Click() {
   frmFind dialog(map_.window(), paths_, language_, files_, state_);

@@ -8,14 +8,14 @@
 
 class MapView;
 
-/// The two commands of the search, and its state for as long as the program runs.
+/// The two commands of the search.
 class SearchCommands : public QObject {
   Q_OBJECT
 
  public:
   /// Results are shown on `map`; messages and the dialog stand over its window.
   SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files);
+                 IniOps::Cache& files, Search::State& state);
 
   /// Asks for a term and shows the first entity that matches.
   void miFind_Click();
@@ -36,5 +36,5 @@ class SearchCommands : public QObject {
   const ProgramPaths& paths_;
   LOCAL::Language& language_;
   IniOps::Cache& files_;
-  Search::State state_;
+  Search::State& state_;
 };

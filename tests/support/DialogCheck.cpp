@@ -40,6 +40,8 @@ void CheckPlace(const Dialog& dialog, const ControlDesign& design) {
 }
 
 void CheckText(const QWidget& control) {
+  if (TextFit::TextOf(control).isEmpty())
+    return;
   const QSize needed = TextFit::Needed(control, control.font(), control.width());
   const std::string what =
       control.objectName().toStdString() + ": " + TextFit::TextOf(control).toStdString();

@@ -45,7 +45,8 @@ void DrawHaloed(QPainter& painter, const RegionStyle& style, const QString& text
   QPainterPath path;
   path.addText(at, font, text);
   painter.setBrush(Qt::NoBrush);
-  const double size = font.pixelSize();
+  // Large titles need no wider halo than names.
+  const double size = std::min(font.pixelSize(), 44);
   painter.setPen(
       QPen(style.paper.color(130), size * 0.32, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPath(path);

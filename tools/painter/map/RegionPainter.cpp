@@ -9,6 +9,7 @@
 #include "map/Relief.h"
 #include "map/Ruins.h"
 #include "map/Settlements.h"
+#include "map/Sheet.h"
 #include "map/Signs.h"
 #include "map/TemplePainter.h"
 #include "terrain/Roads.h"
@@ -57,7 +58,6 @@ class RegionPainter {
   [[nodiscard]] std::vector<Point> pointsOf(Landmark kind) const;
   void layRoads();
   void reserveAround(Point at, double reach);
-  void drawRivers(QPainter& painter) const;
   void drawWays(QPainter& painter) const;
   void drawSites(QPainter& painter, Lettering& lettering) const;
   [[nodiscard]] QPointF quietCorner(QSizeF size, const Lettering& lettering) const;
@@ -116,20 +116,6 @@ void RegionPainter::layRoads() {
   for (const Site& site : sites_) {
     reserveAround({site.place.at.x, site.place.at.y + 3}, ReachOf(site.kind) / Scale + 5);
   }
-}
-
-void RegionPainter::drawRivers(QPainter& painter) const {
-  const auto draw = [&](double extra, const QColor& color) {
-    for (const Terrain::River& river : field_.rivers) {
-      for (std::size_t i = 1; i < river.bends.size(); ++i) {
-        painter.setPen(
-            QPen(color, river.bends[i].width * Scale * 0.8 + extra, Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(OnPicture(river.bends[i - 1].at), OnPicture(river.bends[i].at));
-      }
-    }
-  };
-  draw(2.2, style_.deep.towards(style_.ink, 0.45).color());
-  draw(0, style_.shallows.towards(style_.deep, 0.35).color());
 }
 
 QPainterPath PathOf(const Terrain::Way& way) {
@@ -231,7 +217,7 @@ QImage RegionPainter::paint() {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   if (!carved) {
-    drawRivers(painter);
+    DrawRivers(painter, field_, style_);
     drawWays(painter);
     DrawRuins(painter, field_, style_);
     DrawSigns(painter, field_, style_, reserved_);

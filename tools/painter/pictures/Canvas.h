@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <functional>
+#include <initializer_list>
+
+#include "map/Tone.h"
+
+namespace Pictures {
+
+using Map::Tone;
+
+inline constexpr Tone Ink{38, 28, 24};
+inline constexpr Tone Gold{206, 164, 72};
+inline constexpr Tone Bone{232, 222, 196};
+inline constexpr Tone Steel{158, 166, 178};
+inline constexpr Tone Wood{126, 86, 52};
+
+/// A closed line without corners through the points.
+[[nodiscard]] QPainterPath Rounded(std::initializer_list<QPointF> points);
+
+/// A closed line of straight pieces.
+[[nodiscard]] QPainterPath Angular(std::initializer_list<QPointF> points);
+
+[[nodiscard]] QPainterPath Oval(QPointF middle, double across, double down);
+
+/// The same on the other side of the picture's middle line.
+[[nodiscard]] QPainterPath Mirrored(const QPainterPath& path);
+
+/// A picture of 100 x 100 units with light from the north-west.
+class Canvas {
+ public:
+  explicit Canvas(QPainter& painter) : painter_(painter) {}
+
+  [[nodiscard]] QPainter& painter() { return painter_; }
+
+  /// Fills a shape as a lit body with a thin dark outline.
+  void body(const QPainterPath& path, const Tone& tone, double outline = 0.8);
+  void flat(const QPainterPath& path, const QColor& color);
+  void line(const QPainterPath& path, const QColor& color, double width);
+  void line(QPointF from, QPointF to, const QColor& color, double width);
+  void glow(QPointF middle, double radius, const QColor& color);
+  /// Body and its mirror image.
+  void pair(const QPainterPath& path, const Tone& tone, double outline = 0.8);
+  /// Covers everything: brighter behind the subject than at the edges.
+  void backdrop(const Tone& middle, const Tone& edge);
+
+ private:
+  QPainter& painter_;
+};
+
+/// Paints at four times the size, scales down and puts a frame around: 105 x 105 pixels.
+[[nodiscard]] QImage Framed(const std::function<void(Canvas&)>& paint);
+
+}  // namespace Pictures
