@@ -16,8 +16,8 @@ Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
       context_(context),
       map_(map),
       mainWindow_(mainWindow),
-      search_(new SearchCommands(map, context.paths, context.language, context.files,
-                                 context.search)) {
+      search_(
+          new SearchCommands(map, context.paths, context.language, context.files, context.search)) {
   search_->setParent(this);
   connect(search_, &SearchCommands::SearchStarted, this, &Commands::SearchStarted);
   // At once, and not after what still waits in the event loop.
