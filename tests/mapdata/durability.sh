@@ -33,7 +33,7 @@ calls=$(grep -oE '^(write|fsync|rename)' "$folder/calls" | tr '\n' ' ')
 # A kill on entry means that the call is not made.
 for call in write:1 fsync:1 rename:1 fsync:2; do
   begin
-  strace -o /dev/null -e trace=none -e inject="${call%:*}:signal=KILL:when=${call#*:}" \
+  strace -o /dev/null -e "trace=${call%:*}" -e inject="${call%:*}:signal=KILL:when=${call#*:}" \
     "$writer" "$file" Neu 2>/dev/null && fail "not killed before $call"
   expected=$old
   [ "$call" = fsync:2 ] && expected=$new
