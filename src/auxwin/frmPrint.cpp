@@ -24,7 +24,7 @@ constexpr TextView PdfEntry = u"PDF";
 constexpr TextView PdfName = u"Orvalis.pdf";
 constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
-constexpr double FadeWidth = 0.15;
+constexpr double FadeWidth = 0.1;
 
 constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",
@@ -86,19 +86,22 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
 
 // The first label stands over the banner's right edge: the picture fades out before it.
 void frmPrint::ShowBanner() {
-  QPixmap banner = QIcon(QStringLiteral(":/builtin/banner-print.png")).pixmap(imgBanner->size());
   imgBanner->setScaledContents(true);
-  if (!banner.isNull()) {
-    const QRectF place({}, banner.deviceIndependentSize());
-    const double end = static_cast<double>(lblPrinters->x()) / imgBanner->width();
-    QLinearGradient fade(place.topLeft(), place.topRight());
-    fade.setColorAt(end - FadeWidth, Qt::black);
-    fade.setColorAt(end, Qt::transparent);
-    QPainter painter(&banner);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.fillRect(place, fade);
-  }
-  imgBanner->setPixmap(banner);
+  const QPixmap pixmap =
+      QIcon(QStringLiteral(":/builtin/banner-print.png")).pixmap(imgBanner->size());
+  if (pixmap.isNull())
+    return;
+  QImage banner = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  const QRectF place({}, banner.deviceIndependentSize());
+  const double end = static_cast<double>(lblPrinters->x()) / imgBanner->width();
+  QLinearGradient fade(place.topLeft(), place.topRight());
+  fade.setColorAt(end - FadeWidth, Qt::black);
+  fade.setColorAt(end, Qt::transparent);
+  QPainter painter(&banner);
+  painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+  painter.fillRect(place, fade);
+  painter.end();
+  imgBanner->setPixmap(QPixmap::fromImage(banner));
 }
 
 void frmPrint::FillPrinters() {
