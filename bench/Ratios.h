@@ -13,6 +13,9 @@ struct Ratio {
   double limit = 1;
 };
 
+/// Prints a ratio that was measured otherwise; whether it is within its limit.
+[[nodiscard]] bool Holds(const Ratio& ratio, double measured);
+
 /// Runs all registered measurements by rounds, takes the quickest of each, and prints the ratios.
 /// The program's exit code: 1 if a ratio is over its limit or one of its sides was not measured.
 [[nodiscard]] int Run(int argc, char** argv, std::span<const Ratio> ratios);

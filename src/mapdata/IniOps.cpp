@@ -64,14 +64,14 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
     return profile;
   if (kept_.size() == MostKeptFiles)
     kept_.pop_front();
-  return kept_.emplace_back(Text(file), contents->stamp, std::move(profile)).profile;
+  return kept_.emplace_back(Kept{Text(file), contents->stamp, std::move(profile)}).profile;
 }
 
 const std::shared_ptr<const ProfileFile>& Snapshot::Shared(TextView file) {
   for (const Seen& seen : seen_)
     if (seen.path == file)
       return seen.profile;
-  return seen_.emplace_back(Text(file), cache_.Get(file)).profile;
+  return seen_.emplace_back(Seen{Text(file), cache_.Get(file)}).profile;
 }
 
 Text Snapshot::IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {

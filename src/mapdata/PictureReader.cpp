@@ -16,7 +16,9 @@ namespace {
 constexpr size_t LargestFile = 64 * 1024 * 1024;
 constexpr int LongestSide = 16384;
 constexpr qint64 MostPixels = 40'000'000;
-constexpr int MostMebibytes = 256;
+// What the pixels take at 32 bits each. A GIF tells the size of its first frame and takes memory
+// for its screen.
+constexpr int MostMebibytes = 153;
 constexpr int SmallestPart = 8;
 
 QByteArray Bytes(TextView path) {
@@ -68,7 +70,7 @@ QImage Read(TextView path, QSize cover) {
   if (cover.isValid() && reader.format() == "jpeg")
     reader.setScaledSize(PartCovering(reader.size(), cover));
   QImage picture;
-  if (!reader.read(&picture))
+  if (!reader.read(&picture) || !IsSensibleSize(picture.size()))
     return {};
   return picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                            : QImage::Format_RGB32);

@@ -2,6 +2,8 @@
 
 #include "support/TemporaryFolder.h"
 
+#include <chrono>
+
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -63,6 +65,13 @@ TEST(IniOps, SurvivesFilesThatAreNoProfileFiles) {
   EXPECT_EQ(IniOps::IniRead(folder.Path(u"sections"), u"section 39999", u"k", u""), u"39999");
   folder.Write("line", "[a]\r\nk=" + std::string(10'000'000, '=') + "\r\nz=1\r\n");
   EXPECT_EQ(IniOps::IniRead(folder.Path(u"line"), u"a", u"z", u""), u"1");
+  std::string lines = "[a]\r";
+  for (int i = 0; i < 1'000'000; ++i)
+    lines += "k=1\r";
+  folder.Write("cr", lines);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(IniOps::IniReadFile(folder.Path(u"cr"), u"a").size(), 1'000'000U);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
   folder.Write("nul", std::string("[a]\r\nk\0b=1\0\r\n[c\0", 18));
   EXPECT_EQ(IniOps::IniReadFile(folder.Path(u"nul"), u"a"), (Names{Text(u"k\0b", 3)}));
   folder.Write("mark", "\xEF\xBB\xBF[a]\r\nk=1\r\n");

@@ -1,0 +1,280 @@
+#include "Frame.h"
+#include "MapWorld.h"
+#include "Ratios.h"
+#include "app/Context.h"
+#include "app/frmMain.h"
+#include "mapdata/MapArea.h"
+#include "mapdata/MapView.h"
+#include "platform/PosixFile.h"
+#include "platform/QtText.h"
+#include "support/GermanNames.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QAction>
+#include <QImageReader>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <fstream>
+
+using QtText::ToQt;
+
+namespace {
+
+constexpr int Rounds = 7;
+constexpr QSize Screen = {1920, 1080};
+
+const MapWorld& World() {
+  static const MapWorld world;
+  return world;
+}
+
+// The program's main window over the measured world, as large as the screen.
+class Window {
+ public:
+  Window() {
+    window_.resize(Screen);
+    window_.show();
+    QApplication::processEvents();
+  }
+
+  [[nodiscard]] frmMain& Widget() { return window_; }
+
+  [[nodiscard]] QWidget& Map() { return *window_.findChild<QWidget*>(QStringLiteral("imgMap")); }
+
+  [[nodiscard]] MapView& View() { return *window_.findChild<MapView*>(); }
+
+  /// Chooses the region's measured category in the menu; the seconds until it is on the screen,
+  /// and not those of what is done after that.
+  double Show(int region) {
+    auto* action = window_.findChild<QAction*>(ToQt(MapWorld::Measured(region).name));
+    const double seconds = Frame::Seconds(Map(), [action] { action->trigger(); });
+    QApplication::processEvents();
+    return seconds;
+  }
+
+  /// One step of a resize by dragging.
+  double Step(int number) {
+    return Frame::Seconds(
+        Map(), [this, number] { window_.resize(Screen - QSize(40, 30) * (number % 8 + 1)); });
+  }
+
+ private:
+  Context context_{World().Folder()};
+  frmMain window_{context_};
+};
+
+void ReadJpegAtWindowSize(benchmark::State& state) {
+  for (auto _ : state) {
+    const double start = ProcessSeconds();
+    QImageReader reader(ToQt(World().Picture(0)));
+    reader.setScaledSize(Screen);
+    benchmark::DoNotOptimize(reader.read());
+    state.SetIterationTime(ProcessSeconds() - start);
+  }
+}
+
+void ShowNewRegion(benchmark::State& state) {
+  for (auto _ : state) {
+    Window window;
+    state.SetIterationTime(window.Show(0));
+  }
+}
+
+void ShowKnownRegion(benchmark::State& state) {
+  Window window;
+  window.Show(0);
+  window.Show(1);
+  int region = 0;
+  for (auto _ : state) {
+    state.SetIterationTime(window.Show(region));
+    region = 1 - region;
+  }
+}
+
+void ResizeWithMarkers(benchmark::State& state) {
+  Window window;
+  window.Show(0);
+  int step = 0;
+  for (auto _ : state)
+    state.SetIterationTime(window.Step(step++));
+}
+
+void ResizePictureAlone(benchmark::State& state) {
+  Window window;
+  if (!window.View().LoadPicture(World().Picture(0)))
+    state.SkipWithError("the picture can't be read");
+  int step = 0;
+  for (auto _ : state)
+    state.SetIterationTime(window.Step(step++));
+}
+
+// A widget that knows nothing but its picture.
+class PlainPicture : public QWidget {
+ public:
+  PlainPicture() {
+    QImageReader reader(ToQt(World().Picture(0)));
+    reader.setScaledSize(MapWorld::PictureSize / 2);
+    picture_ = reader.read().convertToFormat(QImage::Format_RGB32);
+    resize(Screen);
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(rect(), picture_);
+  }
+
+ private:
+  QImage picture_;
+};
+
+void PaintPlainPicture(benchmark::State& state) {
+  PlainPicture widget;
+  int step = 0;
+  for (auto _ : state)
+    state.SetIterationTime(Frame::Seconds(widget, [&widget, number = step++] {
+      widget.resize(Screen - QSize(40, 30) * (number % 8 + 1));
+    }));
+}
+
+// A map with all names shown, and the pointer that moves over it.
+class HoveredMap {
+ public:
+  HoveredMap() {
+    view_.resize(Screen);
+    view_.ChangeMulti(World().Picture(0), World().Data(0), Text(MapWorld::Measured(0).category),
+                      u"Names", false);
+    view_.show();
+    QApplication::processEvents();
+  }
+
+  void MoveOver(QLatin1StringView control, int slot) {
+    auto* widget = view_.findChild<QWidget*>(QStringLiteral("%1(%2)").arg(control).arg(slot));
+    const QPointF at(2, 2);
+    QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+  }
+
+  [[nodiscard]] QString ToolTip(int slot) {
+    return view_.findChild<QLabel*>(QStringLiteral("lblDOT(%1)").arg(slot))->toolTip();
+  }
+
+ private:
+  IniOps::Cache cache_;
+  GermanNames names_{World().InfoData()};
+  MapView view_{cache_, names_};
+};
+
+constexpr QLatin1StringView Label("lblDOT");
+constexpr QLatin1StringView Marker("DOT");
+
+double SecondsOf(HoveredMap& map, int slot) {
+  const double start = ProcessSeconds();
+  map.MoveOver(Label, slot);
+  return ProcessSeconds() - start;
+}
+
+void ReadInfoFile(benchmark::State& state) {
+  const std::string path = World().Native() + "info.data";
+  for (auto _ : state) {
+    const double start = ProcessSeconds();
+    benchmark::DoNotOptimize(PosixFile::Read(path, IniOps::LargestFile));
+    state.SetIterationTime(ProcessSeconds() - start);
+  }
+}
+
+void FirstMoveOverName(benchmark::State& state) {
+  for (auto _ : state) {
+    HoveredMap map;
+    state.SetIterationTime(SecondsOf(map, 0));
+    if (map.ToolTip(0).isEmpty())
+      state.SkipWithError("the name has no description");
+  }
+}
+
+void FurtherMoveOverName(benchmark::State& state) {
+  HoveredMap map;
+  map.MoveOver(Label, 0);
+  int slot = 0;
+  for (auto _ : state) {
+    slot = (slot + 1) % MapWorld::Entities;
+    state.SetIterationTime(SecondsOf(map, slot));
+  }
+}
+
+// What the process has read so far, from files and otherwise.
+long long BytesRead() {
+  std::ifstream counters("/proc/self/io");
+  std::string name;
+  long long bytes = 0;
+  counters >> name >> bytes;
+  return bytes;
+}
+
+double BytesReadByHovering() {
+  HoveredMap map;
+  map.MoveOver(Label, 0);
+  const long long before = BytesRead();
+  const long long ofCounting = BytesRead() - before;
+  const long long start = BytesRead();
+  for (int slot = 0; slot < MapWorld::Entities; ++slot) {
+    map.MoveOver(Marker, slot);
+    map.MoveOver(Label, slot);
+  }
+  return static_cast<double>(std::max(0LL, BytesRead() - start - ofCounting));
+}
+
+double BytesReadByResizing() {
+  Window window;
+  window.Show(0);
+  const long long before = BytesRead();
+  for (int step = 0; step < 10; ++step)
+    window.Step(step);
+  return static_cast<double>(BytesRead() - before);
+}
+
+void Measure(const char* name, void (*measurement)(benchmark::State&), int iterations) {
+  benchmark::RegisterBenchmark(name, measurement)
+      ->UseManualTime()
+      ->Iterations(iterations)
+      ->Repetitions(Rounds)
+      ->Unit(benchmark::kMicrosecond);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ORVALIS_BENCH_SCREEN);
+  int onlyName = 1;
+  const QApplication application(onlyName, argv);
+  Measure("ReadJpegAtWindowSize", ReadJpegAtWindowSize, 1);
+  Measure("ReadInfoFile", ReadInfoFile, 1);
+  Measure("ShowNewRegion", ShowNewRegion, 1);
+  Measure("ShowKnownRegion", ShowKnownRegion, 1);
+  Measure("ResizeWithMarkers", ResizeWithMarkers, 8);
+  Measure("ResizePictureAlone", ResizePictureAlone, 8);
+  Measure("PaintPlainPicture", PaintPlainPicture, 8);
+  Measure("FirstMoveOverName", FirstMoveOverName, 1);
+  Measure("FurtherMoveOverName", FurtherMoveOverName, MapWorld::Entities);
+  const Ratios::Ratio ratios[] = {
+      {"ShowNewRegion", "ReadJpegAtWindowSize", 1.5},
+      {"ShowKnownRegion", "ShowNewRegion", 0.2},
+      {"ResizeWithMarkers", "PaintPlainPicture", 3},
+      {"ResizeWithMarkers", "ResizePictureAlone", 3},
+      {"FirstMoveOverName", "ReadInfoFile", 12},
+      {"FurtherMoveOverName", "FirstMoveOverName", 0.01},
+  };
+  const int timed = Ratios::Run(argc, argv, ratios);
+  // Ten steps may ask the event loop's own descriptors, but must not come near a file.
+  constexpr double waking = 1000;
+  const bool hover = Ratios::Holds({"BytesReadByHovering", "one byte", 0}, BytesReadByHovering());
+  const bool resize =
+      Ratios::Holds({"BytesReadByResizing", "one byte", waking}, BytesReadByResizing());
+  return timed == 0 && hover && resize ? 0 : 1;
+}

@@ -1,0 +1,64 @@
+#include "app/Commands.h"
+
+#include "app/Context.h"
+#include "auxwin/WebCommands.h"
+#include "auxwin/frmAbout.h"
+#include "auxwin/frmExtras.h"
+#include "auxwin/frmPrint.h"
+#include "i18n/frmLang.h"
+#include "mapdata/MapView.h"
+#include "mapdata/frmInfo.h"
+
+Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
+    : QObject(&mainWindow), context_(context), map_(map), mainWindow_(mainWindow) {}
+
+void Commands::Run(const MenuRow& row) {
+  WebCommands web(context_.paths, context_.language, context_.desktop);
+  switch (row.action) {
+    case Action::Print:
+      return Print();
+    case Action::Language:
+      return ChooseLanguage();
+    case Action::Extras:
+      return ShowExtras();
+    case Action::About:
+      return ShowAbout();
+    case Action::Help:
+      return web.miHelp_Click();
+    case Action::ReadMe:
+      return web.miReadMe_Click();
+    case Action::Quit:
+      mainWindow_.close();
+      return;
+    default:
+      return web.OpenWebSite(row.name);
+  }
+}
+
+void Commands::ShowInfo() {
+  frmInfo(&mainWindow_, context_.paths, context_.language, context_.files, map_.InfoEntityName)
+      .exec();
+}
+
+void Commands::ChooseLanguage() {
+  frmLang dialog(&mainWindow_, context_.paths, context_.language, context_.files,
+                 context_.launching, captions_);
+  connect(&dialog, &frmLang::LanguageChanged, this, &Commands::LanguageChanged);
+  dialog.exec();
+}
+
+void Commands::Print() {
+  const Printout printout{map_.MapSize(), [this](QPainter& painter) { map_.Paint(painter); }};
+  frmPrint(&mainWindow_, context_.language, context_.files, context_.desktop, printout).exec();
+}
+
+void Commands::ShowExtras() {
+  frmExtras(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop)
+      .exec();
+}
+
+void Commands::ShowAbout() {
+  frmAbout(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop,
+           context_.edition.text)
+      .exec();
+}

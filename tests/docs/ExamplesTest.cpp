@@ -1,0 +1,223 @@
+// Runs the examples of the manuals: a block with "file" is a file of the program folder, a block
+// with "shows" is what the program makes of the chapter's files so far.
+#include "app/MenuTable.h"
+#include "app/Settings.h"
+#include "app/StartUp.h"
+#include "docs/Document.h"
+#include "i18n/InterfaceTexts.h"
+#include "i18n/LOCAL.h"
+#include "mapdata/EntityFile.h"
+#include "mapdata/FileSystem.h"
+#include "mapdata/InfoFile.h"
+#include "platform/NativePath.h"
+#include "platform/Windows1252.h"
+#include "support/TemporaryFolder.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+using Attributes = std::map<std::string, std::string>;
+
+Text Wide(const std::string& utf8) {
+  return NativePath::FromBytes(utf8);
+}
+
+std::string Narrow(TextView text) {
+  return NativePath::ToBytes(text);
+}
+
+std::string Encoded(TextView text) {
+  return Windows1252::Encode(text).value();
+}
+
+std::string Shown(const EntityFile::Position& position) {
+  return std::to_string(position.x) + "," + std::to_string(position.y);
+}
+
+// The program in the folder of one chapter, asked as its windows ask it.
+class Program {
+ public:
+  Program(const TemporaryFolder& folder, Attributes example)
+      : folder_(folder),
+        example_(std::move(example)),
+        paths_(StartUp::ComposePaths(files_, folder.Folder())),
+        language_(paths_.infoData) {
+    const Text named = Wide(example_["language"]);
+    language_.StartUp(files_, paths_.languageRoot,
+                      named.empty() ? StartUp::ChosenLanguage(files_, paths_) : named);
+    language_.CacheTranslationTable(files_);
+  }
+
+  Lines Markers() {
+    Lines lines;
+    for (const auto& marker : EntityFile::ReadMarkers(files_, File(), Section(), language_, 81))
+      lines.push_back(Narrow(marker.disabled ? TextView(marker.key) : TextView(marker.name)) +
+                      " -> " + (marker.disabled ? "nothing" : Shown(marker.position)) +
+                      (marker.highlighted && !marker.disabled ? " green" : ""));
+    return lines;
+  }
+
+  Lines List() {
+    Lines lines;
+    for (const Text& name : EntityFile::ReadNames(files_, File(), Section(), language_))
+      lines.push_back(Narrow(name));
+    return lines;
+  }
+
+  Lines Sections() {
+    Lines lines;
+    for (const Text& name : files_.IniSectionNames(File()))
+      lines.push_back(Narrow(name));
+    return lines;
+  }
+
+  Lines Caption() { return {Narrow(StartUp::Caption(StartUp::ReadEdition(files_, paths_)))}; }
+
+  Lines Missing() {
+    const auto missing = StartUp::MissingFile(paths_);
+    return {missing ? Narrow(missing->substr(folder_.Folder().size() + 1)) : "nothing"};
+  }
+
+  std::string Value(const Text& key) {
+    return Narrow(files_.IniRead(File(), Section(), key, u"(default)"));
+  }
+
+  std::string Picked(const Text& name) {
+    const auto position = EntityFile::ReadPicked(files_, File(), Section(), language_.Key(name));
+    return position ? Shown(*position) : "nothing";
+  }
+
+  std::string Found(const Text& key) {
+    if (EntityFile::IsDisabled(key) || EntityFile::IsHiddenFromSearch(key))
+      return "not found";
+    const auto found = EntityFile::ReadFound(files_.File(File()), Encoded(Section()), Encoded(key));
+    return found.invalidLink ? "invalid link to " + Narrow(found.target) : Shown(found.position);
+  }
+
+  std::string NameOf(const Text& key) { return Narrow(language_.Shown(files_, key)); }
+
+  std::string KeyOf(const Text& shown) { return Narrow(language_.Key(shown)); }
+
+  std::string LanguageOf(const Text& folder) {
+    language_.StartUp(files_, paths_.languageRoot, folder);
+    return Narrow(language_.CurrentLanguage);
+  }
+
+  std::string MenuCaptionOf(const Text& key) {
+    const auto captions = MenuTable::Captions();
+    const InterfaceTexts texts = Translate_UI(files_, language_, captions);
+    for (size_t i = 0; i < captions.size(); ++i)
+      if (captions[i].key == key)
+        return Narrow(texts.menus[i]);
+    return "no such menu";
+  }
+
+  std::string DescriptionOf(const Text& name) {
+    const auto key = [&](TextView shown) { return language_.Key(Texts::Trim(shown)); };
+    const Text text = InfoFile::ReadRedirected(files_, language_.InfoFile(), key(name), key);
+    return text.empty() ? "nothing" : Narrow(Texts::ReplaceAll(text, u"\\n", u" / "));
+  }
+
+  std::string ToolTipOf(const Text& name) {
+    const Text key = Texts::Lower(language_.Key(name));
+    return Narrow(InfoFile::TooltipOf(InfoFile::ReadEntry(files_, language_.InfoFile(), key)));
+  }
+
+  std::string PortraitOf(const Text& key) {
+    const Text list = Texts::Join(paths_.picturesFolder, u"pic.ini");
+    const Text file = Texts::Join(paths_.picturesFolder, files_.IniRead(list, u"pics", key, u""));
+    const auto native = FileSystem::Resolve(file);
+    return native && FileSystem::FileExists(file) ? native->substr(folder_.Native("").size())
+                                                  : "placeholder";
+  }
+
+ private:
+  [[nodiscard]] Text File() const { return folder_.Path(Wide(example_.at("of"))); }
+
+  [[nodiscard]] Text Section() const { return Wide(example_.at("section")); }
+
+  const TemporaryFolder& folder_;
+  Attributes example_;
+  IniOps::Cache cache_;
+  IniOps::Snapshot files_{cache_};
+  ProgramPaths paths_;
+  LOCAL::Language language_;
+};
+
+// Examples that show everything there is, line by line.
+const std::map<std::string, Lines (Program::*)()> Listings = {
+    {"markers", &Program::Markers},   {"list", &Program::List},
+    {"sections", &Program::Sections}, {"caption", &Program::Caption},
+    {"missing", &Program::Missing},
+};
+
+// Examples of lines "question -> answer".
+const std::map<std::string, std::string (Program::*)(const Text&)> Questions = {
+    {"value", &Program::Value},         {"picked", &Program::Picked},
+    {"found", &Program::Found},         {"names", &Program::NameOf},
+    {"keys", &Program::KeyOf},          {"language", &Program::LanguageOf},
+    {"menus", &Program::MenuCaptionOf}, {"description", &Program::DescriptionOf},
+    {"tooltip", &Program::ToolTipOf},   {"portrait", &Program::PortraitOf},
+};
+
+void Write(const TemporaryFolder& folder, const Document::Block& block) {
+  std::string utf8;
+  for (const std::string& line : block.body)
+    utf8 += line + "\r\n";
+  const bool asUtf8 = block.attributes.contains("encoding");
+  folder.Write(block.attributes.at("file"), asUtf8 ? utf8 : Encoded(Wide(utf8)));
+}
+
+void Check(const TemporaryFolder& folder, const Document::Block& block) {
+  const std::string& shows = block.attributes.at("shows");
+  Program program(folder, block.attributes);
+  if (const auto listing = Listings.find(shows); listing != Listings.end()) {
+    EXPECT_EQ(block.body, (program.*listing->second)());
+    return;
+  }
+  const auto question = Questions.find(shows);
+  ASSERT_NE(question, Questions.end()) << shows;
+  for (const std::string& line : block.body) {
+    const size_t arrow = line.find(" -> ");
+    ASSERT_NE(arrow, std::string::npos) << line;
+    EXPECT_EQ(line.substr(arrow + 4), (program.*question->second)(Wide(line.substr(0, arrow))))
+        << line;
+  }
+}
+
+class Examples : public testing::TestWithParam<const char*> {};
+
+}  // namespace
+
+TEST_P(Examples, DoWhatThePageSays) {
+  const Document document = Document::Read(GetParam());
+  std::unique_ptr<TemporaryFolder> folder;
+  size_t chapter = 0;
+  size_t shown = 0;
+  for (const Document::Block& block : document.blocks) {
+    SCOPED_TRACE(std::string(GetParam()) + ":" + std::to_string(block.line));
+    if (!folder || block.chapter != chapter)
+      folder = std::make_unique<TemporaryFolder>();
+    chapter = block.chapter;
+    if (block.attributes.contains("file")) {
+      Write(*folder, block);
+    } else {
+      ASSERT_TRUE(block.attributes.contains("shows")) << "an example that nothing checks";
+      Check(*folder, block);
+      ++shown;
+    }
+  }
+  EXPECT_GT(shown, 5U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Manuals, Examples, testing::Values("map-authors.md", "translators.md"),
+                         [](const auto& page) {
+                           return page.index == 0 ? std::string("MapAuthors")
+                                                  : std::string("Translators");
+                         });

@@ -1,0 +1,71 @@
+// Holds the pages for readers of the repository against the repository.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path Repository = ORVALIS_SOURCES;
+
+std::string Content(const fs::path& page) {
+  std::ifstream file(page);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void ExpectThereAll(const fs::path& page, const fs::path& base, const std::regex& named) {
+  const std::string content = Content(page);
+  for (std::sregex_iterator at(content.begin(), content.end(), named), end; at != end; ++at)
+    EXPECT_TRUE(fs::exists(base / (*at)[1].str())) << page << " names " << (*at)[1];
+}
+
+// The anchor that a heading gets: lower case, no punctuation, hyphens for blanks.
+std::string Anchor(const std::string& heading) {
+  std::string anchor;
+  for (const char unit : heading)
+    if (std::isalnum(static_cast<unsigned char>(unit)) != 0 || unit == '-' || unit == '_')
+      anchor += static_cast<char>(std::tolower(static_cast<unsigned char>(unit)));
+    else if (unit == ' ')
+      anchor += '-';
+  return anchor;
+}
+
+bool HasAnchor(const fs::path& page, const std::string& anchor) {
+  std::ifstream file(page);
+  for (std::string line; std::getline(file, line);)
+    if (line.starts_with('#') && Anchor(line.substr(line.find(' ') + 1)) == anchor)
+      return true;
+  return false;
+}
+
+class Pages : public testing::TestWithParam<const char*> {};
+
+}  // namespace
+
+TEST_P(Pages, NameOnlyWhatIsThere) {
+  static const std::regex link(R"(\]\(([^)#:]+\.md|LICENSE)[)#])");
+  static const std::regex path(R"(`((?:src|tests|docs|world|bench|tools|packaging)/[^`*]*)`)");
+  const fs::path page = Repository / GetParam();
+  ASSERT_GT(Content(page).size(), 500U);
+  ExpectThereAll(page, page.parent_path(), link);
+  ExpectThereAll(page, Repository, path);
+}
+
+TEST_P(Pages, LinkToHeadingsThatAreThere) {
+  static const std::regex link(R"(\]\(([^)#:]+\.md)#([^)]+)\))");
+  const fs::path page = Repository / GetParam();
+  const std::string content = Content(page);
+  for (std::sregex_iterator at(content.begin(), content.end(), link), end; at != end; ++at)
+    EXPECT_TRUE(HasAnchor(page.parent_path() / (*at)[1].str(), (*at)[2]))
+        << page << " links to " << (*at)[2];
+}
+
+INSTANTIATE_TEST_SUITE_P(Repository, Pages,
+                         testing::Values("README.md", "CONTRIBUTING.md", "CHANGELOG.md",
+                                         "docs/architecture.md", "docs/map-authors.md",
+                                         "docs/translators.md"));
