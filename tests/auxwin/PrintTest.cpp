@@ -1,6 +1,7 @@
 #include "auxwin/frmPrint.h"
 
 #include "auxwin/WindowFixture.h"
+#include "controls/PrintableWidget.h"
 #include "controls/WidgetTwips.h"
 #include "support/DialogCheck.h"
 
@@ -110,8 +111,7 @@ TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
   name.setFont(WidgetTwips::Font(9.75, true));
   name.move(300, 200);
   frmPrint window(nullptr, language, files, desktop, {{9000, 6000}, [&map](QPainter& painter) {
-                                                        map.render(&painter, {}, {},
-                                                                   QWidget::DrawChildren);
+                                                        PrintableWidget::Paint(map, painter, {});
                                                       }});
   Press(window, "btnPrint");
   QProcess words;
