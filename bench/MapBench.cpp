@@ -7,6 +7,7 @@
 #include "mapdata/MapView.h"
 #include "platform/PosixFile.h"
 #include "platform/QtText.h"
+#include "support/RecordingDesktop.h"
 #include "support/GermanNames.h"
 
 #include <benchmark/benchmark.h>
@@ -62,7 +63,8 @@ class Window {
   }
 
  private:
-  Context context_{World().Folder()};
+  RecordingDesktop desktop_;
+  Context context_{World().Folder(), desktop_};
   frmMain window_{context_};
 };
 

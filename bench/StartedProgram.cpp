@@ -1,10 +1,8 @@
-// The program as its main() starts it, in the folder that the first argument names. After the first
-// frame its window takes the size of the screen and shows as many regions as the second one says.
+// Linked to the program's own main(). After the first frame its window takes the size of the screen
+// and shows as many regions as ORVALIS_BENCH_REGIONS says.
 
 #include "Child.h"
 #include "MapWorld.h"
-#include "app/Context.h"
-#include "app/Program.h"
 #include "platform/QtText.h"
 
 #include <QAction>
@@ -12,9 +10,10 @@
 
 namespace {
 
-void ShowRegions(QMainWindow& window, int regions) {
+void ShowRegions(QMainWindow& window) {
   window.resize(window.screen()->size());
   auto* map = window.findChild<QWidget*>(QStringLiteral("imgMap"));
+  const int regions = qEnvironmentVariableIntValue("ORVALIS_BENCH_REGIONS");
   for (int region = 0; region < regions; ++region) {
     auto* command = window.findChild<QAction*>(QtText::ToQt(MapWorld::Measured(region).name));
     static_cast<void>(Frame::Seconds(*map, [command] { command->trigger(); }));
@@ -22,21 +21,10 @@ void ShowRegions(QMainWindow& window, int regions) {
   }
 }
 
+void Watch() {
+  (new Child(ShowRegions))->setParent(qApp);
+}
+
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (argc < 3)
-    return 1;
-  int onlyName = 1;
-  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-  const QApplication application(onlyName, argv);
-  Context context(NativePath::FromBytes(argv[1]));
-  Program program(context);
-  const Child child(
-      [regions = std::stoi(argv[2])](QMainWindow& window) { ShowRegions(window, regions); });
-  QTimer::singleShot(0, &application, [&program] {
-    if (!program.Start())
-      QApplication::exit(1);
-  });
-  return QApplication::exec();
-}
+Q_COREAPP_STARTUP_FUNCTION(Watch)

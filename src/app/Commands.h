@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class MapView;
+class SearchCommands;
 struct Context;
 
 /// What the commands do that show no category: each opens its window over the main window, or
@@ -27,14 +28,18 @@ class Commands : public QObject {
  Q_SIGNALS:
   /// Another language is current; these are the main window's texts in it.
   void LanguageChanged(const InterfaceTexts& texts);
+  /// There is something to find again from now on.
+  void SearchStarted();
 
  private:
   void Print();
   void ShowExtras();
   void ShowAbout();
+  void ShowPerks(int region);
 
   Context& context_;
   MapView& map_;
   QWidget& mainWindow_;
+  SearchCommands* search_;
   std::vector<MenuCaption> captions_ = MenuTable::Captions();
 };

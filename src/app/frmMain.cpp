@@ -36,6 +36,8 @@ frmMain::frmMain(Context& context)
   connect(menus_, &MenuBar::CommandChosen, commands_, &Commands::Run);
   connect(map_, &MapView::Displayed, this, [this] { menus_->SetEnabled(u"miPrint", true); });
   connect(map_, &MapView::InfoRequested, commands_, &Commands::ShowInfo);
+  connect(commands_, &Commands::SearchStarted, this,
+          [this] { menus_->SetEnabled(u"miFindAgain", true); });
   connect(commands_, &Commands::LanguageChanged, this, [this](const InterfaceTexts& texts) {
     ShowTexts(texts);
     map_->ShowNoRegion();

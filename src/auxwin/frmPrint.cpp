@@ -86,21 +86,22 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
 
 // The first label stands over the banner's right edge: the picture fades out before it.
 void frmPrint::ShowBanner() {
+  // A picture without an alpha channel would fade to black.
+  QImage banner = QIcon(QStringLiteral(":/builtin/banner-print.png"))
+                      .pixmap(imgBanner->size())
+                      .toImage()
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
   imgBanner->setScaledContents(true);
-  const QPixmap pixmap =
-      QIcon(QStringLiteral(":/builtin/banner-print.png")).pixmap(imgBanner->size());
-  if (pixmap.isNull())
-    return;
-  QImage banner = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  const QRectF place({}, banner.deviceIndependentSize());
-  const double end = static_cast<double>(lblPrinters->x()) / imgBanner->width();
-  QLinearGradient fade(place.topLeft(), place.topRight());
-  fade.setColorAt(end - FadeWidth, Qt::black);
-  fade.setColorAt(end, Qt::transparent);
-  QPainter painter(&banner);
-  painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-  painter.fillRect(place, fade);
-  painter.end();
+  if (!banner.isNull()) {
+    const QRectF place({}, banner.deviceIndependentSize());
+    const double end = static_cast<double>(lblPrinters->x()) / imgBanner->width();
+    QLinearGradient fade(place.topLeft(), place.topRight());
+    fade.setColorAt(end - FadeWidth, Qt::black);
+    fade.setColorAt(end, Qt::transparent);
+    QPainter painter(&banner);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(place, fade);
+  }
   imgBanner->setPixmap(QPixmap::fromImage(banner));
 }
 
