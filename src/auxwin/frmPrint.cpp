@@ -24,7 +24,7 @@ constexpr TextView PdfEntry = u"PDF";
 constexpr TextView PdfName = u"Orvalis.pdf";
 constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
-constexpr double FadeWidth = 0.15;
+constexpr double FadeWidth = 0.1;
 
 constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",

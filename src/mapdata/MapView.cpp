@@ -1,5 +1,6 @@
 #include "mapdata/MapView.h"
 
+#include "controls/PrintableWidget.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/EntityFile.h"
 #include "mapdata/InfoFile.h"
@@ -146,7 +147,7 @@ void MapView::Paint(QPainter& painter) {
   for (QObject* child : children()) {
     auto* widget = qobject_cast<QWidget*>(child);
     if (widget && widget != imgMap && widget->isVisible())
-      widget->render(&painter, widget->pos(), {}, DrawChildren);
+      PrintableWidget::Paint(*widget, painter, widget->pos());
   }
   focus_->SetRingLeftOut(false);
 }
