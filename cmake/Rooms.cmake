@@ -6,6 +6,9 @@ target_compile_options(orvalis_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(ORVALIS_WERROR)
   target_compile_options(orvalis_options INTERFACE -Werror)
 endif()
+# What is delivered reads files of strangers: hardened as Debian's own programs are.
+target_compile_options(orvalis_options INTERFACE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+target_link_options(orvalis_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
 if(ORVALIS_SANITIZE)
   target_compile_options(orvalis_options INTERFACE -fsanitize=${ORVALIS_SANITIZE}
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing: install.sh GROUP...
-# run: build and start the program; display: a virtual display; test, ci: what the checks use.
+# run: build and start the program; display: a virtual display; test, ci: what the checks use;
+# packages: what builds and tries the packages.
 set -euo pipefail
 
 run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation fonts-urw-base35 xdg-utils"
 display="xvfb xauth openbox xdotool imagemagick x11-utils"
-test="libgtest-dev libbenchmark-dev poppler-utils strace python3"
+test="libgtest-dev libbenchmark-dev poppler-utils strace python3 desktop-file-utils appstream groff-base"
 ci="clang-format clang libclang-rt-14-dev"
+packages="dpkg-dev file lintian debootstrap"
 
 wanted=""
 for group in "$@"; do

@@ -15,6 +15,7 @@
 #include <QCollator>
 #include <QComboBox>
 #include <QFrame>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -137,6 +138,18 @@ int MapView::WindowWidth() const {
 
 Twips MapView::MapSize() const {
   return WidgetTwips::ToTwips(WidgetTwips::ScreenOf(*this), size());
+}
+
+void MapView::Paint(QPainter& painter) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(rect(), imgMap->Pixels());
+  focus_->SetRingLeftOut(true);
+  for (QObject* child : children()) {
+    auto* widget = qobject_cast<QWidget*>(child);
+    if (widget && widget != imgMap && widget->isVisible())
+      widget->render(&painter, widget->pos(), {}, DrawChildren);
+  }
+  focus_->SetRingLeftOut(false);
 }
 
 Twips MapView::PointAt(int x, int y) const {

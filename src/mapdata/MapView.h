@@ -13,6 +13,7 @@ class MarkerSlots;
 class NameLabel;
 class QComboBox;
 class QFrame;
+class QPainter;
 class QToolButton;
 class ctlLocation;
 
@@ -50,6 +51,13 @@ class MapView : public QWidget {
 
   /// Opens the information window for this name.
   void InfoMulti(const Text& nameX);
+
+  /// The map's size in twips.
+  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const;
+
+  /// Paints the map as it is displayed, in pixels of the screen: the picture with all its pixels,
+  /// and what stands on it as sharp as the painter's device allows.
+  void Paint(QPainter& painter);
 
   /// The name of the entity that the information window shows; blanks around it don't count.
   Text InfoEntityName;
@@ -104,7 +112,6 @@ class MapView : public QWidget {
 
  private:
   [[nodiscard]] int WindowWidth() const;
-  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const;
   void CreateControls();
   void ConnectControls();
   void FillItems(const std::vector<Text>& names);
