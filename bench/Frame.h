@@ -1,10 +1,10 @@
 #pragma once
 
+#include "ProcessTime.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
-
-#include <chrono>
 
 /// Waits for what is on the screen: windows are measured up to the frame that the user sees.
 class Frame : public QObject {
@@ -18,14 +18,14 @@ class Frame : public QObject {
       QApplication::processEvents();
   }
 
-  /// The seconds that the step takes from its begin until the widget is painted anew.
+  /// The processor time from the step's begin until the widget is painted anew, in seconds.
   template <typename Step>
   [[nodiscard]] static double Seconds(QWidget& widget, Step step) {
     const Frame frame(widget);
-    const auto start = std::chrono::steady_clock::now();
+    const double start = ProcessSeconds();
     step();
     frame.Wait();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return ProcessSeconds() - start;
   }
 
  protected:

@@ -47,10 +47,6 @@ QByteArray Painted() {
   return bytes;
 }
 
-std::string EntityName(size_t number) {
-  return "Wanderer Nummer " + std::to_string(number);
-}
-
 std::string Region(const std::string& category) {
   std::mt19937 random(7);
   const auto position = [&random] {
@@ -58,22 +54,22 @@ std::string Region(const std::string& category) {
   };
   std::string data = '[' + category + "]\r\n";
   for (size_t i = 0; i < MapWorld::Entities; ++i)
-    data += EntityName(i) + "=#,all\r\n";
+    data += MapWorld::EntityName(i) + "=#,all\r\n";
   for (size_t section = 0; data.size() < DataBytes * 2 / 3; ++section) {
     data += "[other " + std::to_string(section) + "]\r\n";
     for (size_t i = 0; i < 50; ++i)
-      data += EntityName(random() % 100'000) + position();
+      data += MapWorld::EntityName(random() % 100'000) + position();
   }
   data += "[all]\r\n";
   for (size_t i = 0; data.size() < DataBytes; ++i)
-    data += EntityName(i) + position();
+    data += MapWorld::EntityName(i) + position();
   return data;
 }
 
 std::string Descriptions() {
   std::string info = "[info]\r\n";
   for (size_t i = 0; i < InfoEntries; ++i) {
-    info += EntityName(i) + '=';
+    info += MapWorld::EntityName(i) + '=';
     const size_t end = InfoBytes * (i + 1) / InfoEntries;
     while (info.size() + 2 < end)
       info += "steht am Weg und wartet "[info.size() % 24];
@@ -108,6 +104,15 @@ const MenuRow& MapWorld::Measured(int region) {
     return row.kind == MenuRow::Kind::Category && row.region == region &&
            row.mode == DisplayMode::Labels;
   });
+}
+
+std::string MapWorld::EntityName(size_t number) {
+  return "Wanderer Nummer " + std::to_string(number);
+}
+
+void MapWorld::Touch(int region) const {
+  const timespec time[2] = {{++touched_, 0}, {touched_, 0}};
+  ::utimensat(AT_FDCWD, NativePath::ToBytes(Data(region)).c_str(), time, 0);
 }
 
 void MapWorld::Write(const std::string& name, const std::string& bytes) const {

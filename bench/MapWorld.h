@@ -5,6 +5,7 @@
 
 #include <QSize>
 
+#include <ctime>
 #include <string>
 
 /// A program folder for measurements of the map, gone with its object: every region has a picture
@@ -28,6 +29,12 @@ class MapWorld {
 
   [[nodiscard]] Text Data(int region) const;
 
+  /// The name of an entity; the numbers below `Entities` are those of the measured category.
+  [[nodiscard]] static std::string EntityName(size_t number);
+
+  /// Gives the region's data file another time, as an edit does.
+  void Touch(int region) const;
+
   /// The menu's command whose category is measured: names shown, all of its entities links.
   [[nodiscard]] static const MenuRow& Measured(int region);
 
@@ -36,4 +43,5 @@ class MapWorld {
   void Write(const std::string& name, const std::string& bytes) const;
 
   TemporaryFolder folder_;
+  mutable time_t touched_ = 1'000'000'000;
 };

@@ -36,7 +36,8 @@ bool Fits(const EntityFile::Position& position) {
 void ReadEntity(IniOps::Snapshot& files, TextView file, TextView section,
                 const EntityFile::Marker& marker) {
   Require(Fits(marker.position), "a marker's position fits into 16 bits");
-  const auto found = EntityFile::ReadFound(files, file, section, marker.key);
+  const auto found = EntityFile::ReadFound(files.File(file), Windows1252::Encode(section).value(),
+                                           Windows1252::Encode(marker.key).value());
   Require(Fits(found.position), "a found position fits into 16 bits");
   const auto picked = EntityFile::ReadPicked(files, file, section, marker.key);
   if (!picked)

@@ -14,7 +14,9 @@ StartUp::Edition Edition(IniOps::Cache& cache, const ProgramPaths& paths) {
 
 }  // namespace
 
-Context::Context(const Text& programFolder)
-    : paths(Paths(files, programFolder)),
+Context::Context(const Text& programFolder, Desktop& ofUser)
+    : desktop(ofUser),
+      paths(Paths(files, programFolder)),
       edition(Edition(files, paths)),
-      language(paths.infoData) {}
+      language(paths.infoData),
+      launching(paths, ofUser) {}

@@ -4,9 +4,29 @@
 #include "app/MenuTable.h"
 #include "app/frmMain.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/Registry_Module.h"
+#include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/ShowMessage.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QWindow>
+
+namespace {
+
+constexpr int LongestWait = 500;
+
+// A dialog stands over the middle of its window, once the desktop has placed that.
+void WaitUntilShown(const QWidget& window) {
+  QElapsedTimer waiting;
+  waiting.start();
+  while (!window.windowHandle()->isExposed() && waiting.elapsed() < LongestWait)
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+}
+
+}  // namespace
 
 Program::Program(Context& context) : context_(context) {}
 
@@ -41,4 +61,11 @@ void Program::ChooseLanguage(const Text& chosenLanguage) {
   window_->ShowTexts(language.IsGerman() ? Translate_UI_DE()
                                          : Translate_UI(files, language, MenuTable::Captions()));
   language.CacheTranslationTable(files);
+  const Text systemLanguage = Registry_Module::ReadRegistryValue(Registry_Module::InternationalKey,
+                                                                 Registry_Module::LanguageValue,
+                                                                 context_.desktop.UserLanguage());
+  if (!language.IsToBeOffered(systemLanguage))
+    return;
+  WaitUntilShown(*window_);
+  window_->ChooseLanguage();
 }

@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 
+#include "app/Commands.h"
 #include "app/Context.h"
 #include "app/MenuBar.h"
 #include "controls/WidgetTwips.h"
@@ -21,7 +22,8 @@ QSize StartSize(const QWidget& widget) {
 frmMain::frmMain(Context& context)
     : context_(context),
       menus_(new MenuBar(this)),
-      map_(new MapView(context.files, context.language, this)) {
+      map_(new MapView(context.files, context.language, this)),
+      commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
   setWindowTitle(ToQt(StartUp::Caption(context.edition)));
   setMenuBar(menus_);
@@ -31,14 +33,20 @@ frmMain::frmMain(Context& context)
   menus_->SetShown(u"mnuExtras", !context.edition.withoutExtras);
   menus_->SetShown(u"mnuLanguage", !context.edition.withoutLanguages);
   connect(menus_, &MenuBar::CategoryChosen, this, &frmMain::RunCategory);
-  connect(menus_, &MenuBar::CommandChosen, this, &frmMain::RunCommand);
+  connect(menus_, &MenuBar::CommandChosen, commands_, &Commands::Run);
   connect(map_, &MapView::Displayed, this, [this] { menus_->SetEnabled(u"miPrint", true); });
-  connect(map_, &MapView::InfoRequested, this, &frmMain::ShowInfo);
+  connect(map_, &MapView::InfoRequested, commands_, &Commands::ShowInfo);
+  connect(commands_, &Commands::SearchStarted, this,
+          [this] { menus_->SetEnabled(u"miFindAgain", true); });
+  connect(commands_, &Commands::LanguageChanged, this, [this](const InterfaceTexts& texts) {
+    ShowTexts(texts);
+    map_->ShowNoRegion();
+  });
 }
 
 void frmMain::ShowTexts(const InterfaceTexts& texts) {
   menus_->SetCaptions(texts.menus);
-  map_->SetTexts(texts.prompt, texts.infoToolTip);
+  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted);
 }
 
 void frmMain::RunCategory(const MenuRow& row) {
@@ -51,9 +59,6 @@ void frmMain::RunCategory(const MenuRow& row) {
                       row.mode == DisplayMode::LabelsOnHover);
 }
 
-void frmMain::RunCommand(const MenuRow& row) {
-  if (row.action == Action::Quit)
-    close();
+void frmMain::ChooseLanguage() {
+  commands_->ChooseLanguage();
 }
-
-void frmMain::ShowInfo() {}

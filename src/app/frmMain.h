@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+class Commands;
 class MapView;
 class MenuBar;
 struct Context;
@@ -18,12 +19,14 @@ class frmMain : public QMainWindow {
   /// Shows the texts of the current language in menus and map.
   void ShowTexts(const InterfaceTexts& texts);
 
+  /// Opens the choice of the language.
+  void ChooseLanguage();
+
  private:
   void RunCategory(const MenuRow& row);
-  void RunCommand(const MenuRow& row);
-  void ShowInfo();
 
   Context& context_;
   MenuBar* menus_;
   MapView* map_;
+  Commands* commands_;
 };

@@ -2,9 +2,22 @@
 #include "app/Program.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
+#include "platform/QtDesktop.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
+
+namespace {
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QStringLiteral(":/builtin/orvalis-%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
+}  // namespace
 
 int main(int, char** argv) {
   constexpr int fileMissing = 1;
@@ -13,7 +26,9 @@ int main(int, char** argv) {
   // A desktop's global menu loses top-level commands and the dividers between the regions.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QApplication application(onlyName, argv);
-  Context context(NativePath::FromBytes(PosixFile::ExecutableFolder()));
+  QApplication::setWindowIcon(ProgramIcon());
+  QtDesktop desktop;
+  Context context(NativePath::FromBytes(PosixFile::ExecutableFolder()), desktop);
   Program program(context);
   // Inside the event loop: before it, nothing can end the program.
   QTimer::singleShot(0, &application, [&program] {

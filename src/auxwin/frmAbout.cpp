@@ -7,7 +7,7 @@
 #include "platform/Product.h"
 
 #include <QIcon>
-#include <QLabel>
+#include <QPushButton>
 
 using QtText::FromQt;
 using QtText::ToQt;
@@ -111,6 +111,8 @@ frmAbout::frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Lang
   Fill(*Control<QWidget>(u"LineGray"), Gray);
   Fill(*Control<QWidget>(u"linWhite"), White);
   applyTexts(snapshot, language, edition);
+  // Not the first link, which Enter would open.
+  Control<QPushButton>(u"btnOK")->setFocus();
 }
 
 frmAbout::~frmAbout() {

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QLabel>
+#include <QLinearGradient>
 #include <QPainter>
 #include <QPrinter>
 #include <QPushButton>
@@ -22,6 +23,8 @@ namespace {
 constexpr TextView PdfEntry = u"PDF";
 constexpr TextView PdfName = u"Orvalis.pdf";
 constexpr double TwipsPerInch = 1440;
+// As a part of the banner's width.
+constexpr double FadeWidth = 0.15;
 
 constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",
@@ -81,10 +84,25 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 
+// The first label stands over the banner's right edge: the picture fades out before it.
 void frmPrint::ShowBanner() {
+  // A picture without an alpha channel would fade to black.
+  QImage banner = QIcon(QStringLiteral(":/builtin/banner-print.png"))
+                      .pixmap(imgBanner->size())
+                      .toImage()
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
   imgBanner->setScaledContents(true);
-  imgBanner->setPixmap(
-      QIcon(QStringLiteral(":/builtin/banner-print.png")).pixmap(imgBanner->size()));
+  if (!banner.isNull()) {
+    const QRectF place({}, banner.deviceIndependentSize());
+    const double end = static_cast<double>(lblPrinters->x()) / imgBanner->width();
+    QLinearGradient fade(place.topLeft(), place.topRight());
+    fade.setColorAt(end - FadeWidth, Qt::black);
+    fade.setColorAt(end, Qt::transparent);
+    QPainter painter(&banner);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(place, fade);
+  }
+  imgBanner->setPixmap(QPixmap::fromImage(banner));
 }
 
 void frmPrint::FillPrinters() {

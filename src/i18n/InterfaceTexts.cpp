@@ -20,13 +20,16 @@ InterfaceTexts Translate_UI(IniOps::Snapshot& files, const LOCAL::Language& lang
       Texts::Join(u"   ", read(Ui, u"ComboBoxPrompt", u"------------ Please select ------------"));
   texts.infoToolTip =
       read(Ui, u"InfoButtonToolTip", u"Displays informations about selected entity.");
+  // Language files have no word for it: the sign that the data files mark it with.
+  texts.highlighted.assign(1, u'*');
   return texts;
 }
 
 InterfaceTexts Translate_UI_DE() {
   return {{},
           u"  ------------ Bitte Auswählen ------------",
-          u"Zeigt Informationen zur ausgewählten Entität an."};
+          u"Zeigt Informationen zur ausgewählten Entität an.",
+          u"hervorgehoben"};
 }
 
 InterfaceTexts RestoreGerman(std::span<const MenuCaption> menus) {

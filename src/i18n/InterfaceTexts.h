@@ -21,6 +21,8 @@ struct InterfaceTexts {
   /// The first row of the entity list; begins with a blank in every language.
   Text prompt;
   Text infoToolTip;
+  /// What a screen reader says of a highlighted marker.
+  Text highlighted;
 };
 
 /// The texts of the active language file.

@@ -137,6 +137,7 @@ void frmLang::CreateLinks() {
 }
 
 void frmLang::FillList(IniOps::Snapshot& snapshot) {
+  glbLang->SetNoHeader(false);
   glbLang->SetSorted(true);
   glbLang->AddItem(Texts::Join(u" ", LOCAL::German), Flag(GermanFlag), LOCAL::BuiltIn);
   for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot))

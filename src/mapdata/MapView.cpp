@@ -3,7 +3,9 @@
 #include "controls/WidgetTwips.h"
 #include "mapdata/EntityFile.h"
 #include "mapdata/InfoFile.h"
+#include "mapdata/MapAccess.h"
 #include "mapdata/MapArea.h"
+#include "mapdata/MapFocus.h"
 #include "mapdata/MarkerSlots.h"
 #include "mapdata/NameLabel.h"
 #include "mapdata/Placement.h"
@@ -13,6 +15,7 @@
 #include <QCollator>
 #include <QComboBox>
 #include <QFrame>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -69,6 +72,7 @@ QStringList Sorted(const std::vector<Text>& names) {
 
 MapView::MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent)
     : QWidget(parent), files_(files), names_(names) {
+  MapAccess::Install();
   CreateControls();
   ConnectControls();
   imgMap->ShowStartPicture();
@@ -77,6 +81,7 @@ MapView::MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent)
 
 // In stacking order: the picture, names, markers, and what lies over the whole map.
 void MapView::CreateControls() {
+  focus_ = new MapFocus(this);
   imgMap = Named(new MapArea(this), QLatin1StringView("imgMap"));
   linMenuSep = Named(new QFrame(this), QLatin1StringView("linMenuSep"));
   linMenuSep->setFrameShape(QFrame::HLine);
@@ -86,6 +91,9 @@ void MapView::CreateControls() {
                      QLatin1StringView("lblCaption"));
   ITEM = Named(new ctlLocation(this), QLatin1StringView("ITEM"));
   slots_ = new MarkerSlots(this, ITEM);
+  focus_->Add(ITEM, lblCaption);
+  for (int slot = 0; slot < MarkerSlots::Count; ++slot)
+    focus_->Add(&slots_->Dot(slot), &slots_->Label(slot));
   lblMultiInfo = Named(new NameLabel(this, HeadingPoints, ctlLocation::Gold, ctlLocation::DarkRed),
                        QLatin1StringView("lblMultiInfo"));
   cboItems = Named(new QComboBox(this), QLatin1StringView("cboItems"));
@@ -103,6 +111,7 @@ void MapView::ConnectControls() {
   connect(ITEM, &ctlLocation::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::MouseMove, this, [this] { ShowDescription(*lblCaption); });
+  connect(focus_, &MapFocus::Left, cboItems, [this] { cboItems->setFocus(); });
   connect(slots_, &MarkerSlots::DotMoved, this, &MapView::DOT_MouseMove);
   connect(slots_, &MarkerSlots::LabelMoved, this, [this](int index) {
     slots_->BringToFront(index);
@@ -114,8 +123,9 @@ void MapView::ConnectControls() {
           [this](int index) { InfoMulti(FromQt(slots_->Label(index).text())); });
 }
 
-void MapView::SetTexts(const Text& prompt, const Text& infoToolTip) {
+void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted) {
   prompt_ = prompt;
+  highlighted_ = highlighted;
   btnInfo->setToolTip(ToQt(infoToolTip));
   btnInfo->setAccessibleName(ToQt(infoToolTip));
   cboItems->setAccessibleName(ToQt(prompt).remove(u'-').trimmed());
@@ -129,6 +139,18 @@ Twips MapView::MapSize() const {
   return WidgetTwips::ToTwips(WidgetTwips::ScreenOf(*this), size());
 }
 
+void MapView::Paint(QPainter& painter) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(rect(), imgMap->Pixels());
+  focus_->SetRingLeftOut(true);
+  for (QObject* child : children()) {
+    auto* widget = qobject_cast<QWidget*>(child);
+    if (widget && widget != imgMap && widget->isVisible())
+      widget->render(&painter, widget->pos(), {}, DrawChildren);
+  }
+  focus_->SetRingLeftOut(false);
+}
+
 Twips MapView::PointAt(int x, int y) const {
   return Twips2Pixel_Module::PointOnMap(WidgetTwips::ScreenOf(*this), MapSize(), x, y);
 }
@@ -136,6 +158,7 @@ Twips MapView::PointAt(int x, int y) const {
 void MapView::ClearUI() {
   slots_->Clear();
   lblMultiInfo->hide();
+  imgMap->setAccessibleName({});
   HideItem();
   ITEM->SetDesc({});
   lblCaption->setToolTip({});
@@ -197,6 +220,7 @@ void MapView::ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, 
 
 void MapView::ShowHeading(const Text& caption) {
   lblMultiInfo->SetCaption(ToQt(caption));
+  imgMap->setAccessibleName(ToQt(caption).trimmed());
   PlaceHeading();
   lblMultiInfo->show();
 }
@@ -269,7 +293,9 @@ void MapView::Form_Resize() {
     return;
   }
   const ViewState view = View;
+  ctlLocation* const focused = focus_->Current();
   ChangeMulti(view.MapPicture, view.DataFile, view.CategoryKey, view.Heading, view.LabelsOnHover);
+  focus_->Resume(focused);
 }
 
 void MapView::btnInfo_Click() {
@@ -293,10 +319,20 @@ void MapView::DOT_MouseMove(int index) {
   slots_->ShowLabel(index, View.LabelsOnHover);
 }
 
-void MapView::ShowDescription(NameLabel& label) {
+QString MapView::Description(const NameLabel& label) {
   IniOps::Snapshot files(files_);
   const Text key = Texts::Lower(names_.Key(FromQt(label.text())));
-  const Text tip = InfoFile::TooltipOf(InfoFile::ReadEntry(files, names_.InfoFile(), key));
-  if (!tip.empty())
-    label.setToolTip(ToQt(tip));
+  return ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files, names_.InfoFile(), key)));
+}
+
+void MapView::ShowDescription(NameLabel& label) {
+  const QString description = Description(label);
+  if (!description.isEmpty())
+    label.setToolTip(description);
+}
+
+QString MapView::SpokenDescription(const ctlLocation& marker) {
+  const bool plain = marker.BorderColor() == ctlLocation::DarkRed;
+  const QString mark = plain ? QString() : ToQt(highlighted_) + QStringLiteral(". ");
+  return mark + Description(focus_->NameOf(marker));
 }

@@ -8,10 +8,12 @@
 #include <QWidget>
 
 class MapArea;
+class MapFocus;
 class MarkerSlots;
 class NameLabel;
 class QComboBox;
 class QFrame;
+class QPainter;
 class QToolButton;
 class ctlLocation;
 
@@ -27,8 +29,9 @@ class MapView : public QWidget {
   MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent = nullptr);
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
-  /// tooltip. The row shows when the list is filled the next time.
-  void SetTexts(const Text& prompt, const Text& infoToolTip);
+  /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
+  /// reader says of a highlighted marker.
+  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted = u"*");
 
   /// Hides and resets everything on the map; the picture stays.
   void ClearUI();
@@ -48,6 +51,13 @@ class MapView : public QWidget {
 
   /// Opens the information window for this name.
   void InfoMulti(const Text& nameX);
+
+  /// The map's size in twips.
+  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const;
+
+  /// Paints the map as it is displayed, in pixels of the screen: the picture with all its pixels,
+  /// and what stands on it as sharp as the painter's device allows.
+  void Paint(QPainter& painter);
 
   /// The name of the entity that the information window shows; blanks around it don't count.
   Text InfoEntityName;
@@ -75,6 +85,13 @@ class MapView : public QWidget {
   /// Shows the text in the top right corner.
   void ShowHeading(const Text& caption);
 
+  /// The way of the keyboard over the markers.
+  [[nodiscard]] MapFocus& Focus() { return *focus_; }
+
+  /// What a screen reader tells of a marker beside its name: whether it is highlighted, and the
+  /// start of the entity's description.
+  [[nodiscard]] QString SpokenDescription(const ctlLocation& marker);
+
   /// The entity list, which keeps its rows while it is hidden.
   [[nodiscard]] QComboBox& Items() { return *cboItems; }
 
@@ -95,7 +112,6 @@ class MapView : public QWidget {
 
  private:
   [[nodiscard]] int WindowWidth() const;
-  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const;
   void CreateControls();
   void ConnectControls();
   void FillItems(const std::vector<Text>& names);
@@ -104,11 +120,13 @@ class MapView : public QWidget {
   void HideItem();
   void btnInfo_Click();
   void DOT_MouseMove(int index);
+  [[nodiscard]] QString Description(const NameLabel& label);
   void ShowDescription(NameLabel& label);
 
   IniOps::Cache& files_;
   EntityNames& names_;
   Text prompt_;
+  Text highlighted_;
   Text dataFile_;
   Text categoryKey_;
   Twips2Pixel_Module::Twips itemAt_;
@@ -118,6 +136,7 @@ class MapView : public QWidget {
   NameLabel* lblCaption;
   ctlLocation* ITEM;
   MarkerSlots* slots_;
+  MapFocus* focus_;
   NameLabel* lblMultiInfo;
   QComboBox* cboItems;
   QToolButton* btnInfo;

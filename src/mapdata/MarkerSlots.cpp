@@ -35,6 +35,9 @@ MarkerSlots::MarkerSlots(QWidget* map, QWidget* between) : QObject(map), between
 }
 
 void MarkerSlots::Clear() {
+  if (front_ >= 0)
+    Label(front_).stackUnder(between_);
+  front_ = -1;
   for (int slot = 0; slot < Count; ++slot) {
     Dot(slot).hide();
     Dot(slot).SetDesc({});

@@ -20,33 +20,36 @@ constexpr uint32_t Free = 0xFFFFFFFF;
 
 // The number of the first name that is the same but for ASCII case, else of the first that is the
 // same but for the case of any letter, else none: a file may hold "Š" and "š" as two keys.
-template <typename NameAt>
-std::optional<uint32_t> Find(const std::vector<uint32_t>& slots, std::string_view name,
-                             NameAt nameAt) {
+template <typename Slot, typename NameAt>
+std::optional<uint32_t> Find(const std::vector<Slot>& slots, std::string_view name, NameAt nameAt) {
   const size_t mask = slots.size() - 1;
+  const uint32_t hash = HashName(name);
   std::optional<uint32_t> found;
-  for (size_t at = HashName(name) & mask; slots[at] != Free; at = (at + 1) & mask) {
-    if (SameAscii(nameAt(slots[at]), name))
-      return slots[at];
-    if (!found && SameName(nameAt(slots[at]), name))
-      found = slots[at];
+  for (size_t at = hash & mask; slots[at].number != Free; at = (at + 1) & mask) {
+    if (slots[at].hash != hash)
+      continue;
+    if (SameAscii(nameAt(slots[at].number), name))
+      return slots[at].number;
+    if (!found && SameName(nameAt(slots[at].number), name))
+      found = slots[at].number;
   }
   return found;
 }
 
 // Registers the names 0 to count - 1; of names that are the same the first stays.
-template <typename NameAt, typename Same>
-std::vector<uint32_t> BuildSlots(size_t count, NameAt nameAt, Same same) {
-  std::vector<uint32_t> slots(std::bit_ceil(count * 2 + 2), Free);
+template <typename Slot, typename NameAt, typename Same>
+void BuildSlots(std::vector<Slot>& slots, size_t count, NameAt nameAt, Same same) {
+  slots.assign(std::bit_ceil(count * 2 + 2), {Free, 0});
   const size_t mask = slots.size() - 1;
   for (uint32_t i = 0; i < count; ++i) {
-    size_t at = HashName(nameAt(i)) & mask;
-    while (slots[at] != Free && !same(nameAt(slots[at]), nameAt(i)))
+    const uint32_t hash = HashName(nameAt(i));
+    size_t at = hash & mask;
+    while (slots[at].number != Free &&
+           (slots[at].hash != hash || !same(nameAt(slots[at].number), nameAt(i))))
       at = (at + 1) & mask;
-    if (slots[at] == Free)
-      slots[at] = i;
+    if (slots[at].number == Free)
+      slots[at] = {i, hash};
   }
-  return slots;
 }
 
 std::string_view HeaderName(std::string_view strippedLine) {
@@ -87,15 +90,17 @@ void ProfileFile::IndexSections() {
     auto& body = sections_.back().body;
     body = {body.data(), static_cast<size_t>(bytes_.data() + bytes_.size() - body.data())};
   }
-  sectionSlots_ = BuildSlots(
-      sections_.size(), [this](uint32_t i) { return sections_[i].name; }, SameAscii);
-  headerSlots_ = BuildSlots(
-      sections_.size(), [this](uint32_t i) { return sections_[i].header; },
+  BuildSlots(
+      sectionSlots_, sections_.size(), [this](uint32_t i) { return sections_[i].name; }, SameAscii);
+  BuildSlots(
+      headerSlots_, sections_.size(), [this](uint32_t i) { return sections_[i].header; },
       std::equal_to<std::string_view>());
 }
 
 void ProfileFile::IndexKeys(const Section& section) const {
   section.indexed = true;
+  section.lines.reserve(
+      static_cast<size_t>(std::count(section.body.begin(), section.body.end(), '\n')) + 1);
   std::string_view rest = section.body;
   while (!rest.empty()) {
     const std::string_view line = Strip(TakeLine(rest), Blanks);
@@ -107,14 +112,18 @@ void ProfileFile::IndexKeys(const Section& section) const {
     section.lines.push_back(
         {Strip(line.substr(0, equals), Blanks), Strip(value, Blanks), hasValue});
   }
-  section.slots = BuildSlots(
-      section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; }, SameAscii);
+  BuildSlots(
+      section.slots, section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; },
+      SameAscii);
 }
 
 const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
-  const auto found =
-      Find(sectionSlots_, Strip(name, " "), [this](uint32_t i) { return sections_[i].name; });
-  return found ? &sections_[*found] : nullptr;
+  name = Strip(name, " ");
+  if (lastFound_ && lastFound_->name == name)
+    return lastFound_;
+  const auto found = Find(sectionSlots_, name, [this](uint32_t i) { return sections_[i].name; });
+  lastFound_ = found ? &sections_[*found] : nullptr;
+  return lastFound_;
 }
 
 const ProfileFile::KeyLine* ProfileFile::FindKey(std::string_view section,
@@ -149,11 +158,11 @@ std::vector<std::string_view> ProfileFile::SectionNames() const {
 std::string_view ProfileFile::LinesBelow(std::string_view header) const {
   const size_t mask = headerSlots_.size() - 1;
   size_t at = HashName(header) & mask;
-  while (headerSlots_[at] != Free && sections_[headerSlots_[at]].header != header)
+  while (headerSlots_[at].number != Free && sections_[headerSlots_[at].number].header != header)
     at = (at + 1) & mask;
-  if (headerSlots_[at] == Free)
+  if (headerSlots_[at].number == Free)
     return {};
-  const auto found = sections_.begin() + headerSlots_[at];
+  const auto found = sections_.begin() + headerSlots_[at].number;
   const auto next = std::find_if(found + 1, sections_.end(), [](const Section& section) {
     return section.header.starts_with('[');
   });

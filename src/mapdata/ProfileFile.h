@@ -42,8 +42,13 @@ class ProfileFile {
     bool hasValue = false;
   };
 
-  // A slot of an open-addressing table over the lines' folded keys.
-  using Slots = std::vector<uint32_t>;
+  // A slot of an open-addressing table of names that ignores letter case.
+  struct Slot {
+    uint32_t number;
+    uint32_t hash;
+  };
+
+  using Slots = std::vector<Slot>;
 
   struct Section {
     std::string_view name;
@@ -66,6 +71,8 @@ class ProfileFile {
 
   std::string bytes_;
   std::vector<Section> sections_;
+  // The section found last: questions come by sections.
+  mutable const Section* lastFound_ = nullptr;
   Slots sectionSlots_;
   // Over the whole header lines, letter case counting.
   Slots headerSlots_;

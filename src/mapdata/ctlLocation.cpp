@@ -13,6 +13,9 @@ namespace {
 constexpr int OutlineWidth = 20;
 constexpr int HighlightedOutlineWidth = 40;
 
+// The toolkit's bits for Shift, Ctrl and Alt follow each other from here.
+constexpr int LowestModifierBit = 25;
+
 QSize MarkerSize(const QWidget& widget) {
   const auto screen = WidgetTwips::ScreenOf(widget);
   return {WidgetTwips::ToPixelsX(screen, Placement::MarkerSize),
@@ -46,7 +49,8 @@ bool ctlLocation::event(QEvent* event) {
 }
 
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
-  Q_EMIT MouseMove(static_cast<int>(event->buttons()), static_cast<int>(event->modifiers()),
+  Q_EMIT MouseMove(static_cast<int>(event->buttons()),
+                   static_cast<int>(event->modifiers()) >> LowestModifierBit & 7,
                    static_cast<float>(event->position().x()),
                    static_cast<float>(event->position().y()));
 }

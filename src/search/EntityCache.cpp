@@ -5,6 +5,9 @@
 #include "mapdata/InfoFile.h"
 #include "platform/Windows1252.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 bool IsBlank(std::string_view name) {
@@ -41,43 +44,42 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
                                                      const ProfileFile& info,
                                                      const ProfileFile& data,
                                                      std::string_view section) {
-  places_.push_back({regions_.size() - 1, WithoutBrackets(section)});
-  for (const std::string_view keyBytes : data.KeyNames(section)) {
+  const auto keys = data.KeyNames(section);
+  Section& cached =
+      sections_.emplace_back(Section{regions_.size() - 1, WithoutBrackets(section), size_, {}, {}});
+  cached.records.reserve(keys.size());
+  for (const std::string_view keyBytes : keys) {
     const Text key = Windows1252::Decode(keyBytes);
     if (EntityFile::IsDisabled(key) || EntityFile::IsHiddenFromSearch(key))
       continue;
     const EntityFile::Found found = EntityFile::ReadFound(data, section, keyBytes);
     if (found.invalidLink)
-      return InvalidLink{regions_.back().data, places_.back().section, key, found.target};
-    records_.push_back({names_.size(), InfoFile::ReadRedirectedBytes(info, keyBytes),
-                        static_cast<uint32_t>(places_.size() - 1),
-                        static_cast<int16_t>(found.position.x),
-                        static_cast<int16_t>(found.position.y)});
-    names_.append(language.IsGerman() ? key : language.LocalizeEntityName(files, key));
+      return InvalidLink{regions_.back().data, cached.name, key, found.target};
+    cached.names.append(language.IsGerman() ? key : language.LocalizeEntityName(files, key));
+    cached.records.push_back({InfoFile::ReadRedirectedBytes(info, keyBytes), cached.names.size(),
+                              static_cast<int16_t>(found.position.x),
+                              static_cast<int16_t>(found.position.y)});
+    ++size_;
   }
   return std::nullopt;
 }
 
-void EntityCache::ShrinkToFit() {
-  records_.shrink_to_fit();
-  places_.shrink_to_fit();
-  names_.shrink_to_fit();
-}
-
-TextView EntityCache::NameAt(size_t index) const {
-  const size_t start = records_[index].nameStart;
-  const size_t end = index + 1 < records_.size() ? records_[index + 1].nameStart : names_.size();
-  return TextView(names_).substr(start, end - start);
+// Sections without records begin where the next one does: the last of those is meant.
+std::vector<EntityCache::Section>::const_iterator EntityCache::SectionOf(size_t index) const {
+  return std::prev(std::upper_bound(
+      sections_.begin(), sections_.end(), index,
+      [](size_t wanted, const Section& section) { return wanted < section.firstIndex; }));
 }
 
 CachedEntity EntityCache::At(size_t index) const {
-  const Record& record = records_[index];
-  const Place& place = places_[record.place];
-  const ProgramPaths::Region& region = regions_[place.region];
+  const Section& section = *SectionOf(index);
+  const size_t number = index - section.firstIndex;
+  const Record& record = section.records[number];
+  const ProgramPaths::Region& region = regions_[section.region];
   return {region.data,
           region.picture,
-          place.section,
-          Text(NameAt(index)),
+          section.name,
+          Text(section.NameAt(number)),
           Windows1252::Decode(record.description),
           record.x,
           record.y};

@@ -42,11 +42,11 @@ struct InvalidLink {
 /// The entities of all regions in the order of regions, sections and lines, each line one record.
 /// Filled once and never changed, whatever becomes of the files and the language.
 ///
-/// Made for hundreds of thousands of records: paths and sections stand once, names in one text,
-/// and a description is a view into the information file, which the cache keeps.
+/// Made for hundreds of thousands of records: paths and sections stand once, the names of a section
+/// in one text, and a description is a view into the information file, which the cache keeps.
 class EntityCache {
  public:
-  [[nodiscard]] size_t Size() const { return records_.size(); }
+  [[nodiscard]] size_t Size() const { return size_; }
 
   /// Appends the entities of one region that the search may find. Stops at the first invalid link
   /// and gives it back.
@@ -54,40 +54,54 @@ class EntityCache {
                                                          LOCAL::Language& language,
                                                          const ProgramPaths::Region& region);
 
-  /// Gives back memory that was taken in advance for further records.
-  void ShrinkToFit();
-
   [[nodiscard]] CachedEntity At(size_t index) const;
 
-  /// The name of a record; valid until the next record is added.
-  [[nodiscard]] TextView NameAt(size_t index) const;
-
-  /// The description of a record in Windows-1252.
-  [[nodiscard]] std::string_view DescriptionAt(size_t index) const {
-    return records_[index].description;
-  }
+  /// The index of the first record from `from` on for whose name and description, this one in
+  /// Windows-1252, `matches` holds; none if it holds for none.
+  template <typename Matches>
+  [[nodiscard]] std::optional<size_t> Find(size_t from, Matches matches) const;
 
  private:
-  struct Place {
-    size_t region;
-    Text section;
-  };
-
   struct Record {
-    size_t nameStart;
     std::string_view description;
-    uint32_t place;
+    size_t nameEnd;
     int16_t x;
     int16_t y;
+  };
+
+  struct Section {
+    size_t region;
+    Text name;
+    size_t firstIndex;
+    Text names;
+    std::vector<Record> records;
+
+    [[nodiscard]] TextView NameAt(size_t number) const {
+      const size_t start = number == 0 ? 0 : records[number - 1].nameEnd;
+      return TextView(names).substr(start, records[number].nameEnd - start);
+    }
   };
 
   std::optional<InvalidLink> CacheSection(IniOps::Snapshot& files, LOCAL::Language& language,
                                           const ProfileFile& info, const ProfileFile& data,
                                           std::string_view section);
+  [[nodiscard]] std::vector<Section>::const_iterator SectionOf(size_t index) const;
 
   std::vector<ProgramPaths::Region> regions_;
-  std::vector<Place> places_;
-  std::vector<Record> records_;
-  Text names_;
+  std::vector<Section> sections_;
+  size_t size_ = 0;
   std::vector<std::shared_ptr<const ProfileFile>> infoFiles_;
 };
+
+template <typename Matches>
+std::optional<size_t> EntityCache::Find(size_t from, Matches matches) const {
+  if (from >= size_)
+    return std::nullopt;
+  auto section = SectionOf(from);
+  for (size_t number = from - section->firstIndex; section != sections_.end();
+       ++section, number = 0)
+    for (; number < section->records.size(); ++number)
+      if (matches(section->NameAt(number), section->records[number].description))
+        return section->firstIndex + number;
+  return std::nullopt;
+}

@@ -17,37 +17,33 @@ constexpr TextView TermSign = u"%s";
 constexpr TextView LineEnd = u"\r\n";
 constexpr TextView EmptyLine = u"\r\n\r\n";
 
-// The first index of `from` and above for which `matches` holds.
-template <typename Matches>
-Search::Outcome FirstMatch(Search::State& state, size_t from, Matches matches) {
-  for (size_t i = from; i < state.Cache.Size(); ++i) {
-    if (!matches(i))
-      continue;
-    state.LastFoundIndex = i;
-    return Search::Hit{i};
-  }
-  return Search::NothingFound();
+Search::Outcome OutcomeOf(Search::State& state, std::optional<size_t> found) {
+  if (!found)
+    return Search::NothingFound();
+  state.LastFoundIndex = *found;
+  return Search::Hit{*found};
 }
 
-Search::Outcome FindName(Search::State& state, size_t from) {
-  return FirstMatch(state, from, [&state, term = TextView(state.SearchTerm)](size_t i) {
-    return state.Cache.NameAt(i).starts_with(term);
+std::optional<size_t> FindName(const Search::State& state, size_t from) {
+  return state.Cache.Find(from, [term = TextView(state.SearchTerm)](TextView name, const auto&) {
+    return name.starts_with(term);
+  });
+}
+
+std::optional<size_t> FindTranslatedName(const Search::State& state, IniOps::Snapshot& files,
+                                         Language& language) {
+  return state.Cache.Find(0, [&](TextView name, const auto&) {
+    return language.LocalizeEntityName(files, name).starts_with(state.SearchTerm);
   });
 }
 
 // Nothing is found in an empty description, whatever the term.
-Search::Outcome FindDescription(Search::State& state, size_t from) {
+std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
   const auto term = Windows1252::Encode(state.SearchTerm);
-  return FirstMatch(state, from, [&state, &term](size_t i) {
-    const std::string_view description = state.Cache.DescriptionAt(i);
-    return term && !description.empty() && description.find(*term) != std::string_view::npos;
-  });
-}
-
-Search::Outcome FindTranslatedName(Search::State& state, IniOps::Snapshot& files,
-                                   Language& language) {
-  return FirstMatch(state, 0, [&](size_t i) {
-    return language.LocalizeEntityName(files, state.Cache.NameAt(i)).starts_with(state.SearchTerm);
+  if (!term)
+    return std::nullopt;
+  return state.Cache.Find(from, [&term](TextView, std::string_view description) {
+    return !description.empty() && description.find(*term) != std::string_view::npos;
   });
 }
 
@@ -56,7 +52,6 @@ std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, Lan
   for (const ProgramPaths::Region& region : paths.regions)
     if (auto invalid = cache.CacheEntities(files, language, region))
       return invalid;
-  cache.ShrinkToFit();
   return std::nullopt;
 }
 
@@ -71,13 +66,15 @@ Outcome FindFirst(State& state, IniOps::Snapshot& files, Language& language,
     if (auto invalid = Fill(state.Cache, files, language, paths))
       return *std::move(invalid);
   if (state.SearchMode == Mode::Descriptions)
-    return FindDescription(state, 0);
-  return language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, language);
+    return OutcomeOf(state, FindDescription(state, 0));
+  return OutcomeOf(
+      state, language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, language));
 }
 
 Outcome FindNext(State& state) {
   const size_t from = state.LastFoundIndex + 1;
-  return state.SearchMode == Mode::Names ? FindName(state, from) : FindDescription(state, from);
+  return OutcomeOf(state, state.SearchMode == Mode::Names ? FindName(state, from)
+                                                          : FindDescription(state, from));
 }
 
 Message NotFoundMessage(const State& state, IniOps::Snapshot& files, const Language& language) {

@@ -1,6 +1,7 @@
 #include "app/StartUp.h"
 
 #include "app/Context.h"
+#include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -32,16 +33,19 @@ TEST(StartUp, NamesTheEdition) {
       {"NoExtras=1\r\nNoLang=ja\r\nLocalizedString=English\r\n", u"Orvalis 1.0.0 RC-27 "},
   };
 
+  RecordingDesktop desktop;
   for (const auto& test : cases) {
     const TemporaryFolder folder;
     folder.Write("orvalis.ini", "[special]\r\n" + test.special);
-    EXPECT_EQ(StartUp::Caption(Context(folder.Folder()).edition), test.caption) << test.special;
+    EXPECT_EQ(StartUp::Caption(Context(folder.Folder(), desktop).edition), test.caption)
+        << test.special;
   }
 }
 
 TEST(StartUp, NamesTheFirstMissingFileAndOnlyThat) {
   const TemporaryFolder folder;
-  const Context context(folder.Folder());
+  RecordingDesktop desktop;
+  const Context context(folder.Folder(), desktop);
   WriteRegions(folder);
   EXPECT_FALSE(StartUp::MissingFile(context.paths)) << "descriptions are not required";
   folder.Write("arvenna.jpg", "");
@@ -56,7 +60,8 @@ TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\nlang=sprachen\r\n[general]\r\nlanguage= Test \r\n");
   const auto message = [&] {
-    Context context(folder.Folder());
+    RecordingDesktop desktop;
+    Context context(folder.Folder(), desktop);
     IniOps::Snapshot files(context.files);
     const Text chosen = StartUp::ChosenLanguage(files, context.paths);
     return StartUp::FileNotFound(files, context.paths, chosen, u"/x/arvenna.data");
@@ -74,7 +79,8 @@ TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
 TEST(StartUp, TakesFoldersFromTheSettings) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\npics=Bilder\r\nextras=\r\n");
-  const Context context(folder.Folder());
+  RecordingDesktop desktop;
+  const Context context(folder.Folder(), desktop);
   EXPECT_EQ(context.paths.picturesFolder, folder.Path(u"Bilder/"));
   EXPECT_EQ(context.paths.extrasFolder, folder.Path(u"EXTRAS/"));
   EXPECT_EQ(context.paths.languageRoot, folder.Path(u"LANG/"));

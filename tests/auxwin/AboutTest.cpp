@@ -107,6 +107,15 @@ TEST_F(About, LinksOpenMailAndWebSite) {
   EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(About, EnterClosesItAtOnce) {
+  const auto window = Open();
+  window->show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(window->isVisible());
+  ExpectCalls({Loop(), "stop"});
+}
+
 TEST_F(About, KeepsWhatEveryDialogPromises) {
   CheckDialog(*Open(u"Web Edition"));
   UseEnglish(EnglishTexts);

@@ -32,7 +32,7 @@ int Place(const fs::path& file) {
   static const std::map<std::string, int> windows = {
       {"platform", 45}, {"mapdata", 60}, {"i18n", 61},     {"search", 62},
       {"perks", 63},    {"auxwin", 64},  {"controls", 50}, {"app", 70}};
-  static const std::set<std::string> links = {"Hyperlink", "Launching"};
+  static const std::set<std::string> links = {"Hyperlink"};
   if (file.stem() == "Twips2Pixel_Module")
     return 10;
   if (links.contains(file.stem().string()))

@@ -121,6 +121,8 @@ TEST(frmLang, ListsEveryEntryOfTheRootByName) {
                                                u" Occitan", u" Russki"}));
   EXPECT_EQ(session.List().Text(), u" English");
   EXPECT_EQ(session.List().Rows(2)->Tag, u"*");
+  EXPECT_FALSE(session.List().NoHeader());
+  EXPECT_EQ(session.List().Caption(), u"Available languages");
 }
 
 TEST(frmLang, ARootThatIsNoFolderListsGermanAlone) {

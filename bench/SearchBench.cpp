@@ -1,0 +1,152 @@
+#include "GeneratedWorld.h"
+#include "Ratios.h"
+#include "i18n/LOCAL.h"
+#include "search/Search.h"
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+
+#include <iostream>
+
+using IniOps::Snapshot;
+
+namespace {
+
+constexpr int Rounds = 7;
+constexpr double MemoryLimit = 3;
+
+// An eighth of all names begins like this term, none is it.
+constexpr TextView NoHit = u"Händler zzz";
+
+class Speaking : public LOCAL::Language {
+ public:
+  Speaking(const GeneratedWorld& world, const Text& language) : Language(world.Paths().infoData) {
+    IniOps::Cache cache;
+    Snapshot files(cache);
+    StartUp(files, world.Paths().languageRoot, language);
+    CacheTranslationTable(files);
+  }
+};
+
+EntityCache Filled(const GeneratedWorld& world, LOCAL::Language& language) {
+  IniOps::Cache cache;
+  Snapshot files(cache);
+  EntityCache entities;
+  for (const ProgramPaths::Region& region : world.Paths().regions)
+    benchmark::DoNotOptimize(entities.CacheEntities(files, language, region));
+  return entities;
+}
+
+void Fill(benchmark::State& state, const GeneratedWorld& world, const Text& language) {
+  Speaking speaking(world, language);
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Filled(world, speaking));
+}
+
+void FillGerman(benchmark::State& state) {
+  Fill(state, MeasuredWorld(), u"Deutsch");
+}
+
+void FillTranslated(benchmark::State& state) {
+  Fill(state, MeasuredWorld(), u"English");
+}
+
+void FillTenThousand(benchmark::State& state) {
+  Fill(state, GeneratedWorld({10'000, 5'000, 20, 0}), u"Deutsch");
+}
+
+void FillMillion(benchmark::State& state) {
+  Fill(state, GeneratedWorld({1'000'000, 500'000, 20, 0}), u"Deutsch");
+}
+
+Search::State ReadyToSearch() {
+  Speaking german(MeasuredWorld(), u"Deutsch");
+  Search::State search;
+  search.SearchTerm = NoHit;
+  search.Cache = Filled(MeasuredWorld(), german);
+  return search;
+}
+
+std::vector<Text> NamesOf(const EntityCache& cache) {
+  std::vector<Text> names;
+  for (size_t i = 0; i < cache.Size(); ++i)
+    names.push_back(cache.At(i).Name);
+  return names;
+}
+
+void FindAgain(benchmark::State& state) {
+  Search::State search = ReadyToSearch();
+  for (auto _ : state)
+    benchmark::DoNotOptimize(Search::FindNext(search));
+}
+
+void PlainStartsWith(benchmark::State& state) {
+  const auto names = NamesOf(ReadyToSearch().Cache);
+  const Text term(NoHit);
+  for (auto _ : state)
+    for (const Text& name : names)
+      benchmark::DoNotOptimize(name.starts_with(term));
+}
+
+void FindFirstTranslated(benchmark::State& state) {
+  Search::State search = ReadyToSearch();
+  Speaking english(MeasuredWorld(), u"English");
+  IniOps::Cache cache;
+  for (auto _ : state) {
+    Snapshot files(cache);
+    benchmark::DoNotOptimize(
+        Search::FindFirst(search, files, english, MeasuredWorld().Paths(), NoHit));
+  }
+}
+
+void TranslateNames(benchmark::State& state) {
+  const auto names = NamesOf(ReadyToSearch().Cache);
+  Speaking english(MeasuredWorld(), u"English");
+  IniOps::Cache cache;
+  for (auto _ : state) {
+    Snapshot files(cache);
+    for (const Text& name : names)
+      benchmark::DoNotOptimize(english.LocalizeEntityName(files, name));
+  }
+}
+
+// Bytes taken from the heap, large blocks of their own included.
+size_t HeapBytes() {
+  const auto heap = ::mallinfo2();
+  return heap.uordblks + heap.hblkhd;
+}
+
+// What the cache keeps, the bytes of the information file included.
+bool MemoryHolds() {
+  Speaking german(MeasuredWorld(), u"Deutsch");
+  const size_t before = HeapBytes();
+  const EntityCache cache = Filled(MeasuredWorld(), german);
+  const double ratio =
+      static_cast<double>(HeapBytes() - before) / static_cast<double>(MeasuredWorld().Bytes());
+  std::cout << "memory of " << cache.Size() << " records / bytes of the files = " << ratio
+            << " (at most " << MemoryLimit << ")\n";
+  return ratio <= MemoryLimit;
+}
+
+BENCHMARK(FillGerman)->Repetitions(Rounds);
+BENCHMARK(FillTranslated)->Repetitions(Rounds);
+BENCHMARK(FillTenThousand)->Repetitions(Rounds);
+BENCHMARK(FillMillion)->Repetitions(3);
+BENCHMARK(FindAgain)->Repetitions(Rounds);
+BENCHMARK(PlainStartsWith)->Repetitions(Rounds);
+BENCHMARK(FindFirstTranslated)->Repetitions(Rounds);
+BENCHMARK(TranslateNames)->Repetitions(Rounds);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const Ratios::Ratio ratios[] = {
+      {"FillGerman", "FillByKeyFile", 0.5},           {"FillTranslated", "FillGerman", 2},
+      {"FillMillion", "FillTenThousand", 120},        {"FindAgain", "PlainStartsWith", 2},
+      {"FindFirstTranslated", "TranslateNames", 1.5},
+  };
+  const bool memory = MemoryHolds();
+  const int times = Ratios::Run(argc, argv, ratios);
+  return memory ? times : 1;
+}

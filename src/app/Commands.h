@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/MenuTable.h"
+
+#include <QWidget>
+
+class MapView;
+class SearchCommands;
+struct Context;
+
+/// What the commands do that show no category: each opens its window over the main window, or
+/// hands something to the desktop.
+class Commands : public QObject {
+  Q_OBJECT
+
+ public:
+  Commands(Context& context, MapView& map, QWidget& mainWindow);
+
+  /// Runs one command of the menu bar.
+  void Run(const MenuRow& row);
+
+  /// Opens the information window for the map's `InfoEntityName`.
+  void ShowInfo();
+
+  /// Opens the choice of the language.
+  void ChooseLanguage();
+
+ Q_SIGNALS:
+  /// Another language is current; these are the main window's texts in it.
+  void LanguageChanged(const InterfaceTexts& texts);
+  /// There is something to find again from now on.
+  void SearchStarted();
+
+ private:
+  void Print();
+  void ShowExtras();
+  void ShowAbout();
+  void ShowPerks(int region);
+
+  Context& context_;
+  MapView& map_;
+  QWidget& mainWindow_;
+  SearchCommands* search_;
+  std::vector<MenuCaption> captions_ = MenuTable::Captions();
+};

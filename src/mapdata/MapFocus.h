@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QObject>
+
+#include <vector>
+
+class FocusRing;
+class NameLabel;
+class QKeyEvent;
+class QWidget;
+class ctlLocation;
+
+/// The keyboard on the map. All markers are one Tab stop; the arrow keys walk from marker to
+/// marker, Home and End to the first and the last, Page Up and Page Down through their order,
+/// Enter does what a double click does. The marker with the focus has a ring around it, and what
+/// the pointer does by resting on it and on its name happens as well.
+class MapFocus : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit MapFocus(QWidget* map);
+
+  /// Takes in a marker and its name. The first ones added come first.
+  void Add(ctlLocation* marker, NameLabel* name);
+
+  /// The markers that are shown now, in their order.
+  [[nodiscard]] std::vector<ctlLocation*> Markers() const;
+
+  /// The name beside this marker.
+  [[nodiscard]] NameLabel& NameOf(const ctlLocation& marker) const;
+
+  /// The marker that the keyboard is on, null if it is elsewhere. `Resume` brings it back there
+  /// after the map was drawn anew.
+  [[nodiscard]] ctlLocation* Current() const;
+  void Resume(ctlLocation* marker);
+
+  /// Leaves the ring out of what is drawn, as on paper.
+  void SetRingLeftOut(bool leftOut);
+
+ Q_SIGNALS:
+  /// Escape was pressed: the focus leaves the map.
+  void Left();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  struct Spot {
+    ctlLocation* marker;
+    NameLabel* name;
+  };
+
+  void MakeTabStop(ctlLocation* marker);
+  void Rest(ctlLocation& marker);
+  void Leave();
+  void ShowRing();
+  [[nodiscard]] bool Press(ctlLocation& marker, const QKeyEvent& key);
+  void Walk(ctlLocation& from, int key);
+
+  QWidget* map_;
+  FocusRing* ring_;
+  std::vector<Spot> spots_;
+  ctlLocation* tabStop_ = nullptr;
+  QBasicTimer untilTip_;
+  bool ringLeftOut_ = false;
+};

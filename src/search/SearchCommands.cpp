@@ -1,0 +1,36 @@
+#include "search/SearchCommands.h"
+
+#include "mapdata/MapView.h"
+#include "platform/ShowMessage.h"
+#include "search/Display.h"
+#include "search/frmFind.h"
+
+SearchCommands::SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
+                               IniOps::Cache& files, Search::State& state)
+    : QObject(&map), map_(map), paths_(paths), language_(language), files_(files), state_(state) {}
+
+void SearchCommands::miFind_Click() {
+  frmFind dialog(map_.window(), paths_, language_, files_, state_);
+  connect(&dialog, &frmFind::SearchStarted, this, &SearchCommands::SearchStarted);
+  dialog.exec();
+  if (dialog.Result())
+    Report(*dialog.Result());
+}
+
+void SearchCommands::miFindAgain_Click() {
+  Report(Search::FindNext(state_));
+}
+
+void SearchCommands::Report(const Search::Outcome& outcome) {
+  if (const auto* hit = std::get_if<Search::Hit>(&outcome)) {
+    SearchResult::Display(hit->index, state_, map_, language_, files_);
+  } else if (const auto* link = std::get_if<InvalidLink>(&outcome)) {
+    const Search::Message message = Search::InvalidLinkMessage(*link);
+    ShowMessage(map_.window(), MessageIcon::Critical, message.text, message.caption);
+    Q_EMIT EndRequested();
+  } else {
+    IniOps::Snapshot files(files_);
+    const Search::Message message = Search::NotFoundMessage(state_, files, language_);
+    ShowMessage(map_.window(), MessageIcon::Information, message.text, message.caption);
+  }
+}

@@ -1,0 +1,223 @@
+// Linked to the program's own main(): uses its windows at random, as fast as it can, and ends it
+// after ORVALIS_DRIVER_STEPS steps, chosen by ORVALIS_DRIVER_SEED. Writes the memory in use every
+// thousand steps, and exits with 3 where a step takes more than 2 seconds of processor time.
+
+#include "app/MenuTable.h"
+#include "platform/QtText.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QTest>
+#include <QTimer>
+
+#include <array>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <random>
+
+namespace {
+
+constexpr double MostSeconds = 2;
+constexpr int StepsInDialog = 6;
+
+constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSize(1024, 800),
+                                        QSize(1280, 960), QSize(1920, 1080), QSize(333, 1200),
+                                        QSize(2500, 300), QSize(3840, 2160)};
+constexpr std::array<Qt::Key, 12> Keys = {
+    Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Up,  Qt::Key_Right, Qt::Key_Left,
+    Qt::Key_Return, Qt::Key_Space,   Qt::Key_Home, Qt::Key_End, Qt::Key_F1,    Qt::Key_A};
+constexpr std::array<const char*, 6> Terms = {"a", "Lehrer", "", "\xC3\xA4", "*;#,", "tempel von"};
+
+double ProcessSeconds() {
+  timespec time{};
+  ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+int FromEnvironment(const char* name, int otherwise) {
+  bool valid = false;
+  const int value = qEnvironmentVariableIntValue(name, &valid);
+  return valid ? value : otherwise;
+}
+
+class Driver : public QObject {
+ public:
+  Driver()
+      : QObject(qApp),
+        random_(static_cast<unsigned>(FromEnvironment("ORVALIS_DRIVER_SEED", 1))),
+        steps_(FromEnvironment("ORVALIS_DRIVER_STEPS", 200)) {
+    QTimer::singleShot(0, this, &Driver::Step);
+  }
+
+ private:
+  template <typename List>
+  auto& Any(List& list) {
+    return list[static_cast<decltype(list.size())>(random_() % static_cast<unsigned>(list.size()))];
+  }
+
+  void Step() {
+    // Ordered before the step is done: that may open a dialog, which is to be driven too.
+    QTimer::singleShot(0, this, &Driver::Step);
+    const double now = ProcessSeconds();
+    if (done_ > 1 && now - last_ > MostSeconds) {
+      std::printf("hang: %.1f s after step %d, %s\n", now - last_, done_, what_);
+      static_cast<void>(std::fflush(stdout));
+      std::_Exit(3);
+    }
+    last_ = now;
+    if (++done_ % 1000 == 0)
+      PrintMemory();
+    if (auto* popup = QApplication::activePopupWidget())
+      popup->close();
+    else if (auto* dialog = QApplication::activeModalWidget())
+      InDialog(*dialog);
+    else if (auto* window = MainWindow())
+      InWindow(*window);
+  }
+
+  static QMainWindow* MainWindow() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+      if (auto* window = qobject_cast<QMainWindow*>(widget))
+        return window;
+    return nullptr;
+  }
+
+  static void PrintMemory() {
+    std::ifstream status("/proc/self/statm");
+    long pages = 0;
+    status >> pages >> pages;
+    std::printf("resident %ld KiB\n", pages * 4);
+    static_cast<void>(std::fflush(stdout));
+  }
+
+  void InWindow(QMainWindow& window) {
+    dialog_ = nullptr;
+    if (done_ > steps_) {
+      window.close();
+      return;
+    }
+    switch (random_() % 10) {
+      case 0:
+        what_ = "resizing";
+        window.resize(Any(Sizes));
+        break;
+      case 1:
+        what_ = "picking from the list";
+        Pick(*window.findChild<QComboBox*>(QStringLiteral("cboItems")));
+        break;
+      case 2:
+      case 3:
+      case 4:
+        what_ = "the pointer";
+        Point(window, random_() % 8 == 0);
+        break;
+      case 5:
+        what_ = "a key";
+        PressKey(window);
+        break;
+      default:
+        Command(window);
+    }
+  }
+
+  void Command(QMainWindow& window) {
+    const auto rows = MenuTable::Rows();
+    const MenuRow& row = Any(rows);
+    if (row.kind == MenuRow::Kind::Menu || row.action == Action::Quit)
+      return;
+    command_ = QtText::ToQt(row.name).toLatin1();
+    what_ = command_.constData();
+    auto* action = window.findChild<QAction*>(QtText::ToQt(row.name));
+    if (action && action->isEnabled() && action->isVisible())
+      action->trigger();
+  }
+
+  void Pick(QComboBox& items) {
+    if (items.isHidden() || items.count() == 0)
+      return;
+    items.setCurrentIndex(static_cast<int>(random_() % static_cast<unsigned>(items.count())));
+    Q_EMIT items.activated(items.currentIndex());
+  }
+
+  void Point(QMainWindow& window, bool doubleClick) {
+    const auto widgets = window.centralWidget()->findChildren<QWidget*>();
+    if (widgets.isEmpty())
+      return;
+    QWidget* widget = Any(widgets);
+    if (!widget->isVisible())
+      return;
+    const QPoint at = widget->rect().center();
+    const auto send = [widget, at](QEvent::Type type, Qt::MouseButton button) {
+      QMouseEvent event(type, at, widget->mapToGlobal(at), button, button, Qt::NoModifier);
+      QApplication::sendEvent(widget, &event);
+    };
+    send(QEvent::MouseMove, Qt::NoButton);
+    if (doubleClick)
+      send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+  }
+
+  void PressKey(QWidget& window) {
+    QWidget* focused = window.focusWidget() ? window.focusWidget() : &window;
+    QTest::keyClick(focused, Any(Keys));
+  }
+
+  void InDialog(QWidget& dialog) {
+    if (dialog_ != &dialog)
+      stepsHere_ = 0;
+    dialog_ = &dialog;
+    if (++stepsHere_ > StepsInDialog || qobject_cast<QFileDialog*>(&dialog)) {
+      what_ = "leaving a dialog";
+      dialog.close();
+      return;
+    }
+    what_ = "a dialog";
+    const auto widgets = dialog.findChildren<QWidget*>();
+    if (widgets.isEmpty())
+      return;
+    Use(*Any(widgets), dialog);
+  }
+
+  void Use(QWidget& widget, QWidget& dialog) {
+    if (!widget.isVisible() || !widget.isEnabled())
+      return;
+    if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
+      edit->setText(QString::fromUtf8(Any(Terms)));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+      button->click();
+    } else if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
+      const int rows = view->model() ? view->model()->rowCount() : 0;
+      if (rows > 0)
+        view->setCurrentIndex(
+            view->model()->index(static_cast<int>(random_() % static_cast<unsigned>(rows)), 0));
+      QTest::keyClick(view, Any(Keys));
+    } else {
+      PressKey(dialog);
+    }
+  }
+
+  std::mt19937 random_;
+  int steps_;
+  int done_ = 0;
+  int stepsHere_ = 0;
+  double last_ = 0;
+  QByteArray command_;
+  const char* what_ = "the start";
+  QWidget* dialog_ = nullptr;
+};
+
+void Drive() {
+  new Driver();
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(Drive)
