@@ -51,14 +51,14 @@ expect() {
   echo "ok: $what"
 }
 
-visit german.png /usr/bin/orvalis alt+a p Right l
+visit german.png /usr/bin/orvalis alt+a Home Right l
 expect "the user has a program of their own" test -f "$own/orvalis" -a ! -L "$own/orvalis"
 expect "the world is the package's" \
   test "$(readlink "$own/arvenna.data")" = /usr/share/orvalis/arvenna.data
 
 visit chosen.png /usr/bin/orvalis ctrl+l Home Down Return
 expect "the choice is written" grep -q '^language=English' "$own/orvalis.ini"
-visit english.png /usr/bin/orvalis alt+a p Right t
+visit english.png /usr/bin/orvalis alt+a Home Right t
 expect "the choice lasts" grep -q '^language=English' "$own/orvalis.ini"
 
 maps="$root/home/$user/My maps"
@@ -66,4 +66,4 @@ mkdir -p "$maps"
 tar -xzf "$root"/tmp/orvalis-*.tar.gz -C "$maps"
 chroot "$root" chown -R "$user:$user" "/home/$user/My maps"
 expect "the archive is one folder" test "$(ls "$maps")" = orvalis-1.0.0
-visit archive.png "/home/$user/My maps/orvalis-1.0.0/orvalis" alt+s p Right l
+visit archive.png "/home/$user/My maps/orvalis-1.0.0/orvalis" alt+s Home Right l
