@@ -1,7 +1,7 @@
 #include "auxwin/frmPrint.h"
 
 #include "controls/WidgetTwips.h"
-#include "platform/Product.h"
+#include "platform/ProgramInfo.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -30,7 +30,7 @@ constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",
      .kind = ControlKind::Picture,
      .place = {0, 0, 2235, 2325},
-     .text = Product::Title},
+     .text = ProgramInfo::Title},
     {.name = u"lblPrinters", .place = {1785, 240, 735, 255}, .text = u"Drucker:"},
     {.name = u"cboPrinters",
      .kind = ControlKind::ComboBox,
@@ -153,7 +153,7 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   printer.setResolution(Twips2Pixel_Module::Round(TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
-  printer.setDocName(ToQt(Product::Title));
+  printer.setDocName(ToQt(ProgramInfo::Title));
   QPainter painter;
   if (!painter.begin(&printer))
     return;
