@@ -153,6 +153,8 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   printer.setResolution(Twips2Pixel_Module::Round(TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
+  // Queues that say nothing about colour would get a grey map.
+  printer.setColorMode(QPrinter::Color);
   printer.setDocName(ToQt(ProgramInfo::Title));
   QPainter painter;
   if (!painter.begin(&printer))
