@@ -1,5 +1,6 @@
 // Holds the tables of the manuals against the tables of the program and the demonstration world.
 #include "app/MenuTable.h"
+#include "auxwin/ExtrasTable.h"
 #include "docs/Document.h"
 #include "mapdata/IniOps.h"
 #include "perks/PerkCatalogue.h"
@@ -68,6 +69,16 @@ TEST(DocumentedPerks, AreThePerksOfTheProgram) {
                         Narrow(PerkCatalogue::English(perk)), Narrow(perk.german),
                         Narrow(perk.key)});
   EXPECT_EQ(Document::Read("translators.md").Table("[frmPerks]: the perks"), expected);
+}
+
+TEST(DocumentedExtras, AreTheExtrasOfTheProgram) {
+  Table expected;
+  for (const Extra& extra : ExtrasTable)
+    expected.push_back({Narrow(extra.key), Narrow(extra.english), Narrow(extra.german)});
+  Table documented = Document::Read("translators.md").Table("[frmExtras]");
+  std::erase_if(documented,
+                [](const auto& row) { return row[0] == "caption" || row[0][0] == 'b'; });
+  EXPECT_EQ(documented, expected);
 }
 
 class DocumentedSections : public testing::TestWithParam<const char*> {};
