@@ -74,21 +74,23 @@ std::string_view ProfileFile::Lines() const {
   return bytes.substr(bytes.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
 }
 
+// Goes from "[" to "[": most lines of a large file are never looked at.
 void ProfileFile::IndexSections() {
-  std::string_view rest = Lines();
-  while (!rest.empty()) {
+  const std::string_view lines = Lines();
+  for (size_t at = lines.find('['); at != std::string_view::npos;) {
+    const size_t indent = lines.substr(0, at).find_last_not_of(Blanks) + 1;
+    if (indent > 0 && lines[indent - 1] != '\n' && lines[indent - 1] != '\r') {
+      at = lines.find('[', at + 1);
+      continue;
+    }
+    std::string_view rest = lines.substr(indent);
     const std::string_view line = TakeLine(rest);
-    const std::string_view stripped = Strip(line, Blanks);
     if (!sections_.empty()) {
       auto& body = sections_.back().body;
       body = {body.data(), static_cast<size_t>(line.data() - body.data())};
     }
-    if (stripped.starts_with('['))
-      sections_.push_back({HeaderName(stripped), line, rest, false, {}, {}});
-  }
-  if (!sections_.empty()) {
-    auto& body = sections_.back().body;
-    body = {body.data(), static_cast<size_t>(bytes_.data() + bytes_.size() - body.data())};
+    sections_.push_back({HeaderName(Strip(line, Blanks)), line, rest, false, {}, {}});
+    at = lines.find('[', lines.size() - rest.size());
   }
   BuildSlots(
       sectionSlots_, sections_.size(), [this](uint32_t i) { return sections_[i].name; }, SameAscii);

@@ -1,5 +1,6 @@
 #include "perks/frmPerks.h"
 
+#include <QFile>
 #include <QHeaderView>
 #include <QIcon>
 #include <QPushButton>
@@ -35,8 +36,10 @@ constexpr DialogDesign WindowDesign = {.name = u"frmPerks",
                                        .cancelButton = u"btnAbort",
                                        .controls = Controls};
 
+// Without a picture an icon would search for one under the suffixes of all formats.
 QIcon PictureOf(int number) {
-  return QIcon(QStringLiteral(":/builtin/perk-%1.png").arg(number));
+  const auto file = QStringLiteral(":/builtin/perk-%1.png").arg(number);
+  return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 
 PerkTree::Lookup LookupIn(IniOps::Snapshot& files, const LOCAL::Language& language) {
