@@ -10,8 +10,8 @@ from desktop import wait_for  # noqa: E402
 # Qt puts its tree on the bus when it is asked to, or when a screen reader runs.
 ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
-# Frames without content of their own.
-UNNAMED_ROLES = {"filler", "panel", "separator", "layered pane", "scroll pane", "viewport", "unknown"}
+# What only holds or divides others.
+UNNAMED_ROLES = {"filler", "panel", "separator", "scroll bar"}
 
 
 def children(node):
@@ -48,21 +48,25 @@ def focused(node):
     return [found for found, _ in walk(node) if "focused" in states(found)]
 
 
+def needs_name(node, parent):
+    role = node.get_role_name()
+    # A message's icon and the lines of a window are decoration.
+    decoration = {("alert", "image"), ("dialog", "frame")}
+    return role not in UNNAMED_ROLES and (parent, role) not in decoration
+
+
 def nameless(node):
     """The paths of all controls below a node that a screen reader could not name."""
     faults = []
 
-    def look(current, path):
-        path = path + "/" + current.get_role_name() + " " + repr(current.get_name())
-        if current.get_role_name() not in UNNAMED_ROLES and not current.get_name().strip():
+    def look(current, parent, path):
+        role = current.get_role_name()
+        path = path + "/" + role + " " + repr(current.get_name())
+        if needs_name(current, parent) and not current.get_name().strip():
             faults.append(path)
         for child in children(current):
-            look(child, path)
-    look(node, "")
+            # Menus are read closed, too; of a window's other parts only what is on the screen.
+            if "menu" in child.get_role_name() or "showing" in states(child):
+                look(child, role, path)
+    look(node, "", "")
     return faults
-
-
-def dump(node):
-    return "\n".join("  " * depth + f"{found.get_role_name()} {found.get_name()!r} "
-                     f"{found.get_description()!r} {' '.join(sorted(states(found)))}"
-                     for found, depth in walk(node))

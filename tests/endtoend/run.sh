@@ -4,6 +4,6 @@ set -euo pipefail
 here=$(dirname "$0")
 for script in "$here"/test_*.py; do
   echo "-- $(basename "$script")"
-  xvfb-run -a -s "-screen 0 1920x1200x24" python3 "$script" "$1"
+  dbus-run-session -- xvfb-run -a -s "-screen 0 1920x1200x24" /usr/bin/python3 "$script" "$1"
 done
 echo "The program did on a real X server what it should."

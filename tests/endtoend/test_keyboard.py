@@ -1,0 +1,141 @@
+"""Uses the whole program without a pointer, and reads every window as a screen reader does."""
+
+import sys
+
+import accessibility
+from accessibility import children, find, focused, nameless
+from desktop import Program, wait_for
+
+
+class Reader:
+    """The program through its tree on the accessibility bus."""
+
+    def __init__(self, program):
+        self.program = program
+        self.application = accessibility.application(program.process.pid)
+        self.read(self.main)
+
+    @property
+    def main(self):
+        return next(window for window in children(self.application) if window.get_role_name() == "frame")
+
+    def read(self, window):
+        faults = nameless(window)
+        assert not faults, "controls without a name:\n" + "\n".join(faults)
+
+    def windows(self):
+        return [window for window in children(self.application)
+                if window.get_role_name() in ("dialog", "alert") and "showing" in accessibility.states(window)]
+
+    def opened(self, what):
+        window = wait_for(lambda: next(iter(self.windows()), None), what, 30)
+        assert window.get_name().strip(), what + " has no caption"
+        self.read(window)
+        return window
+
+    def closed(self, what):
+        wait_for(lambda: not self.windows(), "the end of " + what, 30)
+
+    def map(self):
+        view = next(child for child in children(self.main) if child.get_role_name() == "filler")
+        return next(child for child in children(view) if child.get_role_name() == "list")
+
+    def markers(self):
+        return [marker.get_name() for marker in children(self.map())]
+
+    def shows(self, what, condition):
+        wait_for(lambda: condition(self.markers()), what, 30)
+
+    def focus(self):
+        return [node.get_name() for node in focused(self.map())]
+
+
+def walk_the_map(program, reader):
+    program.keys("alt+a", "Right", "l")
+    reader.shows("the teachers", lambda markers: len(markers) > 5)
+    reader.read(reader.main)
+    assert reader.focus() == []
+    program.keys("Tab", "End")
+    assert reader.focus() == reader.markers()[-1:]
+    program.keys("Home")
+    first = wait_for(reader.focus, "a focus")
+    assert first == reader.markers()[:1]
+    program.keys("Left")
+    name = wait_for(reader.focus, "a focus")
+    assert name != first
+    program.keys("Return")
+    assert reader.opened("the information window").get_name().strip() == name[0]
+    program.keys("Escape")
+    reader.closed("the information window")
+    assert reader.focus() == name
+
+
+def pick_from_the_list(program, reader):
+    program.keys("alt+a", "Right", "n")
+    reader.shows("the empty map of the list", lambda markers: markers == [])
+    program.type("sch")
+    reader.shows("the pick", lambda markers: len(markers) == 1 and markers[0].lower().startswith("sch"))
+    program.keys("Tab", "Tab")
+    wait_for(lambda: reader.focus() == reader.markers(), "the focus on the marker")
+    program.keys("Escape")
+    wait_for(lambda: not reader.focus(), "the focus on the list")
+
+
+def search(program, reader):
+    program.keys("ctrl+f")
+    reader.opened("the search")
+    program.type("Schmied B")
+    program.keys("Return")
+    reader.closed("the search")
+    reader.shows("the hit", lambda markers: len(markers) == 1 and markers[0].startswith("Schmied B"))
+    program.keys("ctrl+f")
+    reader.opened("the search")
+    program.type("qqqq")
+    program.keys("Return")
+    wait_for(lambda: reader.windows() and not find(reader.windows()[0], "radio button"), "the message", 30)
+    reader.opened("the message")
+    program.keys("Return")
+    reader.closed("the message")
+
+
+def show_a_perk(program, reader):
+    program.keys("alt+a", "Up", "Return")
+    window = reader.opened("the perks")
+    assert find(window, "tree")
+    program.keys("End", "alt+z")
+    reader.closed("the perks")
+    reader.shows("the teachers of a perk", lambda markers: bool(markers))
+
+
+def read_the_other_windows(program, reader):
+    for what, *keys in (("about", "ctrl+a"), ("print", "ctrl+p"), ("extras", "alt+e")):
+        program.keys(*keys)
+        reader.opened(what)
+        program.keys("Escape")
+        reader.closed(what)
+
+
+def change_the_language(program, reader):
+    program.keys("ctrl+l")
+    reader.opened("the languages")
+    program.keys("Home", "Down", "alt+u")
+    reader.closed("the languages")
+    bar = find(reader.main, "menu bar")[0]
+    wait_for(lambda: "File" in [item.get_name() for item in children(bar)], "English menus", 30)
+
+
+def main():
+    program = Program(sys.argv[1], environment=accessibility.ENVIRONMENT)
+    try:
+        reader = Reader(program)
+        for part in (walk_the_map, pick_from_the_list, search, show_a_perk, read_the_other_windows,
+                     change_the_language):
+            part(program, reader)
+        program.keys("ctrl+w")
+        program.process.wait(10)
+        assert program.process.returncode == 0
+    finally:
+        program.end()
+
+
+main()
