@@ -26,6 +26,9 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   Picture* known = Find(path);
   const bool same = known && known->stamp == stamp;
   const bool ready = same && (!known->pixels.isNull() || known->scaled.size() == size);
+  // What was shown keeps how it looked: its pixels make room before others are read.
+  if (shown_ && shown_ != known)
+    shown_->pixels = {};
   if (!ready) {
     QImage pixels = PictureReader::Read(path, screen);
     if (pixels.isNull())
@@ -36,8 +39,6 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
     *known = {Text(path), stamp, std::move(pixels), {}};
     shown_ = Find(shownPath);
   }
-  if (shown_ && shown_ != known)
-    shown_->pixels = {};
   shown_ = known;
   return true;
 }

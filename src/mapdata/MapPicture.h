@@ -12,7 +12,7 @@
 ///
 /// The one shown keeps its pixels, read no larger than the screen needs, so that no resize reads
 /// it again. The others keep only how they last looked: going back to one of them shows that at
-/// once, and `ReadPixels` reads its pixels when there is time. A file that changed is read anew.
+/// once, and `Pixels` reads its pixels when there is time. A file that changed is read anew.
 class MapPicture {
  public:
   /// Makes the picture of the file the one to show at `size` device pixels on a screen of `screen`
