@@ -30,6 +30,7 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   if (shown_ && shown_ != known)
     shown_->pixels = {};
   if (!ready) {
+    PackAllBut(known);
     QImage pixels = PictureReader::Read(path, screen);
     if (pixels.isNull())
       return false;
@@ -40,7 +41,21 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
     shown_ = Find(shownPath);
   }
   shown_ = known;
+  settled_ = false;
   return true;
+}
+
+void MapPicture::Settle() {
+  settled_ = true;
+  PackAllBut(shown_);
+  static_cast<void>(Pixels());
+}
+
+// Keeps three bytes of each pixel, where it needs no fourth.
+void MapPicture::PackAllBut(const Picture* picture) {
+  for (Picture& other : pictures_)
+    if (&other != picture && other.scaled.format() == QImage::Format_RGB32)
+      other.scaled.convertTo(QImage::Format_RGB888);
 }
 
 const QImage& MapPicture::Pixels() {
