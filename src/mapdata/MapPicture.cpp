@@ -3,6 +3,8 @@
 #include "mapdata/FileSystem.h"
 #include "mapdata/PictureReader.h"
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace {
@@ -10,6 +12,18 @@ namespace {
 std::optional<PosixFile::Stamp> StampOf(TextView path) {
   const auto file = FileSystem::Resolve(path);
   return file ? PosixFile::RegularFile(*file) : std::nullopt;
+}
+
+// The painter's filter is quicker, but leaves pixels out where it makes less than half of them.
+QImage Scaled(const QImage& pixels, const QSize& size) {
+  const bool half = size.width() * 2 < pixels.width() || size.height() * 2 < pixels.height();
+  if (half || pixels.hasAlphaChannel())
+    return pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage scaled(size, pixels.format());
+  QPainter painter(&scaled);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(scaled.rect(), pixels);
+  return scaled;
 }
 
 }  // namespace
@@ -71,9 +85,6 @@ const QImage& MapPicture::At(const QSize& size) {
   if (!shown_)
     return Pixels();
   if (shown_->scaled.size() != size && !Pixels().isNull())
-    shown_->scaled =
-        shown_->pixels.size() == size
-            ? shown_->pixels
-            : shown_->pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    shown_->scaled = shown_->pixels.size() == size ? shown_->pixels : Scaled(shown_->pixels, size);
   return shown_->scaled;
 }
