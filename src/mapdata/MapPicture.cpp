@@ -3,6 +3,8 @@
 #include "mapdata/FileSystem.h"
 #include "mapdata/PictureReader.h"
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace {
@@ -10,6 +12,18 @@ namespace {
 std::optional<PosixFile::Stamp> StampOf(TextView path) {
   const auto file = FileSystem::Resolve(path);
   return file ? PosixFile::RegularFile(*file) : std::nullopt;
+}
+
+// The painter's filter is quicker, but leaves pixels out where it makes less than half of them.
+QImage Scaled(const QImage& pixels, const QSize& size) {
+  const bool half = size.width() * 2 < pixels.width() || size.height() * 2 < pixels.height();
+  if (half || pixels.hasAlphaChannel())
+    return pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage scaled(size, pixels.format());
+  QPainter painter(&scaled);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(scaled.rect(), pixels);
+  return scaled;
 }
 
 }  // namespace
@@ -26,7 +40,11 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   Picture* known = Find(path);
   const bool same = known && known->stamp == stamp;
   const bool ready = same && (!known->pixels.isNull() || known->scaled.size() == size);
+  // What was shown keeps how it looked: its pixels make room before others are read.
+  if (shown_ && shown_ != known)
+    shown_->pixels = {};
   if (!ready) {
+    PackAllBut(known);
     QImage pixels = PictureReader::Read(path, screen);
     if (pixels.isNull())
       return false;
@@ -36,10 +54,22 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
     *known = {Text(path), stamp, std::move(pixels), {}};
     shown_ = Find(shownPath);
   }
-  if (shown_ && shown_ != known)
-    shown_->pixels = {};
   shown_ = known;
+  settled_ = false;
   return true;
+}
+
+void MapPicture::Settle() {
+  settled_ = true;
+  PackAllBut(shown_);
+  static_cast<void>(Pixels());
+}
+
+// Keeps three bytes of each pixel, where it needs no fourth.
+void MapPicture::PackAllBut(const Picture* picture) {
+  for (Picture& other : pictures_)
+    if (&other != picture && other.scaled.format() == QImage::Format_RGB32)
+      other.scaled.convertTo(QImage::Format_RGB888);
 }
 
 const QImage& MapPicture::Pixels() {
@@ -55,9 +85,6 @@ const QImage& MapPicture::At(const QSize& size) {
   if (!shown_)
     return Pixels();
   if (shown_->scaled.size() != size && !Pixels().isNull())
-    shown_->scaled =
-        shown_->pixels.size() == size
-            ? shown_->pixels
-            : shown_->pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    shown_->scaled = shown_->pixels.size() == size ? shown_->pixels : Scaled(shown_->pixels, size);
   return shown_->scaled;
 }

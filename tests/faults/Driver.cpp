@@ -1,6 +1,6 @@
 // Linked to the program's own main(): uses its windows at random, as fast as it can, and ends it
 // after ORVALIS_DRIVER_STEPS steps, chosen by ORVALIS_DRIVER_SEED. Writes the memory in use every
-// thousand steps, and exits with 3 where a step takes more than 2 seconds of processor time.
+// hundred steps, and exits with 3 where a step takes more than 2 seconds of processor time.
 
 #include "app/MenuTable.h"
 #include "platform/QtText.h"
@@ -74,7 +74,7 @@ class Driver : public QObject {
       std::_Exit(3);
     }
     last_ = now;
-    if (++done_ % 1000 == 0)
+    if (++done_ % 100 == 0)
       PrintMemory();
     if (auto* popup = QApplication::activePopupWidget())
       popup->close();

@@ -41,10 +41,10 @@ def main():
     world.remove()
     third = len(sizes) // 3
     if third == 0 or code != -9:
-        print(f"ended early with {code} after {len(sizes)} thousand steps")
+        print(f"ended early with {code} after {len(sizes)} hundred steps")
         return 1
     middle, last = max(sizes[third:2 * third]), max(sizes[2 * third:])
-    print(f"{len(sizes)} thousand steps; KiB resident: {sizes[0]} at first, at most {middle} in the "
+    print(f"{len(sizes)} hundred steps; KiB resident: {sizes[0]} at first, at most {middle} in the "
           f"second third and {last} in the last")
     return 0 if last <= middle * SWING else 1
 
