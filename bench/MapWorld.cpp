@@ -110,9 +110,9 @@ std::string MapWorld::EntityName(size_t number) {
   return "Wanderer Nummer " + std::to_string(number);
 }
 
-void MapWorld::Touch(int region) const {
+void MapWorld::Touch(const Text& path) const {
   const timespec time[2] = {{++touched_, 0}, {touched_, 0}};
-  ::utimensat(AT_FDCWD, NativePath::ToBytes(Data(region)).c_str(), time, 0);
+  ::utimensat(AT_FDCWD, NativePath::ToBytes(path).c_str(), time, 0);
 }
 
 void MapWorld::Write(const std::string& name, const std::string& bytes) const {

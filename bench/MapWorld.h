@@ -32,13 +32,17 @@ class MapWorld {
   /// The name of an entity; the numbers below `Entities` are those of the measured category.
   [[nodiscard]] static std::string EntityName(size_t number);
 
-  /// Gives the region's data file another time, as an edit does.
-  void Touch(int region) const;
+  /// Gives the file another time, as an edit does.
+  void Touch(int region) const { Touch(Data(region)); }
+
+  void TouchInfoData() const { Touch(InfoData()); }
 
   /// The menu's command whose category is measured: names shown, all of its entities links.
   [[nodiscard]] static const MenuRow& Measured(int region);
 
  private:
+  void Touch(const Text& path) const;
+
   // Files of a world are old: new ones are read again at each event.
   void Write(const std::string& name, const std::string& bytes) const;
 

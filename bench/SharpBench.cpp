@@ -18,61 +18,48 @@ constexpr QSize Map = {1024, 769};
 constexpr QSize Screen = {1920, 1080};
 constexpr double LeastDecibels = 35;
 
-// One row or column of red, green and blue, reduced or stretched to `to` pixels by areas.
-using Line = std::vector<double>;
+// Calls `add(i, part)` for each of `count` pixels that pixel number `at` of `to` covers, with the
+// part of the mean that it makes.
+template <typename Add>
+void ForCovered(int at, int to, int count, Add add) {
+  const double step = static_cast<double>(count) / to;
+  const double begin = at * step;
+  const double end = begin + step;
+  for (int i = static_cast<int>(begin); i < count && i < end; ++i)
+    add(i, (std::min(end, i + 1.0) - std::max(begin, 1.0 * i)) / step);
+}
 
-Line ByAreas(const Line& from, size_t to) {
-  const size_t count = from.size() / 3;
-  const double step = static_cast<double>(count) / static_cast<double>(to);
-  Line line(to * 3);
-  for (size_t i = 0; i < to; ++i) {
-    const double begin = static_cast<double>(i) * step;
-    const double end = begin + step;
-    for (auto at = static_cast<size_t>(begin); at < count && static_cast<double>(at) < end; ++at) {
-      const double part =
-          std::min(end, static_cast<double>(at + 1)) - std::max(begin, static_cast<double>(at));
+// Row y of the picture scaled to the size: red, green and blue by turns.
+std::vector<double> RowByAreas(const QImage& whole, int y, const QSize& size) {
+  std::vector<double> column(static_cast<size_t>(whole.width()) * 3);
+  ForCovered(y, size.height(), whole.height(), [&](int from, double part) {
+    const uchar* pixels = whole.constScanLine(from);
+    for (size_t x = 0; x < column.size() / 3; ++x)
       for (size_t channel = 0; channel < 3; ++channel)
-        line[i * 3 + channel] += from[at * 3 + channel] * part / step;
+        column[x * 3 + channel] += pixels[x * 4 + 2 - channel] * part;
+  });
+  std::vector<double> row(static_cast<size_t>(size.width()) * 3);
+  for (int x = 0; x < size.width(); ++x)
+    ForCovered(x, size.width(), whole.width(), [&](int from, double part) {
+      for (size_t channel = 0; channel < 3; ++channel)
+        row[static_cast<size_t>(x) * 3 + channel] +=
+            column[static_cast<size_t>(from) * 3 + channel] * part;
+    });
+  return row;
+}
+
+// The root of the mean square of what the picture differs from `whole` scaled to its size.
+double MeanError(const QImage& whole, const QImage& picture) {
+  double squares = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    const auto row = RowByAreas(whole, y, picture.size());
+    const uchar* pixels = picture.constScanLine(y);
+    for (size_t i = 0; i < row.size(); ++i) {
+      const double difference = row[i] - pixels[i / 3 * 4 + 2 - i % 3];
+      squares += difference * difference;
     }
   }
-  return line;
-}
-
-std::vector<Line> Rows(const QImage& picture) {
-  std::vector<Line> rows(static_cast<size_t>(picture.height()));
-  for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x) {
-      const QRgb color = picture.pixel(x, y);
-      for (const int value : {qRed(color), qGreen(color), qBlue(color)})
-        rows[static_cast<size_t>(y)].push_back(value);
-    }
-  return rows;
-}
-
-std::vector<Line> Turned(const std::vector<Line>& rows) {
-  std::vector<Line> columns(rows.front().size() / 3);
-  for (size_t x = 0; x < columns.size(); ++x)
-    for (const Line& row : rows)
-      columns[x].insert(columns[x].end(), row.begin() + static_cast<ptrdiff_t>(x * 3),
-                        row.begin() + static_cast<ptrdiff_t>(x * 3 + 3));
-  return columns;
-}
-
-std::vector<Line> ByAreas(std::vector<Line> rows, const QSize& size) {
-  for (Line& row : rows)
-    row = ByAreas(row, static_cast<size_t>(size.width()));
-  rows = Turned(rows);
-  for (Line& column : rows)
-    column = ByAreas(column, static_cast<size_t>(size.height()));
-  return Turned(rows);
-}
-
-double MeanError(const std::vector<Line>& a, const std::vector<Line>& b) {
-  double squares = 0;
-  for (size_t y = 0; y < a.size(); ++y)
-    for (size_t i = 0; i < a[y].size(); ++i)
-      squares += (a[y][i] - b[y][i]) * (a[y][i] - b[y][i]);
-  return std::sqrt(squares / static_cast<double>(a.size() * a.front().size()));
+  return std::sqrt(squares / (3.0 * picture.width() * picture.height()));
 }
 
 }  // namespace
@@ -83,7 +70,7 @@ int main(int, char** argv) {
   const QGuiApplication forPictures(onlyName, argv);
   const MapWorld world;
   const Text file = world.Picture(0);
-  const std::vector<Line> whole = Rows(PictureReader::Read(file));
+  const QImage whole = PictureReader::Read(file);
   const double mostError = 255 / std::pow(10, LeastDecibels / 20);
   bool sharp = true;
   for (const int ratio : {1, 2})
@@ -92,7 +79,7 @@ int main(int, char** argv) {
       MapPicture picture;
       if (!picture.Load(file, size, (Screen * ratio).expandedTo(size)))
         return 1;
-      const double error = MeanError(ByAreas(whole, size), Rows(picture.At(size)));
+      const double error = MeanError(whole, picture.At(size));
       std::printf("%d %%, ratio %d: %.1f dB\n", percent, ratio, 20 * std::log10(255 / error));
       std::fflush(stdout);
       const std::string name =

@@ -47,7 +47,6 @@ set(ORVALIS_TEST_ENVIRONMENT LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
 function(orvalis_test_program name)
   cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE ORVALIS_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                              ORVALIS_SOURCES="${PROJECT_SOURCE_DIR}")

@@ -17,7 +17,7 @@ cmake --build --preset fuzz --target $(printf 'orvalis_fuzz_%s ' $targets)
 for target in $targets; do
   echo "== $target, $seconds s"
   mkdir -p "build/fuzz/corpus/$target" build/fuzz/findings
-  "build/fuzz/bin/orvalis_fuzz_$target" -max_total_time="$seconds" -timeout=2 -rss_limit_mb=2048 \
+  "build/fuzz/tests/bin/orvalis_fuzz_$target" -max_total_time="$seconds" -timeout=2 -rss_limit_mb=2048 \
     -print_final_stats=1 -verbosity=0 -artifact_prefix="build/fuzz/findings/$target-" \
     "build/fuzz/corpus/$target" "tests/data/fuzz/$target"
 done

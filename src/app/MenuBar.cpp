@@ -1,5 +1,6 @@
 #include "app/MenuBar.h"
 
+#include "platform/ProgramInfo.h"
 #include "platform/QtText.h"
 
 #include <QMenu>
@@ -24,6 +25,7 @@ QAction* DividerLine(QWidget* menu) {
 
 MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
   setObjectName(QStringLiteral("menuBar"));
+  setAccessibleName(ToQt(ProgramInfo::Title));
   // The menu that rows of the next level go into.
   std::array<QWidget*, Levels> open = {this};
   for (const MenuRow& row : MenuTable::Rows()) {
@@ -45,6 +47,8 @@ QAction* MenuBar::MakeAction(const MenuRow& row) {
     auto* menu = new QMenu(this);
     menu->setObjectName(name);
     action = menu->menuAction();
+    connect(action, &QAction::changed, menu,
+            [menu] { menu->setAccessibleName(menu->title().remove(u'&')); });
   } else {
     action = new QAction(this);
     action->setShortcut(QKeySequence::fromString(ToQt(row.shortcut)));

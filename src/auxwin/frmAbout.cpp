@@ -4,7 +4,7 @@
 #include "auxwin/WaveFile.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/FileSystem.h"
-#include "platform/Product.h"
+#include "platform/ProgramInfo.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -33,7 +33,7 @@ constexpr ControlDesign Controls[] = {
     {.name = u"picBanner",
      .kind = ControlKind::Picture,
      .place = {120, 120, 6060, 2325},
-     .text = Product::Title},
+     .text = ProgramInfo::Title},
     {.name = u"lblTitle",
      .place = {240, 2685, 5910, 360},
      .text = u"{ProgrammTitel}",
@@ -53,11 +53,11 @@ constexpr ControlDesign Controls[] = {
      .text = u"{Beschreibung}",
      .bold = true},
     {.name = u"lblEMailLabel", .place = {225, 4485, 495, 240}, .text = u"eMail:", .bold = true},
-    {.name = u"lblEMail", .place = {1095, 4485, 5100, 240}, .text = Product::EMail, .bold = true},
+    {.name = u"lblEMail", .place = {1095, 4485, 5100, 240}, .text = ProgramInfo::EMail, .bold = true},
     {.name = u"lblWebSiteLabel", .place = {240, 4815, 780, 240}, .text = u"WebSite:", .bold = true},
     {.name = u"lblWebSite",
      .place = {1095, 4815, 5100, 240},
-     .text = Product::WebSite,
+     .text = ProgramInfo::WebSite,
      .bold = true},
     {.name = u"lblDisclaimer", .place = {240, 5280, 5820, 945}, .text = Disclaimer, .bold = true},
     {.name = u"lblSources", .place = {240, 6240, 5820, 1665}, .text = Sources, .bold = true},
@@ -162,11 +162,11 @@ void frmAbout::LinkLabels() {
 
 void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
                           const Text& edition) {
-  setWindowTitle(ToQt(Texts::Join(u"Über ", Product::Title, u" ", edition)));
-  Label(u"lblTitle").setText(ToQt(Product::Title));
-  Label(u"lblVersion").setText(ToQt(Texts::Join(u"Version: ", Product::Version, u" ", edition)));
-  Label(u"lblCopyright").setText(ToQt(Product::Copyright));
-  Label(u"lblDescription").setText(ToQt(Product::Description));
+  setWindowTitle(ToQt(Texts::Join(u"Über ", ProgramInfo::Title, u" ", edition)));
+  Label(u"lblTitle").setText(ToQt(ProgramInfo::Title));
+  Label(u"lblVersion").setText(ToQt(Texts::Join(u"Version: ", ProgramInfo::Version, u" ", edition)));
+  Label(u"lblCopyright").setText(ToQt(ProgramInfo::Copyright));
+  Label(u"lblDescription").setText(ToQt(ProgramInfo::Description));
   if (!language.IsGerman())
     ShowTranslation(files, language);
 }
@@ -175,7 +175,7 @@ void frmAbout::ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& l
   const auto text = [&](TextView key) {
     return files.IniRead(language.LanguageFile, u"frmAbout", key, u"");
   };
-  setWindowTitle(ToQt(Texts::Join(text(u"caption"), u" ", Product::Title)));
+  setWindowTitle(ToQt(Texts::Join(text(u"caption"), u" ", ProgramInfo::Title)));
   for (const Translated& translated : TranslatedLabels)
     Label(translated.label).setText(ToQt(text(translated.key)));
 }

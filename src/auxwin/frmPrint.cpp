@@ -1,7 +1,7 @@
 #include "auxwin/frmPrint.h"
 
 #include "controls/WidgetTwips.h"
-#include "platform/Product.h"
+#include "platform/ProgramInfo.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -24,13 +24,13 @@ constexpr TextView PdfEntry = u"PDF";
 constexpr TextView PdfName = u"Orvalis.pdf";
 constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
-constexpr double FadeWidth = 0.15;
+constexpr double FadeWidth = 0.1;
 
 constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",
      .kind = ControlKind::Picture,
      .place = {0, 0, 2235, 2325},
-     .text = Product::Title},
+     .text = ProgramInfo::Title},
     {.name = u"lblPrinters", .place = {1785, 240, 735, 255}, .text = u"Drucker:"},
     {.name = u"cboPrinters",
      .kind = ControlKind::ComboBox,
@@ -153,7 +153,9 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   printer.setResolution(Twips2Pixel_Module::Round(TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
-  printer.setDocName(ToQt(Product::Title));
+  // Queues that say nothing about colour would get a grey map.
+  printer.setColorMode(QPrinter::Color);
+  printer.setDocName(ToQt(ProgramInfo::Title));
   QPainter painter;
   if (!painter.begin(&printer))
     return;

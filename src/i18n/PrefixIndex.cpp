@@ -13,6 +13,10 @@ constexpr uint32_t Extended(uint32_t hash, char16_t unit) {
   return (hash ^ unit) * 16777619U;
 }
 
+constexpr uint64_t BitOf(size_t length) {
+  return uint64_t{1} << std::min<size_t>(length, 63);
+}
+
 }  // namespace
 
 PrefixIndex::PrefixIndex(std::vector<Text> prefixes)
@@ -29,9 +33,16 @@ void PrefixIndex::Add(uint32_t number) {
     hash = Extended(hash, unit);
   if (Slot& slot = slots_[SlotOf(hash)]; slot.number == Free)
     slot = {hash, number};
-  if (lengths_.size() <= prefix.size())
-    lengths_.resize(prefix.size() + 1);
-  lengths_[prefix.size()] = true;
+  AddLength(prefix);
+}
+
+void PrefixIndex::AddLength(TextView prefix) {
+  longest_ = std::max(longest_, prefix.size());
+  if (prefix.empty())
+    for (uint64_t& lengths : lengths_)
+      lengths |= 1;
+  else
+    lengths_[prefix.front() % lengths_.size()] |= BitOf(prefix.size());
 }
 
 size_t PrefixIndex::SlotOf(uint32_t hash) const {
@@ -46,11 +57,13 @@ size_t PrefixIndex::SlotOf(uint32_t hash) const {
 std::optional<size_t> PrefixIndex::FirstPrefixOf(TextView text) const {
   uint32_t first = Free;
   uint32_t hash = EmptyHash;
-  const size_t lengths = std::min(lengths_.size(), text.size() + 1);
-  for (size_t length = 0; length < lengths; ++length) {
+  const uint64_t lengths = lengths_[text.empty() ? 0 : text.front() % lengths_.size()];
+  const auto widest = static_cast<size_t>(std::bit_width(lengths));
+  const size_t end = std::min(text.size() + 1, widest == 64 ? longest_ + 1 : widest);
+  for (size_t length = 0; length < end; ++length) {
     if (length > 0)
       hash = Extended(hash, text[length - 1]);
-    if (lengths_[length])
+    if ((lengths & BitOf(length)) != 0)
       first = std::min(first, slots_[SlotOf(hash)].number);
   }
   if (first == Free)

@@ -2,6 +2,7 @@
 
 #include "platform/Text.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -29,12 +30,15 @@ class PrefixIndex {
   };
 
   void Add(uint32_t number);
+  void AddLength(TextView prefix);
   // Where the first text of that hash stands, or would.
   [[nodiscard]] size_t SlotOf(uint32_t hash) const;
   [[nodiscard]] std::optional<size_t> Scan(TextView text) const;
 
   std::vector<Text> prefixes_;
   std::vector<Slot> slots_;
-  // Whether the list holds a text of that length.
-  std::vector<bool> lengths_;
+  // The lengths of the texts, a bit each, by the low bits of their first unit: most lengths need no
+  // look into the table. The last bit stands for every length from its own on.
+  std::array<uint64_t, 64> lengths_{};
+  size_t longest_ = 0;
 };

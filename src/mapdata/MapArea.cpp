@@ -24,9 +24,6 @@ bool MapArea::LoadPicture(TextView path) {
   if (!picture_.Load(path, DevicePixels(), onScreen.expandedTo(DevicePixels())))
     return false;
   update();
-  // After the picture is on the screen, so that a later resize finds its pixels there.
-  if (picture_.NeedsPixels())
-    QTimer::singleShot(0, this, [this] { static_cast<void>(picture_.Pixels()); });
   return true;
 }
 
@@ -44,4 +41,7 @@ void MapArea::paintEvent(QPaintEvent* event) {
   const double ratio = devicePixelRatioF();
   const QRectF from(QPointF(event->rect().topLeft()) * ratio, QSizeF(event->rect().size()) * ratio);
   painter.drawImage(QRectF(event->rect()), picture, from);
+  // Now that the picture is on the screen, so that a later resize finds its pixels there.
+  if (picture_.NeedsPixels())
+    QTimer::singleShot(0, this, [this] { static_cast<void>(picture_.Pixels()); });
 }

@@ -1,5 +1,6 @@
 #include "mapdata/MapView.h"
 
+#include "controls/PrintableWidget.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/EntityFile.h"
 #include "mapdata/InfoFile.h"
@@ -111,7 +112,8 @@ void MapView::ConnectControls() {
   connect(ITEM, &ctlLocation::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::MouseMove, this, [this] { ShowDescription(*lblCaption); });
-  connect(focus_, &MapFocus::Left, cboItems, [this] { cboItems->setFocus(); });
+  connect(focus_, &MapFocus::Left, cboItems,
+          [this] { cboItems->setFocus(Qt::ShortcutFocusReason); });
   connect(slots_, &MarkerSlots::DotMoved, this, &MapView::DOT_MouseMove);
   connect(slots_, &MarkerSlots::LabelMoved, this, [this](int index) {
     slots_->BringToFront(index);
@@ -146,7 +148,7 @@ void MapView::Paint(QPainter& painter) {
   for (QObject* child : children()) {
     auto* widget = qobject_cast<QWidget*>(child);
     if (widget && widget != imgMap && widget->isVisible())
-      widget->render(&painter, widget->pos(), {}, DrawChildren);
+      PrintableWidget::Paint(*widget, painter, widget->pos());
   }
   focus_->SetRingLeftOut(false);
 }
@@ -191,7 +193,7 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
   IniOps::Snapshot files(files_);
   FillItems(EntityFile::ReadNames(files, Data, KindX, names_));
   cboItems_Click();
-  cboItems->setFocus();
+  cboItems->setFocus(Qt::ShortcutFocusReason);
 }
 
 void MapView::FillItems(const std::vector<Text>& names) {
@@ -303,7 +305,7 @@ void MapView::btnInfo_Click() {
   if (cboItems->isHidden()) {
     Q_EMIT InfoRequested();
   } else if (listed == prompt_) {
-    cboItems->setFocus();
+    cboItems->setFocus(Qt::ShortcutFocusReason);
   } else {
     InfoMulti(listed);
   }

@@ -99,8 +99,6 @@ void ProfileFile::IndexSections() {
 
 void ProfileFile::IndexKeys(const Section& section) const {
   section.indexed = true;
-  section.lines.reserve(
-      static_cast<size_t>(std::count(section.body.begin(), section.body.end(), '\n')) + 1);
   std::string_view rest = section.body;
   while (!rest.empty()) {
     const std::string_view line = Strip(TakeLine(rest), Blanks);

@@ -68,16 +68,19 @@ inline constexpr std::string_view Blanks = " \t\v\f";
 }
 
 /// A hash that is the same for names that differ in letter case alone. Eight bytes at once, since
-/// files of megabytes are hashed: all letters beyond ASCII count as one.
+/// files of megabytes are hashed: of letters beyond ASCII only the bits that both cases share
+/// count.
 [[nodiscard]] inline uint32_t HashName(std::string_view name) {
   constexpr uint64_t HighBits = 0x8080808080808080U;
   constexpr uint64_t WithoutCase = 0x5F5F5F5F5F5F5F5FU;
+  // The two cases of a letter are 0x10, 0x20 or, of one, 0x60 apart.
+  constexpr uint64_t CaseBitsBeyond = 0x50;
   uint64_t hash = name.size();
   for (size_t at = 0; at < name.size(); at += sizeof(uint64_t)) {
     uint64_t word = 0;
     std::memcpy(&word, name.data() + at, std::min(sizeof word, name.size() - at));
     const uint64_t beyondAscii = (word & HighBits) >> 7U;
-    word = (word & WithoutCase & ~(beyondAscii * 0xFFU)) | (word & HighBits);
+    word = (word & WithoutCase & ~(beyondAscii * CaseBitsBeyond)) | (word & HighBits);
     hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
     hash ^= hash >> 32U;
   }

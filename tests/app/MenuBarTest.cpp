@@ -1,6 +1,9 @@
 #include "app/MenuBar.h"
 
+#include "i18n/LanguageList.h"
+#include "platform/NativePath.h"
 #include "platform/QtText.h"
+#include "support/TemporaryFolder.h"
 
 #include <QMenu>
 #include <QSignalSpy>
@@ -97,4 +100,28 @@ TEST(MenuBar, HeadingFollowsTheCaptionsShown) {
   EXPECT_EQ(FromQt(Find(bar, "sep40")->text()), u"|");
   bar.SetCaptions({});
   EXPECT_EQ(FromQt(Find(bar, "miAbout")->text()), u"About");
+}
+
+TEST(MenuBar, ASwitchThroughTheWorldsLanguagesLeavesNothingBehind) {
+  const TemporaryFolder folder;
+  const Text root = NativePath::FromBytes(ORVALIS_SOURCES "/world/LANG/");
+  const auto rows = MenuTable::Captions();
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  LOCAL::Language language({});
+  MenuBar bar;
+  for (const TextView name : {u"English", u"Français", u"Deutsch"}) {
+    const bool german = name == LOCAL::German;
+    const Text file = german ? Text(LOCAL::BuiltIn) : LOCAL::FileOfLanguage(root, name, u".lng");
+    bar.SetCaptions(
+        LanguageList::Select(files, language, folder.Path(u"orvalis.ini"), file, rows).menus);
+    for (const MenuRow& row : MenuTable::Rows()) {
+      const Text shown = FromQt(bar.findChild<QAction*>(QtText::ToQt(row.name))->text());
+      const Text expected = row.kind == MenuRow::Kind::BarDivider ? u"|"
+                            : german                              ? Text(row.caption.german)
+                                     : files.IniRead(file, u"menus", row.caption.key, u"missing");
+      EXPECT_EQ(shown, expected);
+    }
+  }
+  EXPECT_EQ(folder.Read("orvalis.ini"), "[general]\r\nlanguage=Deutsch\r\n");
 }

@@ -1,11 +1,13 @@
 #include "auxwin/frmPrint.h"
 
 #include "auxwin/WindowFixture.h"
+#include "controls/PrintableWidget.h"
 #include "controls/WidgetTwips.h"
 #include "support/DialogCheck.h"
 
 #include <QComboBox>
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
 #include <QProcess>
 #include <QPushButton>
@@ -99,6 +101,32 @@ TEST_F(Print, PutsTheWholeMapInItsSizeOnOneLandscapePage) {
         map.bottomLeft() + QPoint(inside, -inside), map.bottomRight() + QPoint(-inside, -inside)})
     EXPECT_GT(page.pixelColor(corner).red(), 200);
   EXPECT_GT(page.pixelColor(map.center()).blue(), 200);
+}
+
+TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
+  desktop.fileToWrite = folder.Native("map.pdf");
+  QWidget map;
+  map.resize(600, 400);
+  QLabel name(QStringLiteral("Fischmarkt"), &map);
+  name.setFont(WidgetTwips::Font(9.75, true));
+  name.move(300, 200);
+  frmPrint window(nullptr, language, files, desktop, {{9000, 6000}, [&map](QPainter& painter) {
+                                                        PrintableWidget::Paint(map, painter, {});
+                                                      }});
+  Press(window, "btnPrint");
+  QProcess words;
+  words.start(
+      QStringLiteral("pdftotext"),
+      {QStringLiteral("-bbox"), QString::fromStdString(desktop.fileToWrite), QStringLiteral("-")});
+  words.waitForFinished();
+  const QString found = QString::fromUtf8(words.readAllStandardOutput());
+  ASSERT_TRUE(found.contains(QStringLiteral(">Fischmarkt<"))) << found.toStdString();
+  const auto number = [&found](const QString& attribute) {
+    return found.section(attribute + QStringLiteral("=\""), -1).section(u'"', 0, 0).toDouble();
+  };
+  const double pointsPerPixel = 72 / (1440 / WidgetTwips::ScreenOf(map).twipsPerPixelX);
+  EXPECT_NEAR(number(QStringLiteral("xMax")) - number(QStringLiteral("xMin")),
+              name.sizeHint().width() * pointsPerPixel, 3);
 }
 
 TEST_F(Print, AMapLargerThanThePageGetsSmaller) {
