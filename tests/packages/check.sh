@@ -3,6 +3,7 @@
 # chroot, made once and kept below build/) the package is installed and started on a virtual screen,
 # a language is chosen there, and the archive is started from a folder with a blank in its name.
 # Needs root, the Debian mirror, and some 15 minutes the first time. Not part of the quick checks.
+# check.sh [--built]: with --built, the packages that were built last are tried.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -15,13 +16,13 @@ user=wanderer
 
 say() { echo "== $* ($(date +%T))"; }
 
-say "Building the packages"
 if [ "${1:-}" != "--built" ]; then
+  say "Building the packages"
   cmake --preset release
   cmake --build --preset release
+  rm -rf "$packages"
+  (cd "$build" && cpack)
 fi
-rm -rf "$packages"
-(cd "$build" && cpack)
 mkdir -p "$pictures"
 
 say "lintian"
@@ -44,6 +45,7 @@ unmount() {
 trap unmount EXIT
 mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
+mount --bind /dev/pts "$root/dev/pts"
 mkdir -p "$root/tmp/.X11-unix" /tmp/.X11-unix
 mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
 
