@@ -19,7 +19,7 @@ keys() {
     sleep 0.3
   done
 }
-keys alt+a p Right l
+keys alt+a Home Right l
 sleep 1
 import -window root "$picture"
 keys ctrl+w

@@ -53,7 +53,10 @@ constexpr ControlDesign Controls[] = {
      .text = u"{Beschreibung}",
      .bold = true},
     {.name = u"lblEMailLabel", .place = {225, 4485, 495, 240}, .text = u"eMail:", .bold = true},
-    {.name = u"lblEMail", .place = {1095, 4485, 5100, 240}, .text = ProgramInfo::EMail, .bold = true},
+    {.name = u"lblEMail",
+     .place = {1095, 4485, 5100, 240},
+     .text = ProgramInfo::EMail,
+     .bold = true},
     {.name = u"lblWebSiteLabel", .place = {240, 4815, 780, 240}, .text = u"WebSite:", .bold = true},
     {.name = u"lblWebSite",
      .place = {1095, 4815, 5100, 240},
@@ -164,7 +167,8 @@ void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& langua
                           const Text& edition) {
   setWindowTitle(ToQt(Texts::Join(u"Über ", ProgramInfo::Title, u" ", edition)));
   Label(u"lblTitle").setText(ToQt(ProgramInfo::Title));
-  Label(u"lblVersion").setText(ToQt(Texts::Join(u"Version: ", ProgramInfo::Version, u" ", edition)));
+  Label(u"lblVersion")
+      .setText(ToQt(Texts::Join(u"Version: ", ProgramInfo::Version, u" ", edition)));
   Label(u"lblCopyright").setText(ToQt(ProgramInfo::Copyright));
   Label(u"lblDescription").setText(ToQt(ProgramInfo::Description));
   if (!language.IsGerman())
