@@ -9,11 +9,33 @@ namespace {
 
 constexpr TextView Entities = u"entities";
 
+// No name that a person wrote is near it. Words whose translations hold other words could
+// otherwise fill the memory.
+constexpr size_t LongestName = 4 * IniOps::LongestValue;
+
+bool FitsReplaced(TextView text, TextView part, TextView by) {
+  size_t length = text.size();
+  for (size_t at = text.find(part); at != TextView::npos && length <= LongestName;
+       at = text.find(part, at + part.size()))
+    length = length + by.size() - part.size();
+  return length <= LongestName;
+}
+
 // The text with a region's word replaced. Most names hold none: they are not copied.
 TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
-  if (part.empty() || by.empty() || text.find(part) == TextView::npos)
+  const bool found = !part.empty() && !by.empty() && text.find(part) != TextView::npos;
+  if (!found || !FitsReplaced(text, part, by))
     return text;
   return storage = ReplaceAll(text, part, by);
+}
+
+// The name whose beginning is a key of the table, with every occurrence of it replaced; the name
+// itself where nothing would be left of it, or too much.
+Text ReplacedKey(TextView name, TextView key, TextView by) {
+  if (!key.empty() && !FitsReplaced(name, key, by))
+    return Text(name);
+  Text replaced = ReplaceAll(name, key, by);
+  return Trim(replaced).empty() ? Text(name) : replaced;
 }
 
 }  // namespace
@@ -88,10 +110,7 @@ Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
   for (const RegionWord& region : RegionWords_)
     shown = Replaced(shown, region.word, region.translation, replaced);
   const auto key = EntityKeys_.FirstPrefixOf(shown);
-  if (!key)
-    return Text(shown);
-  Text translated = ReplaceAll(shown, EntityKeys_[*key], ValueOf(*key));
-  return Trim(translated).empty() ? Text(shown) : translated;
+  return key ? ReplacedKey(shown, EntityKeys_[*key], ValueOf(*key)) : Text(shown);
 }
 
 void Language::IndexTranslations() {
@@ -114,10 +133,8 @@ Text Language::UnlocalizeEntityName(TextView text) {
   for (const RegionWord& region : RegionWords_)
     name = Replaced(name, region.translation, region.word, replaced);
   const auto number = EntityTranslations_.FirstPrefixOf(name);
-  if (!number)
-    return Text(name);
-  Text key = ReplaceAll(name, EntityTranslations_[*number], EntityKeys_[*number]);
-  return Trim(key).empty() ? Text(name) : key;
+  return number ? ReplacedKey(name, EntityTranslations_[*number], EntityKeys_[*number])
+                : Text(name);
 }
 
 Text Language::Shown(IniOps::Snapshot& files, TextView key) {
