@@ -30,7 +30,7 @@ ProgramPaths ComposePaths(IniOps::Snapshot& files, const Text& programFolder) {
   const auto folder = [&](const Settings::Entry& entry) {
     return Join(base, Settings::Read(files, paths.settings, entry), Separator);
   };
-  paths.programFolder = programFolder;
+  paths.programFolder = base;
   paths.settings = Join(base, u"orvalis.ini");
   paths.extrasFolder = folder(Settings::ExtrasFolder);
   paths.picturesFolder = folder(Settings::PicturesFolder);

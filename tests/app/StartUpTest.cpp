@@ -84,5 +84,6 @@ TEST(StartUp, TakesFoldersFromTheSettings) {
   EXPECT_EQ(context.paths.picturesFolder, folder.Path(u"Bilder/"));
   EXPECT_EQ(context.paths.extrasFolder, folder.Path(u"EXTRAS/"));
   EXPECT_EQ(context.paths.languageRoot, folder.Path(u"LANG/"));
+  EXPECT_EQ(context.paths.programFolder, folder.Path(u"")) << "folders end with a separator";
   EXPECT_EQ(context.paths.regions[4].picture, folder.Path(u"ancestors.jpg"));
 }

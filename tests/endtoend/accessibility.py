@@ -70,3 +70,55 @@ def nameless(node):
                 look(child, role, path)
     look(node, "", "")
     return faults
+
+
+class Reader:
+    """The program through its tree on the accessibility bus."""
+
+    def __init__(self, program):
+        self.program = program
+        self.application = application(program.process.pid)
+        self.read(self.main)
+
+    @property
+    def main(self):
+        return next(window for window in children(self.application) if window.get_role_name() == "frame")
+
+    def read(self, window):
+        faults = nameless(window)
+        assert not faults, "controls without a name:\n" + "\n".join(faults)
+
+    def windows(self):
+        return [window for window in children(self.application)
+                if window.get_role_name() in ("dialog", "alert") and "showing" in states(window)]
+
+    def opened(self, what):
+        window = wait_for(lambda: next(iter(self.windows()), None), what, 30)
+        assert window.get_name().strip(), what + " has no caption"
+        self.read(window)
+        return window
+
+    def closed(self, what):
+        wait_for(lambda: not self.windows(), "the end of " + what, 30)
+
+    def map(self):
+        view = next(child for child in children(self.main) if child.get_role_name() == "filler")
+        return next(child for child in children(view) if child.get_role_name() == "list")
+
+    def markers(self):
+        return [marker.get_name() for marker in children(self.map())]
+
+    def shows(self, what, condition):
+        wait_for(lambda: condition(self.markers()), what, 30)
+
+    def focus(self):
+        return [node.get_name() for node in focused(self.map())]
+
+    def heading(self):
+        return self.map().get_name()
+
+    def captions(self):
+        """The captions of the menu bar and of all its menus, without their access keys."""
+        bar = find(self.main, "menu bar")[0]
+        return [node.get_name() for node, _ in walk(bar)
+                if "menu" in node.get_role_name() and node.get_name() and node is not bar]

@@ -45,7 +45,7 @@ class Screen:
 class Program:
     """A copy of the program folder, with the program running in it."""
 
-    def __init__(self, folder, language="de_DE.UTF-8", environment=None):
+    def __init__(self, folder, language="de_DE.UTF-8", environment=None, started=True):
         self.home = tempfile.mkdtemp(prefix="orvalis-")
         self.folder = os.path.join(self.home, "program")
         shutil.copytree(folder, self.folder)
@@ -53,7 +53,9 @@ class Program:
         time.sleep(0.5)
         self.environment = {**os.environ, "LANG": language, "LC_ALL": language, "LANGUAGE": "",
                             "HOME": self.home, **(environment or {})}
-        self.start()
+        self.process = None
+        if started:
+            self.start()
 
     def start(self):
         self.process = subprocess.Popen([os.path.join(self.folder, "orvalis")], env=self.environment,
@@ -94,12 +96,12 @@ class Program:
         time.sleep(0.7)
 
     def running(self):
-        return self.process.poll() is None
+        return self.process is not None and self.process.poll() is None
 
     def end(self):
         if self.running():
             self.process.terminate()
-        self.process.wait(10)
+            self.process.wait(10)
         self.manager.terminate()
         self.manager.wait(10)
         shutil.rmtree(self.home)

@@ -3,51 +3,8 @@
 import sys
 
 import accessibility
-from accessibility import children, find, focused, nameless
+from accessibility import Reader, children, find
 from desktop import Program, wait_for
-
-
-class Reader:
-    """The program through its tree on the accessibility bus."""
-
-    def __init__(self, program):
-        self.program = program
-        self.application = accessibility.application(program.process.pid)
-        self.read(self.main)
-
-    @property
-    def main(self):
-        return next(window for window in children(self.application) if window.get_role_name() == "frame")
-
-    def read(self, window):
-        faults = nameless(window)
-        assert not faults, "controls without a name:\n" + "\n".join(faults)
-
-    def windows(self):
-        return [window for window in children(self.application)
-                if window.get_role_name() in ("dialog", "alert") and "showing" in accessibility.states(window)]
-
-    def opened(self, what):
-        window = wait_for(lambda: next(iter(self.windows()), None), what, 30)
-        assert window.get_name().strip(), what + " has no caption"
-        self.read(window)
-        return window
-
-    def closed(self, what):
-        wait_for(lambda: not self.windows(), "the end of " + what, 30)
-
-    def map(self):
-        view = next(child for child in children(self.main) if child.get_role_name() == "filler")
-        return next(child for child in children(view) if child.get_role_name() == "list")
-
-    def markers(self):
-        return [marker.get_name() for marker in children(self.map())]
-
-    def shows(self, what, condition):
-        wait_for(lambda: condition(self.markers()), what, 30)
-
-    def focus(self):
-        return [node.get_name() for node in focused(self.map())]
 
 
 def walk_the_map(program, reader):

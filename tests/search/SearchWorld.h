@@ -16,7 +16,7 @@ class SearchWorld {
     for (size_t i = 0; i < paths.regions.size(); ++i)
       paths.regions[i] = {folder.Path(Text(Stems[i]) + u".data"),
                           folder.Path(Text(Stems[i]) + u".jpg")};
-    paths.programFolder = folder.Folder();
+    paths.programFolder = folder.Path(u"");
     paths.infoData = folder.Path(u"info.data");
     paths.languageRoot = folder.Path(u"LANG/");
     language.CurrentLanguage = LOCAL::German;
