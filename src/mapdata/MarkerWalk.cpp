@@ -1,5 +1,6 @@
 #include "mapdata/MarkerWalk.h"
 
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <tuple>
@@ -37,16 +38,16 @@ namespace MarkerWalk {
 
 std::optional<size_t> Next(std::span<const Point> points, size_t from, Direction direction) {
   const bool forward = direction == Direction::Right || direction == Direction::Down;
-  // Least first: aside of the cone or not, the square of the distance, steps in the order.
-  using Rank = std::tuple<bool, std::int64_t, size_t>;
+  // Least first: aside of the cone or not, the distance, steps in the order.
+  using Rank = std::tuple<bool, double, size_t>;
   std::optional<Rank> best;
   size_t nearest = from;
   for (size_t i = 0; i < points.size(); ++i) {
     const auto [along, beside] = WayTo(points[i], points[from], direction);
     const bool samePoint = along == 0 && beside == 0;
     const bool ahead = samePoint ? i != from && (i > from) == forward : along > 0;
-    const Rank rank = {beside > along, along * along + beside * beside,
-                       i > from ? i - from : from - i};
+    const double distance = std::hypot(static_cast<double>(along), static_cast<double>(beside));
+    const Rank rank = {beside > along, distance, i > from ? i - from : from - i};
     if (!ahead || (best && *best <= rank))
       continue;
     best = rank;
