@@ -44,7 +44,7 @@ def main():
         assert opened()[before:] == ["1:" + target], (keys, opened()[before:])
 
     def settings(lines):
-        with open(os.path.join(program.folder, "orvalis.ini"), "ab") as file:
+        with open(os.path.join(program.folder, "orvalis.ini"), "wb") as file:
             file.write(lines)
 
     try:
@@ -57,7 +57,7 @@ def main():
         gives(["Home", "Return"], page("EXTRAS/cheatlist.html"))
         gives(["Down", "Return"], page("EXTRAS/perklist.html"))
         program.keys("Escape")
-        settings(b"\r\n[urls]\r\nDownload=www.update.example/new\r\nduskholdpatch=-x\r\n"
+        settings(b"[urls]\r\nDownload=www.update.example/new\r\nduskholdpatch=-x\r\n"
                  b"tranlatorsdk=javascript:alert(1)\r\n")
         before = len(opened())
         program.keys("ctrl+g", "ctrl+t")
