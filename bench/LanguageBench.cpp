@@ -1,9 +1,7 @@
 #include "Ratios.h"
 #include "app/MenuTable.h"
 #include "i18n/InterfaceTexts.h"
-#include "mapdata/EntityFile.h"
 #include "platform/Windows1252.h"
-#include "support/GermanNames.h"
 #include "support/StartedLanguage.h"
 #include "support/TemporaryFolder.h"
 
@@ -20,15 +18,14 @@ namespace {
 
 constexpr size_t Keys = 5000;
 constexpr size_t Names = 32765;
-constexpr size_t Markers = 81;
 
 const std::vector<std::string> Trades = {"H\xE4ndler", "Schmied", "J\xE4ger", "Koch",
                                          "Alchemist",  "Druide",  "Wolf",     "Truhe"};
 const std::vector<std::string> Syllables = {"ma", "ra",  "bor", "kel", "in", "tha",
                                             "ul", "gor", "fen", "dis", "ho", "wen"};
 
-// A language of 5,000 names, a region's data with a category of 81 and one of 32,765, as a world
-// would have them: a trade and a person's name.
+// A language of 5,000 names and 32,765 names to translate, as a world would have them: a trade and
+// a person's name.
 class World {
  public:
   World() {
@@ -41,22 +38,13 @@ class World {
       keys.push_back(Windows1252::Decode(name));
     }
     Write("English/English.lng", language);
-    std::string data = "[teachers]\r\n";
     for (size_t i = 0; i < Names; ++i)
       names.push_back(keys[random() % Keys]);
-    for (size_t i = 0; i < Markers; ++i)
-      data.append(*Windows1252::Encode(keys[i * 61]))
-          .append("=512,")
-          .append(std::to_string(i))
-          .append("\r\n");
-    Write("arvenna.data", data);
   }
 
   [[nodiscard]] Text Root() const { return folder_.Path(u""); }
 
   [[nodiscard]] Text File() const { return folder_.Path(u"English/English.lng"); }
-
-  [[nodiscard]] Text Data() const { return folder_.Path(u"arvenna.data"); }
 
   std::vector<Text> keys;
   std::vector<Text> names;
@@ -115,27 +103,6 @@ void TranslateAQuarter(benchmark::State& state) {
   Translate(state, Names / 4);
 }
 
-void ShowMarkers(benchmark::State& state, EntityNames& names, IniOps::Cache& cache) {
-  for (auto _ : state) {
-    Snapshot files(cache);
-    benchmark::DoNotOptimize(
-        EntityFile::ReadMarkers(files, TheWorld().Data(), u"teachers", names, Markers));
-  }
-}
-
-void ShowGermanMarkers(benchmark::State& state) {
-  IniOps::Cache cache;
-  GermanNames names;
-  ShowMarkers(state, names, cache);
-}
-
-void ShowTranslatedMarkers(benchmark::State& state) {
-  IniOps::Cache cache;
-  Snapshot start(cache);
-  StartedLanguage language(start, TheWorld().Root(), u"English");
-  ShowMarkers(state, language, cache);
-}
-
 void ReadLanguageFile(benchmark::State& state) {
   for (auto _ : state)
     benchmark::DoNotOptimize(IniOps::IniRead(TheWorld().File(), u"entities", u"Tempel von", u""));
@@ -158,8 +125,6 @@ constexpr int Rounds = 7;
 BENCHMARK(LookUpInHash)->Repetitions(Rounds);
 BENCHMARK(TranslateAllNames)->Repetitions(Rounds);
 BENCHMARK(TranslateAQuarter)->Repetitions(Rounds);
-BENCHMARK(ShowGermanMarkers)->Repetitions(Rounds);
-BENCHMARK(ShowTranslatedMarkers)->Repetitions(Rounds);
 BENCHMARK(ReadLanguageFile)->Repetitions(Rounds);
 BENCHMARK(SwitchLanguage)->Repetitions(Rounds);
 
@@ -169,7 +134,6 @@ int main(int argc, char** argv) {
   const Ratios::Ratio ratios[] = {
       {"TranslateAllNames", "LookUpInHash", 8},
       {"TranslateAllNames", "TranslateAQuarter", 5},
-      {"ShowTranslatedMarkers", "ShowGermanMarkers", 1.5},
       {"SwitchLanguage", "ReadLanguageFile", 2},
   };
   return Ratios::Run(argc, argv, ratios);

@@ -9,6 +9,7 @@
 #include "platform/QtText.h"
 #include "support/GermanNames.h"
 #include "support/RecordingDesktop.h"
+#include "support/StartedLanguage.h"
 
 #include <benchmark/benchmark.h>
 
@@ -147,6 +148,47 @@ void PaintPlainPicture(benchmark::State& state) {
 }
 
 // A map with all names shown, and the pointer that moves over it.
+// 81 names in another language, from a file of 5,000 names.
+const Text& LanguageRoot() {
+  static const TemporaryFolder folder;
+  static const Text root = [] {
+    std::string file = "[general]\r\nlanguage=English\r\n[entities]\r\n";
+    for (size_t number = 5000; number-- > 0;)
+      file += MapWorld::EntityName(number) + "=Translated " + std::to_string(number) + "\r\n";
+    folder.Write("English/English.lng", file);
+    const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+    std::filesystem::last_write_time(folder.Native("English/English.lng"), old);
+    return folder.Path(u"");
+  }();
+  return root;
+}
+
+void ShowMarkers(benchmark::State& state, EntityNames& names) {
+  IniOps::Cache cache;
+  MapView view(cache, names);
+  view.resize(Screen);
+  view.show();
+  for (auto _ : state) {
+    const double start = ProcessSeconds();
+    view.ChangeMulti(World().Picture(0), World().Data(0), Text(MapWorld::Measured(0).category),
+                     u"Names", false);
+    QApplication::processEvents();
+    state.SetIterationTime(ProcessSeconds() - start);
+  }
+}
+
+void ShowGermanMarkers(benchmark::State& state) {
+  GermanNames names;
+  ShowMarkers(state, names);
+}
+
+void ShowTranslatedMarkers(benchmark::State& state) {
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  StartedLanguage names(files, LanguageRoot(), u"English");
+  ShowMarkers(state, names);
+}
+
 class HoveredMap {
  public:
   HoveredMap() {
@@ -269,6 +311,8 @@ int main(int argc, char** argv) {
   Measure("ResizeWithMarkers", ResizeWithMarkers, 8);
   Measure("ResizePictureAlone", ResizePictureAlone, 8);
   Measure("PaintPlainPicture", PaintPlainPicture, 8);
+  Measure("ShowGermanMarkers", ShowGermanMarkers, 8);
+  Measure("ShowTranslatedMarkers", ShowTranslatedMarkers, 8);
   Measure("FirstMoveOverName", FirstMoveOverName, 1);
   Measure("FurtherMoveOverName", FurtherMoveOverName, MapWorld::Entities);
   const Ratios::Ratio ratios[] = {
@@ -276,6 +320,7 @@ int main(int argc, char** argv) {
       {"ShowKnownRegion", "ShowNewRegion", 0.2},
       {"ResizeWithMarkers", "PaintPlainPicture", 3},
       {"ResizeWithMarkers", "ResizePictureAlone", 3},
+      {"ShowTranslatedMarkers", "ShowGermanMarkers", 1.5},
       {"FirstMoveOverName", "ReadInfoFile", 12},
       {"FurtherMoveOverName", "FirstMoveOverName", 0.01},
   };

@@ -8,6 +8,7 @@ using Texts::Trim;
 namespace {
 
 constexpr TextView Entities = u"entities";
+constexpr std::string_view EntitiesHeader = "entities";
 
 // No name that a person wrote is near it. Words whose translations hold other words could
 // otherwise fill the memory.
@@ -78,8 +79,8 @@ void Language::CacheTranslationTable(IniOps::Snapshot& files) {
     CurrentLanguage = German;
   if (IsGerman())
     return;
-  EntityKeys_ = PrefixIndex(files.IniReadFile(LanguageFile, Entities));
   tableFile_ = files.Shared(LanguageFile);
+  EntityKeys_ = PrefixIndex(tableFile_->KeyNames(EntitiesHeader));
   file_ = nullptr;
 }
 
@@ -121,7 +122,7 @@ void Language::IndexTranslations() {
     // Else a blank translation would match every name.
     translations.push_back(Trim(translation).empty() ? u";" : std::move(translation));
   }
-  EntityTranslations_ = PrefixIndex(std::move(translations));
+  EntityTranslations_ = PrefixIndex(translations);
   tableFile_ = nullptr;
 }
 

@@ -1,5 +1,7 @@
 #include "i18n/PrefixIndex.h"
 
+#include "platform/Windows1252.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -19,15 +21,30 @@ constexpr uint64_t BitOf(size_t length) {
 
 }  // namespace
 
-PrefixIndex::PrefixIndex(std::vector<Text> prefixes)
-    : prefixes_(std::move(prefixes)),
-      slots_(std::bit_ceil(prefixes_.size() * 2 + 2), Slot{0, Free}) {
-  for (uint32_t number = 0; number < prefixes_.size(); ++number)
+PrefixIndex::PrefixIndex(std::span<const Text> prefixes) {
+  ends_.reserve(prefixes.size());
+  for (const Text& prefix : prefixes)
+    ends_.push_back(joined_.append(prefix).size());
+  AddAll();
+}
+
+PrefixIndex::PrefixIndex(std::span<const std::string_view> prefixes) {
+  std::string bytes;
+  ends_.reserve(prefixes.size());
+  for (const std::string_view prefix : prefixes)
+    ends_.push_back(bytes.append(prefix).size());
+  joined_ = Windows1252::Decode(bytes);
+  AddAll();
+}
+
+void PrefixIndex::AddAll() {
+  slots_.assign(std::bit_ceil(size() * 2 + 2), Slot{0, Free});
+  for (uint32_t number = 0; number < size(); ++number)
     Add(number);
 }
 
 void PrefixIndex::Add(uint32_t number) {
-  const Text& prefix = prefixes_[number];
+  const TextView prefix = (*this)[number];
   uint32_t hash = EmptyHash;
   for (const char16_t unit : prefix)
     hash = Extended(hash, unit);
@@ -69,13 +86,12 @@ std::optional<size_t> PrefixIndex::FirstPrefixOf(TextView text) const {
   if (first == Free)
     return std::nullopt;
   // A text that only shares its hash may have hidden the right one.
-  return text.starts_with(prefixes_[first]) ? first : Scan(text);
+  return text.starts_with((*this)[first]) ? first : Scan(text);
 }
 
 std::optional<size_t> PrefixIndex::Scan(TextView text) const {
-  const auto found = std::find_if(prefixes_.begin(), prefixes_.end(),
-                                  [text](const Text& prefix) { return text.starts_with(prefix); });
-  if (found == prefixes_.end())
-    return std::nullopt;
-  return static_cast<size_t>(found - prefixes_.begin());
+  for (size_t number = 0; number < size(); ++number)
+    if (text.starts_with((*this)[number]))
+      return number;
+  return std::nullopt;
 }

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
+#include <string_view>
 #include <vector>
 
 /// A list of texts that finds the first of them with which another text begins, as a scan of the
@@ -12,15 +14,20 @@
 class PrefixIndex {
  public:
   PrefixIndex() = default;
-  explicit PrefixIndex(std::vector<Text> prefixes);
+  explicit PrefixIndex(std::span<const Text> prefixes);
+  /// Of texts in Windows-1252.
+  explicit PrefixIndex(std::span<const std::string_view> prefixes);
 
   /// The number of the first text that is a prefix of `text`; none if there is no such text. The
   /// empty text is a prefix of every other.
   [[nodiscard]] std::optional<size_t> FirstPrefixOf(TextView text) const;
 
-  [[nodiscard]] const Text& operator[](size_t number) const { return prefixes_[number]; }
+  [[nodiscard]] TextView operator[](size_t number) const {
+    const size_t begin = number == 0 ? 0 : ends_[number - 1];
+    return TextView(joined_).substr(begin, ends_[number] - begin);
+  }
 
-  [[nodiscard]] size_t size() const { return prefixes_.size(); }
+  [[nodiscard]] size_t size() const { return ends_.size(); }
 
  private:
   // A slot of an open-addressing table over the texts' hashes.
@@ -29,13 +36,17 @@ class PrefixIndex {
     uint32_t number = 0;
   };
 
+  void AddAll();
   void Add(uint32_t number);
   void AddLength(TextView prefix);
   // Where the first text of that hash stands, or would.
   [[nodiscard]] size_t SlotOf(uint32_t hash) const;
   [[nodiscard]] std::optional<size_t> Scan(TextView text) const;
 
-  std::vector<Text> prefixes_;
+  // All texts one behind the other, and where each ends: thousands of small ones cost more to
+  // allocate than to read.
+  Text joined_;
+  std::vector<size_t> ends_;
   std::vector<Slot> slots_;
   // The lengths of the texts, a bit each, by the low bits of their first unit: most lengths need no
   // look into the table. The last bit stands for every length from its own on.
