@@ -56,6 +56,10 @@ void FillTenThousand(benchmark::State& state) {
   Fill(state, GeneratedWorld({10'000, 5'000, 20, 0}), u"Deutsch");
 }
 
+void FillHundredThousand(benchmark::State& state) {
+  Fill(state, GeneratedWorld({100'000, 50'000, 20, 0}), u"Deutsch");
+}
+
 void FillMillion(benchmark::State& state) {
   Fill(state, GeneratedWorld({1'000'000, 500'000, 20, 0}), u"Deutsch");
 }
@@ -132,6 +136,7 @@ bool MemoryHolds() {
 BENCHMARK(FillGerman)->Repetitions(Rounds);
 BENCHMARK(FillTranslated)->Repetitions(Rounds);
 BENCHMARK(FillTenThousand)->Repetitions(Rounds);
+BENCHMARK(FillHundredThousand)->Repetitions(Rounds);
 BENCHMARK(FillMillion)->Repetitions(3);
 BENCHMARK(FindAgain)->Repetitions(Rounds);
 BENCHMARK(PlainStartsWith)->Repetitions(Rounds);
@@ -141,13 +146,14 @@ BENCHMARK(TranslateNames)->Repetitions(Rounds);
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A hundred times as many records leave the processor's caches, which costs more per record;
-  // growth that is not linear would be in the thousands.
-  constexpr double LinearGrowth = 500;
+  // Ten times as many records leave one of the processor's caches, which costs more for each;
+  // growth that is not linear would be in the hundreds.
+  constexpr double LinearGrowth = 25;
   const Ratios::Ratio ratios[] = {
       {"FillGerman", "FillByKeyFile", 0.5},
       {"FillTranslated", "FillGerman", 2},
-      {"FillMillion", "FillTenThousand", LinearGrowth},
+      {"FillHundredThousand", "FillTenThousand", LinearGrowth},
+      {"FillMillion", "FillHundredThousand", LinearGrowth},
       {"FindAgain", "PlainStartsWith", 2},
       {"FindFirstTranslated", "TranslateNames", 1.5},
   };

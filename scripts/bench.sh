@@ -15,6 +15,6 @@ lines=build/release/bench.txt
 : >"$lines"
 for program in $programs; do
   echo "== $program" >&2
-  "build/release/tests/bin/$program" 2>/dev/null | grep -E ' / .*(\(at most|not measured)' >>"$lines" || true
+  "build/release/tests/bin/$program" --benchmark_color=false 2>/dev/null | grep -E ' / .*(\(at most|not measured)' >>"$lines" || true
 done
 python3 scripts/bench_table.py "$lines" | tee "$table"

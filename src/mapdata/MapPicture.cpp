@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -67,9 +68,10 @@ void MapPicture::Settle() {
 
 // Keeps three bytes of each pixel, where it needs no fourth.
 void MapPicture::PackAllBut(const Picture* picture) {
+  // A conversion in place would keep the larger block.
   for (Picture& other : pictures_)
     if (&other != picture && other.scaled.format() == QImage::Format_RGB32)
-      other.scaled.convertTo(QImage::Format_RGB888);
+      other.scaled = std::as_const(other.scaled).convertToFormat(QImage::Format_RGB888);
 }
 
 const QImage& MapPicture::Pixels() {

@@ -19,6 +19,9 @@ NameLabel::NameLabel(QWidget* parent, double points, int textColor, int groundCo
 }
 
 void NameLabel::SetCaption(const QString& caption) {
+  // A resize sets every name anew.
+  if (text() == caption)
+    return;
   setText(caption);
   adjustSize();
 }

@@ -74,6 +74,14 @@ std::string_view ProfileFile::Lines() const {
   return bytes.substr(bytes.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
 }
 
+uint32_t ProfileFile::Offset(std::string_view part) const {
+  return static_cast<uint32_t>(part.data() - bytes_.data());
+}
+
+std::string_view ProfileFile::Key(const KeyLine& line) const {
+  return std::string_view(bytes_).substr(line.key, line.keyLength);
+}
+
 // Goes from "[" to "[": most lines of a large file are never looked at.
 void ProfileFile::IndexSections() {
   const std::string_view lines = Lines();
@@ -108,13 +116,15 @@ void ProfileFile::IndexKeys(const Section& section) const {
       continue;
     const auto equals = line.find('=');
     const bool hasValue = equals != std::string_view::npos;
-    const std::string_view value = hasValue ? line.substr(equals + 1) : line.substr(line.size());
-    section.lines.push_back(
-        {Strip(line.substr(0, equals), Blanks), Strip(value, Blanks), hasValue});
+    const std::string_view key = Strip(line.substr(0, equals), Blanks);
+    const std::string_view value = Strip(line.substr(hasValue ? equals + 1 : line.size()), Blanks);
+    section.lines.push_back({Offset(key), static_cast<uint32_t>(key.size()), Offset(value),
+                             hasValue ? static_cast<uint32_t>(value.size()) : NoValue});
   }
+  section.lines.shrink_to_fit();
   BuildSlots(
-      section.slots, section.lines.size(), [&section](uint32_t i) { return section.lines[i].key; },
-      SameAscii);
+      section.slots, section.lines.size(),
+      [this, &section](uint32_t i) { return Key(section.lines[i]); }, SameAscii);
 }
 
 const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
@@ -134,16 +144,16 @@ const ProfileFile::KeyLine* ProfileFile::FindKey(std::string_view section,
   if (!in->indexed)
     IndexKeys(*in);
   const auto found =
-      Find(in->slots, Strip(key, " "), [in](uint32_t i) { return in->lines[i].key; });
+      Find(in->slots, Strip(key, " "), [this, in](uint32_t i) { return Key(in->lines[i]); });
   return found ? &in->lines[*found] : nullptr;
 }
 
 std::optional<std::string_view> ProfileFile::Value(std::string_view section,
                                                    std::string_view key) const {
   const KeyLine* line = FindKey(section, key);
-  if (!line || !line->hasValue)
+  if (!line || line->valueLength == NoValue)
     return std::nullopt;
-  return Unquoted(line->value);
+  return Unquoted(std::string_view(bytes_).substr(line->value, line->valueLength));
 }
 
 std::vector<std::string_view> ProfileFile::SectionNames() const {
@@ -191,7 +201,6 @@ std::string_view ProfileFile::LineEnd() const {
 
 std::string ProfileFile::WithValue(std::string_view section, std::string_view key,
                                    std::string_view value) const {
-  const auto offset = [this](const char* at) { return static_cast<size_t>(at - bytes_.data()); };
   const std::string end(LineEnd());
   // Blanks around them would not be read, but the next write would leave some of them.
   key = Strip(key, " ");
@@ -199,10 +208,10 @@ std::string ProfileFile::WithValue(std::string_view section, std::string_view ke
   const std::string entry = std::string(key) + '=' + std::string(value);
   std::string changed = bytes_;
   if (const KeyLine* line = FindKey(section, key)) {
-    const size_t from = offset(line->key.data());
-    const size_t to =
-        line->hasValue ? offset(line->value.data()) + line->value.size() : from + line->key.size();
-    return changed.replace(from, to - from, std::string(line->key) + '=' + std::string(value));
+    const size_t to = line->valueLength == NoValue ? size_t{line->key} + line->keyLength
+                                                   : size_t{line->value} + line->valueLength;
+    return changed.replace(line->key, to - line->key,
+                           std::string(Key(*line)) + '=' + std::string(value));
   }
   const auto newLine = [&](size_t at) {
     const bool cut = at > 0 && bytes_[at - 1] != '\n' && bytes_[at - 1] != '\r';
@@ -214,10 +223,10 @@ std::string ProfileFile::WithValue(std::string_view section, std::string_view ke
     return changed.append(cut ? end : "") + '[' + std::string(Strip(section, " ")) + ']' + end +
            entry + end;
   }
-  size_t after = offset(in->body.data());
+  size_t after = Offset(in->body);
   std::string_view rest = in->body;
   while (!rest.empty())
     if (!Strip(TakeLine(rest), Blanks).empty())
-      after = offset(rest.data());
+      after = Offset(rest);
   return changed.insert(after, newLine(after));
 }

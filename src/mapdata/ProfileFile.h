@@ -36,11 +36,16 @@ class ProfileFile {
                                       std::string_view value) const;
 
  private:
+  // Where key and value stand in the file: half the memory that views take.
   struct KeyLine {
-    std::string_view key;
-    std::string_view value;
-    bool hasValue = false;
+    uint32_t key;
+    uint32_t keyLength;
+    uint32_t value;
+    // `NoValue` for a line without "=".
+    uint32_t valueLength;
   };
+
+  static constexpr uint32_t NoValue = 0xFFFFFFFF;
 
   // A slot of an open-addressing table of names that ignores letter case.
   struct Slot {
@@ -62,6 +67,8 @@ class ProfileFile {
   };
 
   [[nodiscard]] std::string_view Lines() const;
+  [[nodiscard]] uint32_t Offset(std::string_view part) const;
+  [[nodiscard]] std::string_view Key(const KeyLine& line) const;
   void IndexSections();
   void IndexKeys(const Section& section) const;
   [[nodiscard]] const Section* FindSection(std::string_view name) const;
