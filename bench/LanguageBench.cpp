@@ -99,7 +99,7 @@ void TranslateAllNames(benchmark::State& state) {
   Translate(state, Names);
 }
 
-void TranslateAQuarter(benchmark::State& state) {
+void TranslateQuarter(benchmark::State& state) {
   Translate(state, Names / 4);
 }
 
@@ -124,7 +124,7 @@ constexpr int Rounds = 7;
 
 BENCHMARK(LookUpInHash)->Repetitions(Rounds);
 BENCHMARK(TranslateAllNames)->Repetitions(Rounds);
-BENCHMARK(TranslateAQuarter)->Repetitions(Rounds);
+BENCHMARK(TranslateQuarter)->Repetitions(Rounds);
 BENCHMARK(ReadLanguageFile)->Repetitions(Rounds);
 BENCHMARK(SwitchLanguage)->Repetitions(Rounds);
 
@@ -133,7 +133,7 @@ BENCHMARK(SwitchLanguage)->Repetitions(Rounds);
 int main(int argc, char** argv) {
   const Ratios::Ratio ratios[] = {
       {"TranslateAllNames", "LookUpInHash", 8},
-      {"TranslateAllNames", "TranslateAQuarter", 5},
+      {"TranslateAllNames", "TranslateQuarter", 5},
       {"SwitchLanguage", "ReadLanguageFile", 2},
   };
   return Ratios::Run(argc, argv, ratios);

@@ -12,6 +12,8 @@ namespace {
 // programs on the machine hardly count.
 class Reporter : public benchmark::ConsoleReporter {
  public:
+  Reporter() : ConsoleReporter(OO_Tabular) {}
+
   void ReportRuns(const std::vector<Run>& runs) override {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {

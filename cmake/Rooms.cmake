@@ -62,15 +62,20 @@ function(orvalis_test name)
 endfunction()
 
 # orvalis_window_test(NAME SOURCES file... ROOMS room...): a test of windows, run offscreen on
-# screens of 96 and of 120 dots per inch.
+# screens of 96 and of 120 dots per inch, and on one of 96 that the desktop enlarges by half.
 function(orvalis_window_test name)
   orvalis_test_program(${name} ${ARGN})
   target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/QtMain.cpp)
   target_link_libraries(${name} PRIVATE Qt6::Test)
-  foreach(dpi 96 120)
-    add_test(NAME ${name}_${dpi} COMMAND ${name})
-    set(screen ${PROJECT_SOURCE_DIR}/tests/support/screen-${dpi}.json)
-    set_tests_properties(${name}_${dpi} PROPERTIES TIMEOUT 120
-      ENVIRONMENT "${ORVALIS_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen:configfile=${screen}")
+  foreach(screen 96 120 96_enlarged)
+    string(REGEX MATCH "^[0-9]+" dpi ${screen})
+    set(scaling QT_ENABLE_HIGHDPI_SCALING=0)
+    if(screen MATCHES enlarged)
+      set(scaling QT_SCALE_FACTOR=1.5)
+    endif()
+    set(file ${PROJECT_SOURCE_DIR}/tests/support/screen-${dpi}.json)
+    add_test(NAME ${name}_${screen} COMMAND ${name})
+    set_tests_properties(${name}_${screen} PROPERTIES TIMEOUT 120
+      ENVIRONMENT "${ORVALIS_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen:configfile=${file};${scaling}")
   endforeach()
 endfunction()

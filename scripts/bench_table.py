@@ -8,7 +8,8 @@ LINE = re.compile(r"(?P<of>.+?) / (?P<by>.+?)(?: = (?P<ratio>\S+) \(at most (?P<
 
 
 def spoken(name):
-    return re.sub(r"(?<=[a-z0-9])(?=[A-Z])", " ", name).lower()
+    """ "FillHundredThousand" as words."""
+    return re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[a-z])(?=[0-9])", " ", name).lower()
 
 
 def main():
@@ -26,7 +27,7 @@ def main():
             ratio, limit = float(match["ratio"]), float(match["limit"])
             held = ratio <= limit
             over = over or not held
-            print(names + f"| {ratio:.3g} | {limit:.3g} | {'met' if held else 'OVER'} |")
+            print(names + f"| {ratio:.3g} | {limit:g} | {'met' if held else 'OVER'} |")
     return 1 if over else 0
 
 

@@ -1,11 +1,13 @@
 #include "app/Context.h"
 #include "app/Program.h"
+#include "controls/FocusStyle.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/QtDesktop.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QStyle>
 #include <QTimer>
 
 namespace {
@@ -26,6 +28,7 @@ int main(int, char** argv) {
   // A desktop's global menu loses top-level commands and the dividers between the regions.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QApplication application(onlyName, argv);
+  QApplication::setStyle(new FocusStyle(QApplication::style()->name()));
   QApplication::setWindowIcon(ProgramIcon());
   QtDesktop desktop;
   Context context(NativePath::FromBytes(PosixFile::ExecutableFolder()), desktop);
