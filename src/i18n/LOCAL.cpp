@@ -15,6 +15,8 @@ constexpr std::string_view EntitiesHeader = "entities";
 constexpr size_t LongestName = 4 * IniOps::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
+  if (by.size() <= part.size())
+    return true;
   size_t length = text.size();
   for (size_t at = text.find(part); at != TextView::npos && length <= LongestName;
        at = text.find(part, at + part.size()))

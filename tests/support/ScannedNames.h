@@ -3,6 +3,7 @@
 #include "mapdata/IniOps.h"
 #include "platform/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -23,24 +24,24 @@ class ScannedNames {
     Text shown(Texts::Trim(name));
     for (size_t i = 0; i < Words.size(); ++i) {
       words_[i] = files.IniRead(file_, u"entities", Words[i], Words[i]);
-      shown = Texts::ReplaceAll(shown, Words[i], words_[i]);
+      shown = Replaced(shown, Words[i], words_[i]);
     }
     for (const Text& key : keys_)
       if (shown.starts_with(key))
-        return UnlessBlank(
-            Texts::ReplaceAll(shown, key, files.IniRead(file_, u"entities", key, u"")), shown);
+        return UnlessBlank(Replaced(shown, key, files.IniRead(file_, u"entities", key, u"")),
+                           shown);
     return shown;
   }
 
   [[nodiscard]] Text UnlocalizeEntityName(TextView text) {
     Text name(Texts::Trim(text));
     for (size_t i = 0; i < Words.size(); ++i)
-      name = Texts::ReplaceAll(name, words_[i], Words[i]);
+      name = Replaced(name, words_[i], Words[i]);
     for (size_t i = 0; i < keys_.size(); ++i) {
       if (Texts::Trim(translations_[i]).empty())
         translations_[i].assign(1, u';');
       if (name.starts_with(translations_[i]))
-        return UnlessBlank(Texts::ReplaceAll(name, translations_[i], keys_[i]), name);
+        return UnlessBlank(Replaced(name, translations_[i], keys_[i]), name);
     }
     return name;
   }
@@ -48,6 +49,13 @@ class ScannedNames {
  private:
   static constexpr std::array<TextView, 5> Words = {u"Arvenna", u"Skaldor", u"Sarrakh", u"Ostrakh",
                                                     u"Tempel von"};
+
+  // Nothing is replaced that would make a text longer than four values.
+  [[nodiscard]] static Text Replaced(const Text& text, TextView part, TextView by) {
+    Text replaced = Texts::ReplaceAll(text, part, by);
+    const bool fits = replaced.size() <= std::max(text.size(), 4 * IniOps::LongestValue);
+    return fits ? replaced : text;
+  }
 
   [[nodiscard]] static Text UnlessBlank(const Text& replaced, const Text& otherwise) {
     return Texts::Trim(replaced).empty() ? otherwise : replaced;
