@@ -11,6 +11,8 @@ GOLD = (255, 215, 0)
 MARKER_OFFSET = 65
 MARKER_SIZE = 160
 TWIPS_PER_PIXEL = 15
+# Of the map, in pixels, when the program starts.
+START_HEIGHT = 769
 
 
 def xdotool(*args):

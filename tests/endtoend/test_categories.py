@@ -2,9 +2,7 @@
 
 import sys
 
-from desktop import Program, missing_markers
-
-START_HEIGHT = 769
+from desktop import START_HEIGHT, Program, missing_markers
 
 CATEGORIES = [
     ("arvenna.data", "friendsX", ["alt+a", "Right", "f"]),
