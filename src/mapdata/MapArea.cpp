@@ -1,5 +1,6 @@
 #include "mapdata/MapArea.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
