@@ -110,9 +110,12 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
       marker.clearFocus();
       break;
     case QEvent::FocusIn:
-      Rest(marker);
+      TakeFocus(marker, static_cast<const QFocusEvent&>(*event).reason());
       break;
     case QEvent::FocusOut:
+      left_ = static_cast<const QFocusEvent&>(*event).reason() == Qt::ActiveWindowFocusReason
+                  ? &marker
+                  : nullptr;
       Leave();
       break;
     case QEvent::Move:
@@ -124,6 +127,15 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
       break;
   }
   return false;
+}
+
+// A window that becomes active without a focus gives it to its first Tab stop; on the map that
+// would show a name that nobody asked for.
+void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
+  if (reason == Qt::ActiveWindowFocusReason && left_ != &marker)
+    marker.clearFocus();
+  else
+    Rest(marker);
 }
 
 void MapFocus::Rest(ctlLocation& marker) {

@@ -53,6 +53,7 @@ class MapFocus : public QObject {
   };
 
   void MakeTabStop(ctlLocation* marker);
+  void TakeFocus(ctlLocation& marker, Qt::FocusReason reason);
   void Rest(ctlLocation& marker);
   void Leave();
   void ShowRing();
@@ -63,6 +64,8 @@ class MapFocus : public QObject {
   FocusRing* ring_;
   std::vector<Spot> spots_;
   ctlLocation* tabStop_ = nullptr;
+  // The marker that had the focus when another window became active.
+  const ctlLocation* left_ = nullptr;
   QBasicTimer untilTip_;
   bool ringLeftOut_ = false;
 };

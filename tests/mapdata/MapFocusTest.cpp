@@ -92,6 +92,32 @@ TEST_F(MapFocusTest, DoesWhatRestingThePointerDoes) {
   EXPECT_TRUE(IsShown("lblDOT(2)"));
 }
 
+TEST_F(MapFocusTest, ComingBackToTheWindowTakesNoMarkerThatHadNoFocus) {
+  QWidget other;
+  other.show();
+  const auto comeBack = [&] {
+    QApplication::setActiveWindow(&other);
+    QApplication::setActiveWindow(&view);
+  };
+  Multi(true);
+  comeBack();
+  EXPECT_EQ(Focus(), "nothing");
+  EXPECT_FALSE(IsShown("lblDOT(0)"));
+  EXPECT_FALSE(Ring().isVisible());
+  EnterMap();
+  Press(Qt::Key_Right);
+  comeBack();
+  EXPECT_EQ(Focus(), "DOT(2)") << "as it was left";
+  EXPECT_TRUE(Ring().isVisible());
+  Press(Qt::Key_Escape);
+  comeBack();
+  EXPECT_EQ(Focus(), "nothing");
+  view.Change(map, data, u"t");
+  Multi();
+  comeBack();
+  EXPECT_FALSE(Ring().isVisible()) << "the list had the focus and is hidden";
+}
+
 TEST_F(MapFocusTest, EnterOpensTheInformation) {
   QSignalSpy asked(&view, &MapView::InfoRequested);
   Multi();
