@@ -31,6 +31,22 @@ void GridListView::keyboardSearch(const QString& search) {
 void GridListView::keyPressEvent(QKeyEvent* event) {
   const QTreeWidgetItem* before = currentItem();
   QTreeWidget::keyPressEvent(event);
+  TellIfMoved(before);
+}
+
+void GridListView::mousePressEvent(QMouseEvent* event) {
+  QTreeWidget::mousePressEvent(event);
+  if (auto* item = itemAt(event->pos()))
+    rowReached_(indexOfTopLevelItem(item));
+}
+
+void GridListView::mouseMoveEvent(QMouseEvent* event) {
+  const QTreeWidgetItem* before = currentItem();
+  QTreeWidget::mouseMoveEvent(event);
+  TellIfMoved(before);
+}
+
+void GridListView::TellIfMoved(const QTreeWidgetItem* before) {
   if (currentItem() && currentItem() != before)
     rowReached_(indexOfTopLevelItem(currentItem()));
 }

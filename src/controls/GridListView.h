@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// The item view inside a `GridListbox`: tells of rows that are reached with the keyboard, and
+/// The item view inside a `GridListbox`: tells of rows that the user reaches, and
 /// finds typed letters in rows that begin with a blank.
 class GridListView : public QTreeWidget {
   Q_OBJECT
@@ -21,8 +21,12 @@ class GridListView : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  void TellIfMoved(const QTreeWidgetItem* before);
+
   std::function<void(int)> rowReached_;
   QString typed_;
   QElapsedTimer sinceTyped_;

@@ -1,10 +1,11 @@
 #include "controls/GridListbox.h"
 
+#include "controls/EventCodes.h"
+#include "controls/GermanOrder.h"
 #include "controls/GridListView.h"
 #include "controls/WidgetTwips.h"
 #include "platform/QtText.h"
 
-#include <QCollator>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -41,20 +42,9 @@ QColor ColorOf(uint32_t number) {
   }
 }
 
-bool StandsBefore(const QString& a, const QString& b) {
-  QCollator german(QLocale::German);
-  german.setCaseSensitivity(Qt::CaseInsensitive);
-  return german.compare(a, b) < 0;
-}
-
 bool BeginsWithWords(const QString& text, const QString& words) {
   return text.startsWith(words, Qt::CaseInsensitive) &&
          (text.size() == words.size() || !text.at(words.size()).isLetterOrNumber());
-}
-
-int ShiftOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers & Qt::ShiftModifier ? 1 : 0) | (modifiers & Qt::ControlModifier ? 2 : 0) |
-         (modifiers & Qt::AltModifier ? 4 : 0);
 }
 
 }  // namespace
@@ -78,12 +68,7 @@ GridListbox::GridListbox(QWidget* parent)
 void GridListbox::ConnectList() {
   lvListView->installEventFilter(this);
   lvListView->viewport()->installEventFilter(this);
-  connect(lvListView, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-    Q_EMIT RowClick(lvListView->indexOfTopLevelItem(item) + 1);
-    Q_EMIT Click();
-  });
-  // Not itemActivated: that one also comes for Enter, which presses the default button.
-  connect(lvListView, &QTreeWidget::itemDoubleClicked, this, &GridListbox::DblClick);
+  lvListView->viewport()->setMouseTracking(true);
 }
 
 void GridListbox::AddItem(TextView sText, const QPixmap& spPicture, TextView Tag) {
@@ -94,9 +79,10 @@ void GridListbox::AddItem(TextView sText, const QPixmap& spPicture, TextView Tag
     item->setIcon(0, spPicture);
     item->setData(0, SmallIconRole, static_cast<int>(ImageList.size()));
   }
+  const QCollator standsBefore = GermanOrder();
   int at = 0;
   while (at < ListCount() &&
-         !(sorted_ && StandsBefore(item->text(0), lvListView->topLevelItem(at)->text(0))))
+         !(sorted_ && standsBefore(item->text(0), lvListView->topLevelItem(at)->text(0))))
     ++at;
   lvListView->insertTopLevelItem(at, item);
 }
@@ -113,9 +99,9 @@ void GridListbox::Refresh() {
   lvListView->viewport()->update();
 }
 
-QPixmap GridListbox::GetImage(int iIndex) const {
+QPixmap GridListbox::GetImage(std::span<const QPixmap> ilPictures, int iIndex) {
   const auto position = static_cast<size_t>(iIndex);
-  return iIndex > 0 && position <= ImageList.size() ? ImageList[position - 1] : QPixmap();
+  return iIndex > 0 && position <= ilPictures.size() ? ilPictures[position - 1] : QPixmap();
 }
 
 std::optional<GridListbox::Row> GridListbox::Rows(int Index) const {
@@ -164,9 +150,10 @@ void GridListbox::SetSorted(bool sorted) {
     return;
   QTreeWidgetItem* current = lvListView->currentItem();
   auto items = lvListView->invisibleRootItem()->takeChildren();
-  std::stable_sort(items.begin(), items.end(), [](const auto* a, const auto* b) {
-    return StandsBefore(a->text(0), b->text(0));
-  });
+  std::stable_sort(items.begin(), items.end(),
+                   [standsBefore = GermanOrder()](const auto* a, const auto* b) {
+                     return standsBefore(a->text(0), b->text(0));
+                   });
   lvListView->addTopLevelItems(items);
   lvListView->setCurrentItem(current);
 }
@@ -197,8 +184,10 @@ void GridListbox::SetCaption(TextView caption) {
 
 void GridListbox::ShowCaption() {
   lvListView->setHeaderLabel(ToQt(caption_));
-  lvListView->setAccessibleName(ToQt(caption_));
-  setAccessibleName(ToQt(caption_));
+  // A header that nobody sees is in no language: then the list is what its window is about.
+  const QString name = NoHeader() ? window()->windowTitle() : ToQt(caption_);
+  lvListView->setAccessibleName(name);
+  setAccessibleName(name);
 }
 
 void GridListbox::SetForeColor(uint32_t color) {
@@ -224,6 +213,7 @@ bool GridListbox::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
       return watched == lvListView && HandleKey(static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
       if (watched == lvListView->viewport())
@@ -237,10 +227,10 @@ bool GridListbox::eventFilter(QObject* watched, QEvent* event) {
 bool GridListbox::HandleKey(QKeyEvent& event) {
   int keyCode = event.key();
   if (event.type() == QEvent::KeyRelease) {
-    Q_EMIT KeyUp(keyCode, ShiftOf(event.modifiers()));
+    Q_EMIT KeyUp(keyCode, EventCodes::Shift(event));
     return keyCode == 0;
   }
-  Q_EMIT KeyDown(keyCode, ShiftOf(event.modifiers()));
+  Q_EMIT KeyDown(keyCode, EventCodes::Shift(event));
   const int typed = event.text().isEmpty() ? 0 : event.text().front().unicode();
   int keyAscii = typed;
   if (typed != 0 && keyCode != 0)
@@ -253,17 +243,28 @@ bool GridListbox::HandleKey(QKeyEvent& event) {
 }
 
 void GridListbox::HandleMouse(const QMouseEvent& event) {
-  const int button = event.type() == QEvent::MouseMove ? static_cast<int>(event.buttons())
-                                                       : static_cast<int>(event.button());
-  const int shift = ShiftOf(event.modifiers());
+  const int button = EventCodes::Button(event);
+  const int shift = EventCodes::Shift(event);
   const auto x = static_cast<float>(event.position().x());
   const auto y = static_cast<float>(event.position().y());
-  if (event.type() == QEvent::MouseButtonPress)
-    Q_EMIT MouseDown(button, shift, x, y);
-  else if (event.type() == QEvent::MouseMove)
-    Q_EMIT MouseMove(button, shift, x, y);
-  else
-    Q_EMIT MouseUp(button, shift, x, y);
+  const bool left = event.button() == Qt::LeftButton;
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+      Q_EMIT MouseDown(button, shift, x, y);
+      break;
+    case QEvent::MouseMove:
+      Q_EMIT MouseMove(button, shift, x, y);
+      break;
+    case QEvent::MouseButtonDblClick:
+      if (left)
+        Q_EMIT DblClick();
+      break;
+    default:
+      Q_EMIT MouseUp(button, shift, x, y);
+      if (left)
+        Q_EMIT Click();
+      break;
+  }
 }
 
 void GridListbox::resizeEvent(QResizeEvent* event) {

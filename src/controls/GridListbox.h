@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 class GridListView;
@@ -44,8 +45,14 @@ class GridListbox : public QWidget {
   /// Paints the list again.
   void Refresh();
 
-  /// The picture at this position, from 1; a null one if there is none.
-  [[nodiscard]] QPixmap GetImage(int iIndex) const;
+  /// All pictures that were ever added.
+  [[nodiscard]] std::span<const QPixmap> Pictures() const { return ImageList; }
+
+  /// The picture at this position of a list of them, from 1; a null one if there is none.
+  [[nodiscard]] static QPixmap GetImage(std::span<const QPixmap> ilPictures, int iIndex);
+
+  /// There is nothing to tell about the control.
+  void About() const {}
 
   /// The row; none if there is no such row.
   [[nodiscard]] std::optional<Row> Rows(int Index) const;
@@ -83,7 +90,7 @@ class GridListbox : public QWidget {
 
   [[nodiscard]] const ::Text& Caption() const { return caption_; }
 
-  /// The header's text, and the list's name for a screen reader.
+  /// The header's text, and the list's name for a screen reader while the header is shown.
   void SetCaption(TextView caption);
 
   [[nodiscard]] uint32_t ForeColor() const { return foreColor_; }
@@ -95,7 +102,7 @@ class GridListbox : public QWidget {
   void SetBackColor(uint32_t color);
 
  Q_SIGNALS:
-  /// A row was clicked, or reached with the keyboard.
+  /// A row was pressed with any button, or reached by dragging or with the keyboard.
   void RowClick(int Index);
   /// A key, as Qt::Key, with 1 for Shift, 2 for Ctrl, 4 for Alt. The list receives the key that
   /// the host leaves in `KeyCode`, nothing for 0.
@@ -107,6 +114,7 @@ class GridListbox : public QWidget {
   void MouseDown(int Button, int Shift, float X, float Y);
   void MouseMove(int Button, int Shift, float X, float Y);
   void MouseUp(int Button, int Shift, float X, float Y);
+  /// The left button clicked the list, whether on a row or not.
   void DblClick();
   void Click();
 

@@ -62,9 +62,9 @@ TEST(GridListbox, PicturesCountOnAcrossClear) {
   EXPECT_EQ(list.ListCount(), 0);
   list.AddItem(u"d", Picture());
   EXPECT_EQ(list.Rows(1)->SmallIcon, 2);
-  EXPECT_FALSE(list.GetImage(2).isNull());
-  EXPECT_TRUE(list.GetImage(0).isNull());
-  EXPECT_TRUE(list.GetImage(3).isNull());
+  EXPECT_FALSE(GridListbox::GetImage(list.Pictures(), 2).isNull());
+  EXPECT_TRUE(GridListbox::GetImage(list.Pictures(), 0).isNull());
+  EXPECT_TRUE(GridListbox::GetImage(list.Pictures(), 3).isNull());
 }
 
 TEST(GridListbox, NumbersThatNameNoRowArePassedOver) {
@@ -129,7 +129,7 @@ TEST(GridListbox, GreysAndRestoresTheColoursOfTheLastShowing) {
   EXPECT_EQ(View(list).palette().color(QPalette::Text), QColor(Qt::red));
 }
 
-TEST(GridListbox, TellsOfRowsClickedAndReachedWithTheKeyboard) {
+TEST(GridListbox, WhateverSelectsARowTellsOfIt) {
   GridListbox list;
   Fill(list);
   list.resize(300, 300);
@@ -142,12 +142,43 @@ TEST(GridListbox, TellsOfRowsClickedAndReachedWithTheKeyboard) {
   QTest::keyClick(&View(list), Qt::Key_Down);
   ASSERT_EQ(rowClicks.count(), 1);
   EXPECT_EQ(rowClicks.last().front().toInt(), 2);
-  const QPoint third = View(list).visualItemRect(View(list).topLevelItem(2)).center();
-  QTest::mouseClick(View(list).viewport(), Qt::LeftButton, {}, third);
+  const auto middleOf = [&](int row) {
+    return View(list).visualItemRect(View(list).topLevelItem(row - 1)).center();
+  };
+  QWidget* const rows = View(list).viewport();
+  QTest::mouseClick(rows, Qt::LeftButton, {}, middleOf(3));
   EXPECT_EQ(rowClicks.last().front().toInt(), 3);
   EXPECT_EQ(clicks.count(), 1);
-  QTest::mouseDClick(View(list).viewport(), Qt::LeftButton, {}, third);
+  QTest::mouseDClick(rows, Qt::LeftButton, {}, middleOf(3));
   EXPECT_EQ(doubleClicks.count(), 1);
+  QTest::mouseClick(rows, Qt::RightButton, {}, middleOf(1));
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(rowClicks.last().front().toInt(), 1);
+  QTest::mousePress(rows, Qt::LeftButton, {}, middleOf(2));
+  QMouseEvent drag(QEvent::MouseMove, middleOf(3), rows->mapToGlobal(middleOf(3)), Qt::NoButton,
+                   Qt::LeftButton, {});
+  QApplication::sendEvent(rows, &drag);
+  QTest::mouseRelease(rows, Qt::LeftButton, {}, middleOf(3));
+  EXPECT_EQ(rowClicks.last().front().toInt(), list.ListIndex()) << "what is told is what is chosen";
+}
+
+TEST(GridListbox, TellsOfThePointerWhereNoRowIs) {
+  GridListbox list;
+  Fill(list);
+  list.resize(300, 300);
+  list.show();
+  QSignalSpy rowClicks(&list, &GridListbox::RowClick);
+  QSignalSpy clicks(&list, &GridListbox::Click);
+  QSignalSpy doubleClicks(&list, &GridListbox::DblClick);
+  QSignalSpy moves(&list, &GridListbox::MouseMove);
+  const QPoint below(100, 250);
+  QTest::mouseClick(View(list).viewport(), Qt::LeftButton, {}, below);
+  QTest::mouseDClick(View(list).viewport(), Qt::LeftButton, {}, below);
+  EXPECT_EQ(rowClicks.count(), 0);
+  EXPECT_GE(clicks.count(), 1);
+  EXPECT_EQ(doubleClicks.count(), 1);
+  QTest::mouseMove(View(list).viewport(), below + QPoint(5, 5));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return moves.count() > 0; })) << "without a button held";
 }
 
 TEST(GridListbox, TypedLettersFindRowsThatBeginWithABlank) {
