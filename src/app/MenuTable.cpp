@@ -54,6 +54,12 @@ constexpr MenuRow Disabled(MenuRow row) {
   return row;
 }
 
+// For the one category that fills the hidden list too.
+constexpr MenuRow ListFirst(MenuRow row) {
+  row.listFirst = true;
+  return row;
+}
+
 // For the few captions whose key in the language files is not the control's name.
 constexpr MenuRow Keyed(TextView key, MenuRow row) {
   row.caption.key = key;
@@ -70,11 +76,11 @@ constexpr auto File = std::to_array<MenuRow>({
     Disabled(Command(1, u"miPrint", Action::Print, u"&Drucken...", u"Print", u"Ctrl+P")),
     Divided(Command(1, u"mnuLanguage", Action::Language, u"&Sprache wählen...", u"Choose language",
                     u"Ctrl+L")),
-    Divided(Command(1, u"miUpdateOrvalis", Action::UpdateOrvalis, u"&Orvalis aktualisieren",
+    Divided(Command(1, u"miUpdateOrvalis", Action::WebSite, u"&Orvalis aktualisieren",
                     u"Update &Orvalis  ", u"Ctrl+U")),
-    Command(1, u"miDownloadTranslatorSDK", Action::DownloadTranslatorSDK,
-            u"&Übersetzer-SDK herunterladen", u"Download Translator SDK", u"Ctrl+T"),
-    Command(1, u"miUpdate", Action::Update, u"Duskhold &Patch runterladen",
+    Command(1, u"miDownloadTranslatorSDK", Action::WebSite, u"&Übersetzer-SDK herunterladen",
+            u"Download Translator SDK", u"Ctrl+T"),
+    Command(1, u"miUpdate", Action::WebSite, u"Duskhold &Patch runterladen",
             u"&Download Duskhold patch", u"Ctrl+G"),
     Divided(Command(1, u"miQuit", Action::Quit, u"&Beenden", u"&Quit", u"Ctrl+W")),
 });
@@ -146,7 +152,7 @@ constexpr auto Skaldor = std::to_array<MenuRow>({
     Menu(1, u"mnuSkaldorPersons", u"&Personen", u"Persons"),
     List(2, u"miSkaldorNPCs", u"NPC", u"&NPCs", u"NPCs"),
     Hover(2, u"miSkaldorQuestNPCs", u"quest npcs", u"&Questgeber", u"Quest NPCs"),
-    Hover(2, u"miSkaldorTeachers", u"teachers", u"&Lehrer", u"Teachers"),
+    ListFirst(Hover(2, u"miSkaldorTeachers", u"teachers", u"&Lehrer", u"Teachers")),
     Labels(2, u"miSkaldorMerchants", u"merchants", u"&Händler", u"Merchants"),
     Labels(2, u"miSkaldorFriendsX", u"friendsX", u"&Freunde und alte Bekannte",
            u"Friends and aquaintance"),
@@ -290,15 +296,14 @@ constexpr auto FindExtrasHelp = std::to_array<MenuRow>({
     Menu(0, u"mnuHelp", u"&?", u"?"),
     Command(1, u"miHelp", Action::Help, u"&Hilfe", u"Help", u"F1"),
     Command(1, u"miReadMe", Action::ReadMe, u"&Read Me", u"Read me", u"Ctrl+R"),
-    Divided(Command(1, u"miDuskholdHomeSite", Action::DuskholdHomeSite, u"Duskhold &HomeSite",
+    Divided(Command(1, u"miDuskholdHomeSite", Action::WebSite, u"Duskhold &HomeSite",
                     u"Duskhold Website")),
-    Command(1, u"miPublisherForum", Action::PublisherForum, u"Forum des &Verlags",
-            u"Forum des &Verlags"),
+    Command(1, u"miPublisherForum", Action::WebSite, u"Forum des &Verlags", u"Forum des &Verlags"),
     Menu(1, u"mnuOtherWebsites", u"Andere &Websites", u"Other websites"),
-    Command(2, u"miFanSiteA", Action::FanSiteA, u"Das Duskhold-&Archiv", u"Das Duskhold-&Archiv"),
-    Command(2, u"miFanSiteB", Action::FanSiteB, u"Am &Lagerfeuer", u"Am &Lagerfeuer"),
-    Command(2, u"miFanSiteC", Action::FanSiteC, u"Die &Kartenstube", u"Die &Kartenstube"),
-    Command(2, u"miFanSiteD", Action::FanSiteD, u"&Wanderers Rast", u"&Wanderers Rast"),
+    Command(2, u"miFanSiteA", Action::WebSite, u"Das Duskhold-&Archiv", u"Das Duskhold-&Archiv"),
+    Command(2, u"miFanSiteB", Action::WebSite, u"Am &Lagerfeuer", u"Am &Lagerfeuer"),
+    Command(2, u"miFanSiteC", Action::WebSite, u"Die &Kartenstube", u"Die &Kartenstube"),
+    Command(2, u"miFanSiteD", Action::WebSite, u"&Wanderers Rast", u"&Wanderers Rast"),
     Divided(Command(1, u"miAbout", Action::About, u"Über...", u"About", u"Ctrl+A")),
 });
 

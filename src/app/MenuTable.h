@@ -14,21 +14,13 @@ enum class Action {
   None,
   Print,
   Language,
-  UpdateOrvalis,
-  DownloadTranslatorSDK,
-  Update,
   Quit,
   Find,
   FindAgain,
   Extras,
   Help,
   ReadMe,
-  DuskholdHomeSite,
-  PublisherForum,
-  FanSiteA,
-  FanSiteB,
-  FanSiteC,
-  FanSiteD,
+  WebSite,
   About,
   Perks,
 };
@@ -46,6 +38,8 @@ struct MenuRow {
   /// Section of the region's data file, exactly as written there.
   TextView category = {};
   DisplayMode mode = DisplayMode::List;
+  /// The list is filled as well before the markers are shown.
+  bool listFirst = false;
   Action action = Action::None;
   /// As "Ctrl+P"; empty without one.
   TextView shortcut = {};
@@ -60,6 +54,7 @@ struct MenuRow {
 /// The menu bar as data, from left to right and from top to bottom.
 namespace MenuTable {
 
+/// All rows; a menu stands before what is in it.
 [[nodiscard]] std::span<const MenuRow> Rows();
 
 /// The captions of the rows in their order, of all but the dividers in the bar.

@@ -52,9 +52,9 @@ void frmMain::ShowTexts(const InterfaceTexts& texts) {
 void frmMain::RunCategory(const MenuRow& row) {
   const auto& region = context_.paths.regions[static_cast<size_t>(row.region)];
   const Text category(row.category);
-  if (row.mode == DisplayMode::List)
+  if (row.mode == DisplayMode::List || row.listFirst)
     map_->Change(region.picture, region.data, category);
-  else
+  if (row.mode != DisplayMode::List)
     map_->ChangeMulti(region.picture, region.data, category, menus_->Heading(row),
                       row.mode == DisplayMode::LabelsOnHover);
 }

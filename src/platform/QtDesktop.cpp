@@ -28,11 +28,6 @@ bool HasProgram(const char* name) {
   return !QStandardPaths::findExecutable(QLatin1StringView(name)).isEmpty();
 }
 
-// The desktop's opener also takes a browser that no desktop file names.
-bool HasPlainBrowser() {
-  return !qEnvironmentVariableIsEmpty("BROWSER") || HasProgram("x-www-browser");
-}
-
 }  // namespace
 
 QtDesktop::QtDesktop() = default;
@@ -49,7 +44,8 @@ Desktop::Result QtDesktop::Open(const std::string& target) {
 bool QtDesktop::HasViewer(const std::string& mimeType) {
   if (!HasProgram("xdg-open"))
     return false;
-  if (mimeType == "text/html" && HasPlainBrowser())
+  // The desktop's opener also takes a browser that no desktop file names.
+  if (mimeType == "text/html" && HasProgram("x-www-browser"))
     return true;
   QProcess query;
   query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
