@@ -25,7 +25,7 @@ Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
 }
 
 void Commands::Run(const MenuRow& row) {
-  WebCommands web(context_.paths, context_.language, context_.desktop);
+  WebCommands web(context_.paths, context_.language, context_.launching);
   switch (row.action) {
     case Action::Print:
       return Print();
@@ -48,8 +48,10 @@ void Commands::Run(const MenuRow& row) {
     case Action::Quit:
       mainWindow_.close();
       return;
-    default:
+    case Action::WebSite:
       return web.OpenWebSite(row.name);
+    case Action::None:
+      return;
   }
 }
 
@@ -66,18 +68,19 @@ void Commands::ChooseLanguage() {
 }
 
 void Commands::Print() {
-  const Printout printout{map_.MapSize(), [this](QPainter& painter) { map_.Paint(painter); }};
+  const Printout printout{[this] { return map_.MapSize(); },
+                          [this](QPainter& painter) { map_.Paint(painter); }};
   frmPrint(&mainWindow_, context_.language, context_.files, context_.desktop, printout).exec();
 }
 
 void Commands::ShowExtras() {
-  frmExtras(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop)
+  frmExtras(&mainWindow_, context_.paths, context_.language, context_.files, context_.launching)
       .exec();
 }
 
 void Commands::ShowAbout() {
   frmAbout(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop,
-           context_.edition.text)
+           context_.launching, context_.edition.text)
       .exec();
 }
 

@@ -31,6 +31,7 @@ class MenuBar : public QMenuBar {
   [[nodiscard]] Text Heading(const MenuRow& category) const;
 
  Q_SIGNALS:
+  /// The user chose this row of the menu table.
   void CategoryChosen(const MenuRow& row);
   void CommandChosen(const MenuRow& row);
 

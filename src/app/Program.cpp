@@ -49,8 +49,8 @@ bool Program::CheckFiles(const Text& chosenLanguage) {
   if (!missing)
     return true;
   IniOps::Snapshot files(context_.files);
-  const auto message = StartUp::FileNotFound(files, context_.paths, chosenLanguage, *missing);
-  ShowMessage(nullptr, MessageIcon::Critical, message.text, message.caption);
+  ShowMessage(nullptr, MessageIcon::Critical,
+              StartUp::FileNotFound(files, context_.paths, chosenLanguage, *missing));
   return false;
 }
 

@@ -2,7 +2,7 @@
 
 #include "mapdata/IniOps.h"
 #include "mapdata/ProgramPaths.h"
-#include "platform/Text.h"
+#include "platform/Message.h"
 
 #include <optional>
 
@@ -14,12 +14,6 @@ struct Edition {
   bool withoutExtras = false;
   bool withoutLanguages = false;
   Text text;
-};
-
-/// A message box's texts.
-struct Message {
-  Text text;
-  Text caption;
 };
 
 /// All paths of the program in this folder, as its settings name them.

@@ -6,8 +6,8 @@
 
 namespace {
 
-// Wider than the 16 bits that the format's first programs had: a map beyond 32767 twips, as on
-// every screen of 3840 pixels, keeps its markers on their spots.
+// Not in 16 bits: a map beyond 32767 twips, as on every screen of 3840 pixels, keeps its markers
+// on their spots.
 int Resample(int frame, int mapLength, int twips) {
   if (frame == 0)
     return 0;

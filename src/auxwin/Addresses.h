@@ -8,6 +8,7 @@
 /// be harmless is let through, and nothing that a program could take for an option.
 namespace Addresses {
 
+/// What can be done with a text that shall be opened.
 enum class Kind { Web, Mail, Path, Refused };
 
 /// A judged text: an address ready to be handed over (ASCII, as in a URI), or a path.

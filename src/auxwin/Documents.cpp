@@ -33,6 +33,10 @@ Text PageBeside(TextView path) {
   return Texts::Join(path.substr(0, path.size() - HelpExtension.size()), PageExtension);
 }
 
+Text Quoted(TextView path) {
+  return Texts::Join(u"\"", path, u"\"");
+}
+
 bool Exists(TextView path) {
   const Text page = PageBeside(path);
   return FileSystem::FileExists(path) || (!page.empty() && FileSystem::FileExists(page));

@@ -21,6 +21,9 @@ enum class Viewer { None, Program, Page, Shell };
 /// beside it. "" for a path that is no help file's.
 [[nodiscard]] Text PageBeside(TextView path);
 
+/// The path between double quotes, as the desktop is asked for documents.
+[[nodiscard]] Text Quoted(TextView path);
+
 /// Whether the document, or the page that stands for it, is there and not empty.
 [[nodiscard]] bool Exists(TextView path);
 

@@ -1,6 +1,8 @@
 #include "auxwin/Hyperlink.h"
 
+#include "auxwin/Launching.h"
 #include "controls/WidgetTwips.h"
+#include "platform/QtText.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -16,11 +18,25 @@ bool OpensLink(const QKeyEvent& event) {
          event.key() == Qt::Key_Space;
 }
 
+// Pure blue can't be read on a dark ground: there the same hue is drawn lighter.
+QColor ReadableOn(const QColor& ground, const QColor& color) {
+  constexpr float light = 0.8F;
+  return ground.lightnessF() > 0.5F
+             ? color
+             : QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), light);
+}
+
 }  // namespace
 
 void Hyperlink::CreateHyperlink(QLabel& Label, int LabelColor, int LabelColorMouseOver,
                                 std::function<void()> open) {
   new Hyperlink(Label, LabelColor, LabelColorMouseOver, std::move(open));
+}
+
+void Hyperlink::CreateAddressLink(QLabel& Label, Launching& launching, TextView scheme) {
+  CreateHyperlink(Label, LinkColor, LinkColorMouseOver, [&Label, &launching, scheme] {
+    launching.ShellExec(Texts::Join(scheme, QtText::FromQt(Label.text())));
+  });
 }
 
 Hyperlink::Hyperlink(QLabel& label, int color, int colorMouseOver, std::function<void()> open)
@@ -105,6 +121,9 @@ void Hyperlink::ApplyColor(int color) {
     return;
   currentColor_ = color;
   QPalette palette = label_.palette();
-  palette.setColor(QPalette::WindowText, WidgetTwips::Color(color));
+  palette.setColor(QPalette::WindowText,
+                   ReadableOn(palette.color(QPalette::Window), WidgetTwips::Color(color)));
   label_.setPalette(palette);
+  if (color == colorMouseOver_)
+    label_.repaint();
 }

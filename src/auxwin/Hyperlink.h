@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/Text.h"
+
 #include <QObject>
 
 #include <functional>
 
+class Launching;
 class QLabel;
 
 /// Makes a label a link: underlined, in one colour, in another while the pointer is over it; a
@@ -22,6 +25,10 @@ class Hyperlink : public QObject {
   /// Makes the label a link; `open` is called for each click. The link belongs to the label.
   static void CreateHyperlink(QLabel& Label, int LabelColor, int LabelColorMouseOver,
                               std::function<void()> open);
+
+  /// Makes the label a link in the program's colours that opens `scheme` and the text that the
+  /// label shows when it is clicked.
+  static void CreateAddressLink(QLabel& Label, Launching& launching, TextView scheme);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

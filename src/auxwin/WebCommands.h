@@ -9,8 +9,8 @@
 /// click reads the settings afresh. Nothing is reported if something can't be opened.
 class WebCommands {
  public:
-  WebCommands(const ProgramPaths& paths, const LOCAL::Language& language, Desktop& desktop)
-      : paths_(paths), language_(language), launching_(paths, desktop) {}
+  WebCommands(const ProgramPaths& paths, const LOCAL::Language& language, Launching& launching)
+      : paths_(paths), language_(language), launching_(launching) {}
 
   /// Opens the help of the chosen language, the program's own if that can't be opened.
   void miHelp_Click();
@@ -27,5 +27,5 @@ class WebCommands {
  private:
   const ProgramPaths& paths_;
   const LOCAL::Language& language_;
-  Launching launching_;
+  Launching& launching_;
 };

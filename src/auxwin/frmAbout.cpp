@@ -4,12 +4,12 @@
 #include "auxwin/WaveFile.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/FileSystem.h"
+#include "mapdata/Settings.h"
 #include "platform/ProgramInfo.h"
 
 #include <QIcon>
 #include <QPushButton>
 
-using QtText::FromQt;
 using QtText::ToQt;
 
 namespace {
@@ -26,8 +26,8 @@ constexpr TextView Sources =
     u"ihrem Können gefragt haben. Ihnen allen gebührt Dank.";
 
 constexpr TextView ThanksTo =
-    u"Dank an die Testerinnen und Tester der Wegwartgilde und an alle, die mit Hinweisen, "
-    u"Korrekturen und Übersetzungen geholfen haben.";
+    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Halm, Jorin Kesselbach, Mathis "
+    u"Ohlendorf, Svea Brandlechner und Tilda Wiesengrund.";
 
 constexpr ControlDesign Controls[] = {
     {.name = u"picBanner",
@@ -70,7 +70,8 @@ constexpr ControlDesign Controls[] = {
     {.name = u"btnOK",
      .kind = ControlKind::Button,
      .place = {4800, 8880, 1215, 375},
-     .text = u"&OK"},
+     .text = u"&OK",
+     .bold = true},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmAbout",
@@ -105,11 +106,13 @@ void Fill(QWidget& line, int color) {
 }  // namespace
 
 frmAbout::frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                   IniOps::Cache& files, Desktop& desktop, const Text& edition)
-    : Dialog(parent, WindowDesign), desktop_(desktop), launching_(paths, desktop) {
+                   IniOps::Cache& files, Desktop& desktop, Launching& launching,
+                   const Text& edition)
+    : Dialog(parent, WindowDesign), desktop_(desktop) {
   IniOps::Snapshot snapshot(files);
   StartMusic(snapshot, paths);
-  LinkLabels();
+  Hyperlink::CreateAddressLink(Label(u"lblEMail"), launching, u"mailto:");
+  Hyperlink::CreateAddressLink(Label(u"lblWebSite"), launching, u"");
   ShowBanner();
   Fill(*Control<QWidget>(u"LineGray"), Gray);
   Fill(*Control<QWidget>(u"linWhite"), White);
@@ -128,8 +131,7 @@ void frmAbout::done(int result) {
 }
 
 void frmAbout::StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  const Text setting = files.IniRead(paths.settings, u"special", u"PlayMusic", u"yes");
-  playMusic_ = Texts::Lower(Texts::Trim(setting)) == u"yes";
+  playMusic_ = Settings::IsYes(files, paths.settings, Settings::PlayMusic);
   if (!playMusic_)
     return;
   const auto music = FileSystem::Resolve(Texts::Join(paths.programFolder, u"orvalis.wav"));
@@ -149,18 +151,6 @@ void frmAbout::ShowBanner() {
   QLabel& banner = Label(u"picBanner");
   banner.setScaledContents(true);
   banner.setPixmap(QIcon(QStringLiteral(":/builtin/banner-about.png")).pixmap(banner.size()));
-}
-
-void frmAbout::LinkLabels() {
-  const auto link = [this](TextView name, TextView scheme) {
-    QLabel& label = Label(name);
-    Hyperlink::CreateHyperlink(label, Hyperlink::LinkColor, Hyperlink::LinkColorMouseOver,
-                               [this, &label, scheme] {
-                                 launching_.ShellExec(Texts::Join(scheme, FromQt(label.text())));
-                               });
-  };
-  link(u"lblEMail", u"mailto:");
-  link(u"lblWebSite", u"");
 }
 
 void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "auxwin/Launching.h"
 #include "controls/Dialog.h"
 #include "i18n/LOCAL.h"
 #include "mapdata/IniOps.h"
 #include "mapdata/ProgramPaths.h"
+#include "platform/Desktop.h"
 
 #include <QLabel>
+
+class Launching;
 
 /// The about window: what the program is, who made it, and its music while it is open.
 class frmAbout : public Dialog {
@@ -15,7 +17,7 @@ class frmAbout : public Dialog {
  public:
   /// `edition` is how the main window's caption names a reduced edition; empty for the full one.
   frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-           IniOps::Cache& files, Desktop& desktop, const Text& edition);
+           IniOps::Cache& files, Desktop& desktop, Launching& launching, const Text& edition);
   ~frmAbout() override;
 
   void done(int result) override;
@@ -24,13 +26,11 @@ class frmAbout : public Dialog {
   void StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths);
   void StopMusic();
   void ShowBanner();
-  void LinkLabels();
   void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& edition);
   void ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& language);
 
   [[nodiscard]] QLabel& Label(TextView name) const { return *Control<QLabel>(name); }
 
   Desktop& desktop_;
-  Launching launching_;
   bool playMusic_ = false;
 };

@@ -41,11 +41,11 @@ constexpr DialogDesign WindowDesign = {.name = u"frmExtras",
 }  // namespace
 
 frmExtras::frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                     IniOps::Cache& files, Desktop& desktop)
+                     IniOps::Cache& files, Launching& launching)
     : Dialog(parent, WindowDesign),
       paths_(paths),
       language_(language),
-      launching_(paths, desktop),
+      launching_(launching),
       glbExtras(Control<GridListbox>(u"glbExtras")),
       btnSelect(Control<QPushButton>(u"btnSelect")),
       btnAbort(Control<QPushButton>(u"btnAbort")),
@@ -105,5 +105,5 @@ void frmExtras::Show_HTML(TextView File) {
 }
 
 void frmExtras::Show_CHM(TextView File) {
-  launching_.ShellExec(Texts::Join(u"\"", Copy(File), u"\""));
+  launching_.ShellExec(Documents::Quoted(Copy(File)));
 }

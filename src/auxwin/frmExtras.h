@@ -16,7 +16,7 @@ class frmExtras : public Dialog {
 
  public:
   frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-            IniOps::Cache& files, Desktop& desktop);
+            IniOps::Cache& files, Launching& launching);
 
  private:
   void applyTexts(IniOps::Snapshot& files);
@@ -29,7 +29,7 @@ class frmExtras : public Dialog {
 
   const ProgramPaths& paths_;
   const LOCAL::Language& language_;
-  Launching launching_;
+  Launching& launching_;
 
   GridListbox* glbExtras;
   QPushButton* btnSelect;

@@ -159,8 +159,8 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   QPainter painter;
   if (!painter.begin(&printer))
     return;
-  const QSizeF map(WidgetTwips::ToPixelsX(screen, printout_.size.x),
-                   WidgetTwips::ToPixelsY(screen, printout_.size.y));
+  const auto size = printout_.size();
+  const QSizeF map(WidgetTwips::ToPixelsX(screen, size.x), WidgetTwips::ToPixelsY(screen, size.y));
   const QSizeF page = printer.pageRect(QPrinter::DevicePixel).size();
   const double scale = std::min({1.0, page.width() / map.width(), page.height() / map.height()});
   painter.translate((page.width() - scale * map.width()) / 2,

@@ -15,10 +15,10 @@ class QPrinter;
 class QPushButton;
 class QRadioButton;
 
-/// What is printed: its size on screen in twips, and the function that paints it in pixels of the
-/// screen, on a painter whose origin is the left upper corner.
+/// What is printed, asked when Print is pressed: its size on screen in twips, and the function that
+/// paints it in pixels of the screen, on a painter whose origin is the left upper corner.
 struct Printout {
-  Twips2Pixel_Module::Twips size;
+  std::function<Twips2Pixel_Module::Twips()> size;
   std::function<void(QPainter&)> paint;
 };
 

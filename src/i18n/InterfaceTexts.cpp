@@ -20,8 +20,7 @@ InterfaceTexts Translate_UI(IniOps::Snapshot& files, const LOCAL::Language& lang
       Texts::Join(u"   ", read(Ui, u"ComboBoxPrompt", u"------------ Please select ------------"));
   texts.infoToolTip =
       read(Ui, u"InfoButtonToolTip", u"Displays informations about selected entity.");
-  // Language files have no word for it: the sign that the data files mark it with.
-  texts.highlighted.assign(1, u'*');
+  texts.highlighted = read(Ui, u"Highlighted", u"highlighted");
   return texts;
 }
 

@@ -1,6 +1,7 @@
 #include "i18n/LanguageList.h"
 
 #include "mapdata/FileSystem.h"
+#include "mapdata/Settings.h"
 #include "platform/ProgramInfo.h"
 
 using Texts::Trim;
@@ -60,7 +61,8 @@ Text FlagOf(TextView languageFile) {
 InterfaceTexts Select(IniOps::Snapshot& files, LOCAL::Language& language, TextView settings,
                       const Text& file, std::span<const MenuCaption> menus) {
   language.Choose(files, file);
-  IniOps::IniWrite(settings, General, u"language", language.LanguageFolder);
+  IniOps::IniWrite(settings, Settings::Language.section, Settings::Language.key,
+                   language.LanguageFolder);
   if (language.IsGerman())
     return RestoreGerman(menus);
   InterfaceTexts texts = Translate_UI(files, language, menus);

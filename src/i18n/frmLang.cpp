@@ -13,8 +13,6 @@ using QtText::ToQt;
 namespace {
 
 constexpr int FlagSize = 16;
-constexpr TextView GermanFlag = u":/builtin/flag-de.png";
-constexpr TextView NoFlag = u":/builtin/flag-none.png";
 
 constexpr ControlDesign Bold(TextView name, TwipsRect place, TextView text) {
   return {.name = name,
@@ -66,6 +64,8 @@ constexpr ControlDesign Controls[] = {
     Regular(u"lblEMail", {1200, 1560, 0, 240}, u"<email>"),
     Bold(u"lblWebSiteLabel", {120, 1890, 960, 240}, u"WebSite:"),
     Regular(u"lblWebSite", {1200, 1890, 0, 240}, u"<url>"),
+    {.name = u"imgLangGerman", .kind = ControlKind::Picture, .place = {120, 7200, 240, 240}},
+    {.name = u"imgNoFlag", .kind = ControlKind::Picture, .place = {480, 7200, 240, 240}},
 };
 
 constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
@@ -76,11 +76,9 @@ constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
                                          .cancelButton = u"btnAbort",
                                          .controls = Controls};
 
-// The flag in the file; the picture for none if it can't be read.
-QPixmap Flag(TextView file) {
-  QImage flag = PictureReader::Read(file);
-  if (flag.isNull())
-    flag = PictureReader::Read(NoFlag);
+// Null if the file can't be read.
+QPixmap ReadFlag(TextView file) {
+  const QImage flag = PictureReader::Read(file);
   if (flag.isNull())
     return {};
   return QPixmap::fromImage(
@@ -95,7 +93,6 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
       paths_(paths),
       language_(language),
       files_(files),
-      launching_(launching),
       menus_(menus),
       glbLang(Control<GridListbox>(u"glbLang")),
       fraMetaData(Control<QGroupBox>(u"fraMetaData")),
@@ -108,38 +105,35 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
       lblEMail(Control<QLabel>(u"lblEMail")),
       lblWebSiteLabel(Control<QLabel>(u"lblWebSiteLabel")),
       lblWebSite(Control<QLabel>(u"lblWebSite")),
+      imgLangGerman(Control<QLabel>(u"imgLangGerman")),
+      imgNoFlag(Control<QLabel>(u"imgNoFlag")),
       btnSelect(Control<QPushButton>(u"btnSelect")),
       btnAbort(Control<QPushButton>(u"btnAbort")) {
-  CreateLinks();
+  Hyperlink::CreateAddressLink(*lblEMail, launching, u"mailto:");
+  Hyperlink::CreateAddressLink(*lblWebSite, launching, u"http://");
+  imgLangGerman->hide();
+  imgLangGerman->setPixmap(ReadFlag(u":/builtin/flag-de.png"));
+  imgNoFlag->hide();
+  imgNoFlag->setPixmap(ReadFlag(u":/builtin/flag-none.png"));
   IniOps::Snapshot snapshot(files_);
   FillList(snapshot);
   const bool german = language_.IsGerman();
   ShowDetails(
       LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile));
-  ShowFlag(german
-               ? Text(GermanFlag)
-               : LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder, u".bmp"));
+  imgCurrentLang->setPixmap(
+      german
+          ? imgLangGerman->pixmap()
+          : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder, u".bmp")));
   applyTexts(snapshot);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
   connect(glbLang, &GridListbox::DblClick, this, &frmLang::btnSelect_Click);
   connect(btnSelect, &QPushButton::clicked, this, &frmLang::btnSelect_Click);
 }
 
-void frmLang::CreateLinks() {
-  const auto link = [this](QLabel& label, TextView scheme) {
-    Hyperlink::CreateHyperlink(
-        label, Hyperlink::LinkColor, Hyperlink::LinkColorMouseOver, [this, &label, scheme] {
-          launching_.ShellExec(Texts::Join(scheme, QtText::FromQt(label.text())));
-        });
-  };
-  link(*lblEMail, u"mailto:");
-  link(*lblWebSite, u"http://");
-}
-
 void frmLang::FillList(IniOps::Snapshot& snapshot) {
   glbLang->SetNoHeader(false);
   glbLang->SetSorted(true);
-  glbLang->AddItem(Texts::Join(u" ", LOCAL::German), Flag(GermanFlag), LOCAL::BuiltIn);
+  glbLang->AddItem(Texts::Join(u" ", LOCAL::German), imgLangGerman->pixmap(), LOCAL::BuiltIn);
   for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot))
     glbLang->AddItem(Texts::Join(u" ", entry.name), Flag(entry.flag), entry.file);
   for (int row = 1; row <= glbLang->ListCount(); ++row)
@@ -155,8 +149,10 @@ void frmLang::ShowDetails(const LanguageList::Details& details) {
   lblEMail->setText(ToQt(details.email));
 }
 
-void frmLang::ShowFlag(TextView file) {
-  imgCurrentLang->setPixmap(Flag(file));
+// The flag in the file; the picture for none if it can't be read.
+QPixmap frmLang::Flag(TextView file) const {
+  const QPixmap flag = ReadFlag(file);
+  return flag.isNull() ? imgNoFlag->pixmap() : flag;
 }
 
 void frmLang::applyTexts(IniOps::Snapshot& snapshot) {
@@ -179,7 +175,8 @@ void frmLang::glbLang_RowClick(int Item) {
     return;
   IniOps::Snapshot snapshot(files_);
   ShowDetails(LanguageList::ReadDetails(snapshot, row->Tag));
-  ShowFlag(row->Tag == LOCAL::BuiltIn ? Text(GermanFlag) : LanguageList::FlagOf(row->Tag));
+  imgCurrentLang->setPixmap(row->Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
+                                                       : Flag(LanguageList::FlagOf(row->Tag)));
 }
 
 void frmLang::btnSelect_Click() {

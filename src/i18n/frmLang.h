@@ -1,17 +1,19 @@
 #pragma once
 
-#include "auxwin/Launching.h"
 #include "controls/Dialog.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
 #include "mapdata/IniOps.h"
+#include "mapdata/ProgramPaths.h"
 
 #include <span>
 
 class GridListbox;
+class Launching;
 class QGroupBox;
 class QLabel;
+class QPixmap;
 class QPushButton;
 
 /// The choice of the interface language: every language beside the program with its flag, and
@@ -32,16 +34,14 @@ class frmLang : public Dialog {
  private:
   void glbLang_RowClick(int Item);
   void btnSelect_Click();
-  void CreateLinks();
   void FillList(IniOps::Snapshot& snapshot);
   void ShowDetails(const LanguageList::Details& details);
-  void ShowFlag(TextView file);
+  [[nodiscard]] QPixmap Flag(TextView file) const;
   void applyTexts(IniOps::Snapshot& snapshot);
 
   const ProgramPaths& paths_;
   LOCAL::Language& language_;
   IniOps::Cache& files_;
-  Launching& launching_;
   std::span<const MenuCaption> menus_;
   GridListbox* glbLang;
   QGroupBox* fraMetaData;
@@ -54,6 +54,8 @@ class frmLang : public Dialog {
   QLabel* lblEMail;
   QLabel* lblWebSiteLabel;
   QLabel* lblWebSite;
+  QLabel* imgLangGerman;
+  QLabel* imgNoFlag;
   QPushButton* btnSelect;
   QPushButton* btnAbort;
 };

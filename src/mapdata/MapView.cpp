@@ -1,5 +1,7 @@
 #include "mapdata/MapView.h"
 
+#include "controls/GermanOrder.h"
+#include "controls/PlainToolTip.h"
 #include "controls/PrintableWidget.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/EntityFile.h"
@@ -13,7 +15,6 @@
 #include "mapdata/ctlLocation.h"
 #include "platform/QtText.h"
 
-#include <QCollator>
 #include <QComboBox>
 #include <QFrame>
 #include <QPainter>
@@ -32,10 +33,6 @@ constexpr double CaptionPoints = 9.75;
 constexpr double HeadingPoints = 12;
 constexpr int RightGap = 110;
 constexpr int MostVisibleItems = 30;
-
-Text Padded(TextView name) {
-  return Texts::Join(u" ", name, u" ");
-}
 
 template <typename Widget>
 Widget* Named(Widget* widget, QLatin1StringView name) {
@@ -63,9 +60,7 @@ QStringList Sorted(const std::vector<Text>& names) {
   QStringList sorted;
   for (const Text& name : names)
     sorted.append(ToQt(name));
-  QCollator german(QLocale::German);
-  german.setCaseSensitivity(Qt::CaseInsensitive);
-  std::stable_sort(sorted.begin(), sorted.end(), german);
+  std::stable_sort(sorted.begin(), sorted.end(), GermanOrder());
   return sorted;
 }
 
@@ -110,19 +105,15 @@ void MapView::ConnectControls() {
   connect(cboItems, &QComboBox::activated, this, &MapView::cboItems_Click);
   connect(btnInfo, &QToolButton::clicked, this, &MapView::btnInfo_Click);
   connect(ITEM, &ctlLocation::DblClick, this, &MapView::btnInfo_Click);
-  connect(lblCaption, &NameLabel::DblClick, this, &MapView::btnInfo_Click);
-  connect(lblCaption, &NameLabel::MouseMove, this, [this] { ShowDescription(*lblCaption); });
+  connect(lblCaption, &NameLabel::DblClick, this, &MapView::lblCaption_DblClick);
+  connect(lblCaption, &NameLabel::MouseMove, this, &MapView::lblCaption_MouseMove);
   connect(focus_, &MapFocus::Left, cboItems,
           [this] { cboItems->setFocus(Qt::ShortcutFocusReason); });
   connect(slots_, &MarkerSlots::DotMoved, this, &MapView::DOT_MouseMove);
-  connect(slots_, &MarkerSlots::LabelMoved, this, [this](int index) {
-    slots_->BringToFront(index);
-    ShowDescription(slots_->Label(index));
-  });
-  connect(slots_, &MarkerSlots::DotDoubleClicked, this,
-          [this](int index) { InfoMulti(FromQt(slots_->Dot(index).Desc())); });
-  connect(slots_, &MarkerSlots::LabelDoubleClicked, this,
-          [this](int index) { InfoMulti(FromQt(slots_->Label(index).text())); });
+  connect(slots_, &MarkerSlots::DotDoubleClicked, this, &MapView::DOT_DblClick);
+  connect(slots_, &MarkerSlots::LabelMoved, this, &MapView::lblDOT_MouseMove);
+  connect(slots_, &MarkerSlots::LabelDoubleClicked, this, &MapView::lblDOT_DblClick);
+  btnInfo->installEventFilter(this);
 }
 
 void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted) {
@@ -217,7 +208,7 @@ void MapView::ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, 
   for (const EntityFile::Marker& marker : markers)
     slots_->Set(slot++, marker, PointAt(marker.position.x, marker.position.y), !LabelsOnHover,
                 WindowWidth());
-  ShowHeading(Padded(Texts::ReplaceAll(Heading, u"&", u"")));
+  ShowHeading(Texts::Padded(Texts::ReplaceAll(Heading, u"&", u"")));
 }
 
 void MapView::ShowHeading(const Text& caption) {
@@ -257,7 +248,7 @@ void MapView::cboItems_Click() {
     return;
   }
   PlaceItem(Placement::MarkerAt(PointAt(position->x, position->y)), name);
-  PlaceCaption(Padded(name));
+  PlaceCaption(Texts::Padded(name));
 }
 
 void MapView::PlaceItem(const Twips& at, const Text& name) {
@@ -273,6 +264,10 @@ void MapView::PlaceCaption(const Text& caption) {
             {Placement::SingleLabelLeft(itemAt_.x, WidthInTwips(*lblCaption), WindowWidth()),
              Placement::LabelTop(itemAt_.y)});
   lblCaption->show();
+}
+
+bool MapView::eventFilter(QObject*, QEvent* event) {
+  return PlainToolTip::Show(*btnInfo, *event);
 }
 
 void MapView::resizeEvent(QResizeEvent* event) {
@@ -311,6 +306,14 @@ void MapView::btnInfo_Click() {
   }
 }
 
+void MapView::lblCaption_DblClick() {
+  btnInfo_Click();
+}
+
+void MapView::lblCaption_MouseMove() {
+  ShowDescription(*lblCaption);
+}
+
 void MapView::InfoMulti(const Text& nameX) {
   InfoEntityName = nameX;
   Q_EMIT InfoRequested();
@@ -319,6 +322,19 @@ void MapView::InfoMulti(const Text& nameX) {
 void MapView::DOT_MouseMove(int index) {
   slots_->BringToFront(index);
   slots_->ShowLabel(index, View.LabelsOnHover);
+}
+
+void MapView::DOT_DblClick(int index) {
+  InfoMulti(FromQt(slots_->Dot(index).Desc()));
+}
+
+void MapView::lblDOT_MouseMove(int index) {
+  slots_->BringToFront(index);
+  ShowDescription(slots_->Label(index));
+}
+
+void MapView::lblDOT_DblClick(int index) {
+  InfoMulti(FromQt(slots_->Label(index).text()));
 }
 
 QString MapView::Description(const NameLabel& label) {

@@ -31,7 +31,7 @@ class MapView : public QWidget {
   /// Sets the first row of the list, which begins with a blank, and the information button's
   /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
   /// reader says of a highlighted marker.
-  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted = u"*");
+  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted);
 
   /// Hides and resets everything on the map; the picture stays.
   void ClearUI();
@@ -108,6 +108,7 @@ class MapView : public QWidget {
   void InfoRequested();
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
@@ -119,7 +120,12 @@ class MapView : public QWidget {
   void PlaceHeading();
   void HideItem();
   void btnInfo_Click();
+  void lblCaption_DblClick();
+  void lblCaption_MouseMove();
   void DOT_MouseMove(int index);
+  void DOT_DblClick(int index);
+  void lblDOT_MouseMove(int index);
+  void lblDOT_DblClick(int index);
   [[nodiscard]] QString Description(const NameLabel& label);
   void ShowDescription(NameLabel& label);
 

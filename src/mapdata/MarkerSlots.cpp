@@ -51,17 +51,16 @@ void MarkerSlots::Clear() {
 void MarkerSlots::Set(int slot, const EntityFile::Marker& entity,
                       const Twips2Pixel_Module::Twips& point, bool labelShown, int windowWidth) {
   const auto screen = WidgetTwips::ScreenOf(*between_);
-  const QString name = QtText::ToQt(entity.name);
   const auto at = Placement::MarkerAt(point);
   const int color = entity.highlighted ? ctlLocation::Green : ctlLocation::DarkRed;
   Dot(slot).SetBorderColor(color);
   Label(slot).SetTextColor(color);
   Dot(slot).move(WidgetTwips::ToPixelsX(screen, at.x), WidgetTwips::ToPixelsY(screen, at.y));
-  Dot(slot).SetDesc(name);
+  Dot(slot).SetDesc(QtText::ToQt(entity.name));
   if (entity.disabled)
     return;
   Dot(slot).show();
-  Label(slot).SetCaption(u' ' + name + u' ');
+  Label(slot).SetCaption(QtText::ToQt(Texts::Padded(entity.name)));
   const int width = WidgetTwips::ToTwips(screen, Label(slot).size()).x;
   const int left = Placement::SlotLabelLeft(slot, at.x, width, windowWidth);
   Label(slot).move(WidgetTwips::ToPixelsX(screen, left),

@@ -37,11 +37,13 @@ class MarkerSlots : public QObject {
   /// Brings the slot's marker and label in front of all others.
   void BringToFront(int slot);
 
+  /// Marker and label of the slot, 0 to 80.
   [[nodiscard]] ctlLocation& Dot(int slot) { return *dots_[static_cast<size_t>(slot)]; }
 
   [[nodiscard]] NameLabel& Label(int slot) { return *labels_[static_cast<size_t>(slot)]; }
 
  Q_SIGNALS:
+  /// The pointer moved over a marker or a label, or double-clicked it.
   void DotMoved(int slot);
   void DotDoubleClicked(int slot);
   void LabelMoved(int slot);

@@ -13,6 +13,7 @@ struct Point {
   int y = 0;
 };
 
+/// Where an arrow key points.
 enum class Direction { Left, Right, Up, Down };
 
 /// The marker that is nearest in the direction: among those within 45 degrees of it, else among

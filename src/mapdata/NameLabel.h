@@ -13,9 +13,11 @@ class NameLabel : public QLabel {
   /// Sets the text and takes the size that it needs.
   void SetCaption(const QString& caption);
 
+  /// The colour of the text from now on.
   void SetTextColor(int color);
 
  Q_SIGNALS:
+  /// The pointer moved over the name, or double-clicked it.
   void MouseMove();
   void DblClick();
 

@@ -1,4 +1,4 @@
-#include "app/Settings.h"
+#include "mapdata/Settings.h"
 
 namespace Settings {
 

@@ -21,6 +21,11 @@ inline constexpr Entry NoExtras = {u"special", u"NoExtras", u"no"};
 inline constexpr Entry NoLang = {u"special", u"NoLang", u"no"};
 inline constexpr Entry LocalizedString = {u"special", u"LocalizedString", u""};
 inline constexpr Entry Language = {u"general", u"language", u""};
+inline constexpr Entry PlayMusic = {u"special", u"PlayMusic", u"yes"};
+/// Addresses of the web; empty for the built-in ones.
+inline constexpr Entry Download = {u"urls", u"Download", u""};
+inline constexpr Entry TranslatorKit = {u"urls", u"tranlatorsdk", u""};
+inline constexpr Entry GamePatch = {u"urls", u"duskholdpatch", u""};
 
 /// The setting's value in that settings file.
 [[nodiscard]] Text Read(IniOps::Snapshot& files, TextView settingsFile, const Entry& entry);

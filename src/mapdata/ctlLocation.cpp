@@ -1,5 +1,6 @@
 #include "mapdata/ctlLocation.h"
 
+#include "controls/EventCodes.h"
 #include "controls/PlainToolTip.h"
 #include "controls/WidgetTwips.h"
 #include "mapdata/Placement.h"
@@ -12,9 +13,6 @@ namespace {
 // Outlines in twips. A highlighted marker differs by more than its colour.
 constexpr int OutlineWidth = 20;
 constexpr int HighlightedOutlineWidth = 40;
-
-// The toolkit's bits for Shift, Ctrl and Alt follow each other from here.
-constexpr int LowestModifierBit = 25;
 
 QSize MarkerSize(const QWidget& widget) {
   const auto screen = WidgetTwips::ScreenOf(widget);
@@ -49,8 +47,7 @@ bool ctlLocation::event(QEvent* event) {
 }
 
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
-  Q_EMIT MouseMove(static_cast<int>(event->buttons()),
-                   static_cast<int>(event->modifiers()) >> LowestModifierBit & 7,
+  Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event),
                    static_cast<float>(event->position().x()),
                    static_cast<float>(event->position().y()));
 }

@@ -26,6 +26,7 @@ constexpr ControlDesign Controls[] = {
     {.name = u"txtInfo",
      .kind = ControlKind::TextBox,
      .place = {1800, 480, 4815, 3855},
+     .text = u"<beschreibung>\n",
      .points = 9.75,
      .namedBy = u"lblName"},
     {.name = u"btnClose",

@@ -151,8 +151,8 @@ inline constexpr std::array<Perk, 102> Perks = {{
     {u"perk Health", u'o', u"Lebenskraft"},
 }};
 
-/// The captions that translators of the language files have seen from the beginning, their slips
-/// included.
+/// The captions that don't follow from their keys. Their slips stay: translators know them as the
+/// defaults of the language files.
 inline constexpr std::array<EnglishCaption, 22> EnglishExceptions = {{
     {u"perk brew Potions with permanent effects", u"Brew potions with permament effects"},
     {u"perk brew transformation potions", u"Brew transformations potions"},

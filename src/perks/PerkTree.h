@@ -41,6 +41,7 @@ using Lookup = std::function<Text(TextView key, TextView english, TextView germa
 /// The name of the region whose data file this is; "" if none of the three that have perks.
 [[nodiscard]] Text PerkRegion(TextView perksData);
 
+/// The caption of the window that shows the region's tree.
 [[nodiscard]] Text WindowCaption(const Region& region, const Lookup& lookup);
 
 /// The root, the seven categories, and below these the perks that the section names are, in the

@@ -80,13 +80,13 @@ void frmPerks::applyTexts(const PerkTree::Region& region, const PerkTree::Lookup
 
 void frmPerks::Fill(const std::vector<PerkTree::Node>& nodes) {
   std::map<Text, QTreeWidgetItem*> parents = {{{}, tvPerks->invisibleRootItem()}};
-  std::map<int, QIcon> pictures;
+  std::map<int, QIcon> ilPerks;
   QFont bold = tvPerks->font();
   bold.setBold(true);
   for (const PerkTree::Node& node : nodes) {
     auto* item = new QTreeWidgetItem(parents.at(node.parent), {ToQt(node.caption)});
     item->setData(0, KeyRole, ToQt(node.key));
-    item->setIcon(0, pictures.try_emplace(node.picture, PictureOf(node.picture)).first->second);
+    item->setIcon(0, ilPerks.try_emplace(node.picture, PictureOf(node.picture)).first->second);
     if (node.bold)
       item->setFont(0, bold);
     parents.emplace(node.key, item);

@@ -31,8 +31,10 @@ class Desktop {
   /// Plays a wave file over and over until `StopSound`; silence if that can't be done.
   virtual void LoopSound(const std::string& path) = 0;
 
+  /// Ends every sound of the program; nothing if none plays.
   virtual void StopSound() = 0;
 
+  /// The desktop's own short sound, once.
   virtual void Beep() = 0;
 
   /// The user's interface language as three letters, "deu" for German; "" if nothing is known.

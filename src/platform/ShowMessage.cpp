@@ -4,12 +4,12 @@
 
 #include <QMessageBox>
 
-void ShowMessage(QWidget* parent, MessageIcon icon, TextView text, TextView caption) {
+void ShowMessage(QWidget* parent, MessageIcon icon, const Message& message) {
   QMessageBox box(parent);
   box.setIcon(icon == MessageIcon::Critical ? QMessageBox::Critical : QMessageBox::Information);
   box.setTextFormat(Qt::PlainText);
-  box.setText(QtText::ToQt(text));
-  box.setWindowTitle(QtText::ToQt(caption));
+  box.setText(QtText::ToQt(message.text));
+  box.setWindowTitle(QtText::ToQt(message.caption));
   box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }

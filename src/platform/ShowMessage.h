@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Text.h"
+#include "platform/Message.h"
 
 class QWidget;
 
@@ -9,4 +9,4 @@ enum class MessageIcon { Information, Critical };
 
 /// Shows a modal message box with an OK button and waits for it. The text is shown as it stands,
 /// never as markup.
-void ShowMessage(QWidget* parent, MessageIcon icon, TextView text, TextView caption);
+void ShowMessage(QWidget* parent, MessageIcon icon, const Message& message);

@@ -29,4 +29,9 @@ template <typename... Parts>
   return joined;
 }
 
+/// The name between two blanks, as it stands on the map.
+[[nodiscard]] inline Text Padded(TextView name) {
+  return Join(u" ", name, u" ");
+}
+
 }  // namespace Texts

@@ -35,7 +35,6 @@ void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Lang
   Q_EMIT map.Displayed();
   map.ClearUI();
   map.View = {};
-  map.InfoEntityName = entity.Name;
   if (!map.LoadPicture(entity.Map))
     return;
   map.PlaceItem(map.PointAt(entity.X, entity.Y), name);
@@ -43,8 +42,9 @@ void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Lang
   map.Caption().setToolTip(ToQt(entity.Description));
   SelectInList(map, entity);
   // What the list's handler left is what stands on the map: its marker, and its name with blanks.
-  map.PlaceCaption(Texts::Join(u" ", FromQt(map.Caption().text()), u" "));
+  map.PlaceCaption(Texts::Padded(FromQt(map.Caption().text())));
   map.ShowHeading(Search::ResultHeading(state, snapshot, language));
+  map.InfoEntityName = entity.Name;
   map.View = {{}, entity.Database, entity.Section, {}, false, name};
 }
 

@@ -46,6 +46,7 @@ struct InvalidLink {
 /// in one text, and a description is a view into the information file, which the cache keeps.
 class EntityCache {
  public:
+  /// How many records there are.
   [[nodiscard]] size_t Size() const { return size_; }
 
   /// Appends the entities of one region that the search may find. Stops at the first invalid link
@@ -54,6 +55,7 @@ class EntityCache {
                                                          LOCAL::Language& language,
                                                          const ProgramPaths::Region& region);
 
+  /// The record of this index, which must be below `Size`.
   [[nodiscard]] CachedEntity At(size_t index) const;
 
   /// The index of the first record from `from` on for whose name and description, this one in

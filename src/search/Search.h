@@ -2,7 +2,7 @@
 
 #include "mapdata/IniOps.h"
 #include "mapdata/ProgramPaths.h"
-#include "platform/Text.h"
+#include "platform/Message.h"
 #include "search/EntityCache.h"
 
 #include <variant>
@@ -15,6 +15,7 @@ class Language;
 /// Letter case counts, blanks count, and a search never begins again at the front by itself.
 namespace Search {
 
+/// What is searched: the start of names, or anything within descriptions.
 enum class Mode { Names = 0, Descriptions = 1 };
 
 /// What the search keeps while the program runs.
@@ -34,16 +35,11 @@ struct Hit {
   size_t index;
 };
 
+/// No record is left that fits.
 struct NothingFound {};
 
 /// An invalid link leaves nothing to go on with: the program tells of it and ends.
 using Outcome = std::variant<Hit, NothingFound, InvalidLink>;
-
-/// A message box of the search.
-struct Message {
-  Text text;
-  Text caption;
-};
 
 /// Searches all entities from the first one for `term` in the mode of the state; fills the cache
 /// before if it is empty. Names are compared as they are shown in the language of this moment.
@@ -54,9 +50,11 @@ struct Message {
 /// was filled.
 [[nodiscard]] Outcome FindNext(State& state);
 
+/// Tells that the term is nowhere, in the language of the moment.
 [[nodiscard]] Message NotFoundMessage(const State& state, IniOps::Snapshot& files,
                                       const LOCAL::Language& language);
 
+/// Tells which link leads nowhere, for the author of the data file.
 [[nodiscard]] Message InvalidLinkMessage(const InvalidLink& link);
 
 /// The heading of a record that is shown: what was searched for.

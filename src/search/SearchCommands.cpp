@@ -25,12 +25,11 @@ void SearchCommands::Report(const Search::Outcome& outcome) {
   if (const auto* hit = std::get_if<Search::Hit>(&outcome)) {
     SearchResult::Display(hit->index, state_, map_, language_, files_);
   } else if (const auto* link = std::get_if<InvalidLink>(&outcome)) {
-    const Search::Message message = Search::InvalidLinkMessage(*link);
-    ShowMessage(map_.window(), MessageIcon::Critical, message.text, message.caption);
+    ShowMessage(map_.window(), MessageIcon::Critical, Search::InvalidLinkMessage(*link));
     Q_EMIT EndRequested();
   } else {
     IniOps::Snapshot files(files_);
-    const Search::Message message = Search::NotFoundMessage(state_, files, language_);
-    ShowMessage(map_.window(), MessageIcon::Information, message.text, message.caption);
+    ShowMessage(map_.window(), MessageIcon::Information,
+                Search::NotFoundMessage(state_, files, language_));
   }
 }

@@ -18,7 +18,7 @@ class About : public WindowFixture {
   About() { folder.Write("orvalis.wav", std::string(Music, sizeof(Music))); }
 
   std::unique_ptr<frmAbout> Open(const Text& edition = {}) {
-    return std::make_unique<frmAbout>(nullptr, paths, language, files, desktop, edition);
+    return std::make_unique<frmAbout>(nullptr, paths, language, files, desktop, launching, edition);
   }
 
   static QLabel& Label(const frmAbout& window, const char* name) {

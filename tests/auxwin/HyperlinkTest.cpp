@@ -1,11 +1,29 @@
 #include "auxwin/Hyperlink.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
+
+double Luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+// From 1, none, to 21, black on white.
+double Contrast(const QColor& a, const QColor& b) {
+  const auto [less, more] = std::minmax({Luminance(a), Luminance(b)});
+  return (more + 0.05) / (less + 0.05);
+}
 
 class LinkWindow : public QWidget {
  public:
@@ -60,6 +78,17 @@ TEST(Hyperlink, OpensByClickEnterAndSpace) {
   EXPECT_EQ(window.opened, 3);
   QTest::keyClick(&window.label, Qt::Key_A);
   EXPECT_EQ(window.opened, 3);
+}
+
+TEST(Hyperlink, CanBeReadOnLightAndDarkGround) {
+  const QPalette before = QApplication::palette();
+  for (const QColor& ground : {QColor(Qt::white), QColor(239, 239, 239), QColor(53, 53, 53)}) {
+    QApplication::setPalette(QPalette(ground));
+    LinkWindow window;
+    EXPECT_GE(Contrast(window.ColorAt({5, 5}), ground), 4.5) << ground.name().toStdString();
+    EXPECT_GE(Contrast(window.ColorAt({60, 50}), ground), 3) << ground.name().toStdString();
+  }
+  QApplication::setPalette(before);
 }
 
 TEST(Hyperlink, AFocusedLinkLooksDifferent) {

@@ -23,7 +23,7 @@ struct Judged {
 // A program folder with a language of its own, and the state of a player who chose it.
 class Documented : public testing::Test {
  protected:
-  Documented() : language(paths.infoData), commands(paths, language, desktop) {
+  Documented() : language(paths.infoData), commands(paths, language, launching) {
     paths.programFolder = folder.Path(u"");
     paths.settings = folder.Path(u"orvalis.ini");
     paths.languageRoot = folder.Path(u"LANG/");
@@ -45,6 +45,7 @@ class Documented : public testing::Test {
   ProgramPaths paths;
   LOCAL::Language language;
   RecordingDesktop desktop;
+  Launching launching{paths, desktop};
   WebCommands commands;
 };
 
@@ -161,7 +162,6 @@ TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
   folder.Write("LANG/English/readme.html", "x");
   folder.Write("secret.html", "x");
   paths.programFolder = folder.Path(u"prog/");
-  Launching launching(paths, desktop);
   EXPECT_EQ(launching.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
   EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
   EXPECT_EQ(launching.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);

@@ -22,7 +22,8 @@ class Print : public WindowFixture {
  protected:
   std::unique_ptr<frmPrint> Open(const Twips2Pixel_Module::Twips& size = {9000, 6000}) {
     return std::make_unique<frmPrint>(nullptr, language, files, desktop,
-                                      Printout{size, [this, size](QPainter& painter) {
+                                      Printout{[size] { return size; },
+                                               [this, size](QPainter& painter) {
                                                  ++painted;
                                                  PaintMap(painter, size);
                                                }});
@@ -110,9 +111,12 @@ TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
   QLabel name(QStringLiteral("Fischmarkt"), &map);
   name.setFont(WidgetTwips::Font(9.75, true));
   name.move(300, 200);
-  frmPrint window(nullptr, language, files, desktop, {{9000, 6000}, [&map](QPainter& painter) {
-                                                        PrintableWidget::Paint(map, painter, {});
-                                                      }});
+  Twips2Pixel_Module::Twips size;
+  frmPrint window(nullptr, language, files, desktop,
+                  {[&size] { return size; },
+                   [&map](QPainter& painter) { PrintableWidget::Paint(map, painter, {}); }});
+  // What is printed is as large as it is when Print is pressed.
+  size = {9000, 6000};
   Press(window, "btnPrint");
   QProcess words;
   words.start(

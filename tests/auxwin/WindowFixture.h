@@ -1,5 +1,6 @@
 #pragma once
 
+#include "auxwin/Launching.h"
 #include "i18n/LOCAL.h"
 #include "mapdata/IniOps.h"
 #include "mapdata/ProgramPaths.h"
@@ -43,4 +44,5 @@ class WindowFixture : public testing::Test {
   LOCAL::Language language;
   IniOps::Cache files;
   RecordingDesktop desktop;
+  Launching launching{paths, desktop};
 };

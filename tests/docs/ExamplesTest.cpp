@@ -1,7 +1,7 @@
 // Runs the examples of the manuals: a block with "file" is a file of the program folder, a block
 // with "shows" is what the program makes of the chapter's files so far.
 #include "app/MenuTable.h"
-#include "app/Settings.h"
+#include "mapdata/Settings.h"
 #include "app/StartUp.h"
 #include "docs/Document.h"
 #include "i18n/InterfaceTexts.h"

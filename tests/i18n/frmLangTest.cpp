@@ -1,5 +1,6 @@
 #include "i18n/frmLang.h"
 
+#include "auxwin/Launching.h"
 #include "controls/GridListbox.h"
 #include "platform/ProgramInfo.h"
 #include "support/DialogCheck.h"

@@ -43,7 +43,7 @@ class Searching : public testing::Test {
     return hit ? std::optional(hit->index) : std::nullopt;
   }
 
-  Search::Message NotFound() {
+  Message NotFound() {
     IniOps::Snapshot files(world_.cache);
     return Search::NotFoundMessage(state_, files, world_.language);
   }
