@@ -1,7 +1,6 @@
 // Runs the examples of the manuals: a block with "file" is a file of the program folder, a block
 // with "shows" is what the program makes of the chapter's files so far.
 #include "app/MenuTable.h"
-#include "mapdata/Settings.h"
 #include "app/StartUp.h"
 #include "docs/Document.h"
 #include "i18n/InterfaceTexts.h"
@@ -9,6 +8,7 @@
 #include "mapdata/EntityFile.h"
 #include "mapdata/FileSystem.h"
 #include "mapdata/InfoFile.h"
+#include "mapdata/Settings.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
 #include "support/TemporaryFolder.h"
