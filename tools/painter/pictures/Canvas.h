@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <functional>
 #include <initializer_list>
+#include <span>
 
 #include "map/Tone.h"
 
@@ -19,9 +20,11 @@ inline constexpr Tone Steel{158, 166, 178};
 inline constexpr Tone Wood{126, 86, 52};
 
 /// A closed line without corners through the points.
+[[nodiscard]] QPainterPath Rounded(std::span<const QPointF> points);
 [[nodiscard]] QPainterPath Rounded(std::initializer_list<QPointF> points);
 
 /// A closed line of straight pieces.
+[[nodiscard]] QPainterPath Angular(std::span<const QPointF> points);
 [[nodiscard]] QPainterPath Angular(std::initializer_list<QPointF> points);
 
 [[nodiscard]] QPainterPath Oval(QPointF middle, double across, double down);
