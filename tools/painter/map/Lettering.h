@@ -9,17 +9,19 @@
 
 namespace Map {
 
-/// The typeface of all names and titles on the maps.
+/// The typeface of all names and titles on the maps; an em of it has that many `pixels`.
 [[nodiscard]] QFont MapFont(double pixels, bool bold, bool italic);
 
 /// Writes names beside their places so that none covers another, in picture pixels.
 class Lettering {
  public:
+  /// The style must outlive the lettering. Names keep off the picture's edges where they can.
   Lettering(const RegionStyle& style, QSize picture) : style_(style), picture_(picture) {}
 
   /// Keeps names off a rectangle.
   void reserve(const QRectF& area) { taken_.push_back(area); }
 
+  /// Whether a name there covers nothing and keeps off the edges.
   [[nodiscard]] bool isFree(const QRectF& area) const;
 
   /// Writes the name on the first free side of its place, `gap` pixels from it. False where none

@@ -19,6 +19,7 @@ void DrawFrame(QPainter& painter, const RegionStyle& style, QSize picture);
 /// The title on a scroll, in the rectangle that starts at `corner`.
 void DrawCartouche(QPainter& painter, const RegionStyle& style, QPointF corner);
 
+/// A compass rose within `radius` picture pixels; the letter for north stands above that.
 void DrawCompass(QPainter& painter, const RegionStyle& style, QPointF middle, double radius);
 
 }  // namespace Map

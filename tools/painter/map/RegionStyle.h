@@ -6,6 +6,7 @@
 
 namespace Map {
 
+/// What grows in a region; roofs and the snow on peaks follow from it.
 enum class Tree { Broadleaf, Fir, Palm, Dead };
 
 /// How a region's picture looks: its colours, its signs, its title.

@@ -6,6 +6,7 @@
 
 namespace Map {
 
+/// What gets a sign of its own on a map; `Place` is all else.
 enum class Landmark { City, Cave, Shrine, Place };
 
 /// Half the width that a landmark's sign takes, in picture pixels.

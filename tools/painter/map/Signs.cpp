@@ -108,7 +108,15 @@ void DrawDeadTree(QPainter& painter, const RegionStyle& style, Random& random) {
   }
 }
 
-void DrawPeak(QPainter& painter, const RegionStyle& style, const Sign& sign, Random& random) {
+/// A mountain's lines in picture pixels: both slopes from west to east, and the ridge that parts
+/// its lit face from its shadowed one, from the top down.
+struct Peak {
+  QPointF foot, top;
+  QPolygonF west, east, ridge;
+  double tall;
+};
+
+Peak MakePeak(const Sign& sign, Random& random) {
   const double tall = sign.size;
   const double half = tall * random.between(0.62, 0.75);
   const QPointF foot(sign.at.x * Scale, sign.at.y * Scale);
@@ -118,42 +126,61 @@ void DrawPeak(QPainter& painter, const RegionStyle& style, const Sign& sign, Ran
   const auto jag = [&](QPointF from, QPointF to, double share) {
     return from + (to - from) * share + QPointF(0, random.between(-0.09, 0.05) * tall);
   };
-  const QPolygonF west{left, jag(left, top, 0.35), jag(left, top, 0.7), top};
-  const QPolygonF east{top, jag(top, right, 0.3), jag(top, right, 0.65), right};
-  const QPolygonF ridge{top, foot + QPointF(tall * 0.10, -tall * 0.62),
-                        foot + QPointF(-tall * 0.05, -tall * 0.34), foot + QPointF(tall * 0.08, 2)};
+  return {.foot = foot,
+          .top = top,
+          .west = {left, jag(left, top, 0.35), jag(left, top, 0.7), top},
+          .east = {top, jag(top, right, 0.3), jag(top, right, 0.65), right},
+          .ridge = {top, foot + QPointF(tall * 0.10, -tall * 0.62),
+                    foot + QPointF(-tall * 0.05, -tall * 0.34), foot + QPointF(tall * 0.08, 2)},
+          .tall = tall};
+}
+
+// Both faces fade into the ground at their feet.
+void FillFaces(QPainter& painter, const RegionStyle& style, const Peak& peak) {
   const Tone stone = style.rock.towards(style.high, 0.45);
-  QLinearGradient lit(0, top.y(), 0, foot.y());
+  QLinearGradient lit(0, peak.top.y(), 0, peak.foot.y());
   lit.setColorAt(0, stone.lit(1.28).color());
   lit.setColorAt(0.55, stone.lit(1.12).color(235));
   lit.setColorAt(1, stone.color(0));
-  QLinearGradient dark(0, top.y(), 0, foot.y());
+  QLinearGradient dark(0, peak.top.y(), 0, peak.foot.y());
   dark.setColorAt(0, stone.towards(style.ink, 0.52).color());
   dark.setColorAt(0.55, stone.towards(style.ink, 0.36).color(235));
   dark.setColorAt(1, stone.towards(style.ink, 0.2).color(0));
   painter.setPen(Qt::NoPen);
   painter.setBrush(lit);
-  painter.drawPolygon(west + ridge);
-  QPolygonF shadowed = ridge;
-  std::ranges::reverse(shadowed);
+  painter.drawPolygon(peak.west + peak.ridge);
+  QPolygonF upward = peak.ridge;
+  std::ranges::reverse(upward);
   painter.setBrush(dark);
-  painter.drawPolygon(east + shadowed);
-  if (tall > 34 && style.tree != Tree::Palm && style.tree != Tree::Dead) {
-    const QPolygonF cap{top,
-                        top + (west[2] - top) * 0.75,
-                        top + QPointF(-tall * 0.09, tall * 0.2),
-                        top + QPointF(tall * 0.03, tall * 0.33),
-                        top + QPointF(tall * 0.12, tall * 0.2),
-                        top + (east[1] - top) * 0.75};
-    painter.setBrush(style.snow.color(225));
-    painter.drawPolygon(cap);
-  }
+  painter.drawPolygon(peak.east + upward);
+}
+
+void DrawSnowCap(QPainter& painter, const RegionStyle& style, const Peak& peak) {
+  const QPointF top = peak.top;
+  const double tall = peak.tall;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(style.snow.color(225));
+  painter.drawPolygon(
+      QPolygonF{top, top + (peak.west[2] - top) * 0.75, top + QPointF(-tall * 0.09, tall * 0.2),
+                top + QPointF(tall * 0.03, tall * 0.33), top + QPointF(tall * 0.12, tall * 0.2),
+                top + (peak.east[1] - top) * 0.75});
+}
+
+void OutlinePeak(QPainter& painter, const RegionStyle& style, const Peak& peak) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(style.ink.color(190), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.drawPolyline(west);
-  painter.drawPolyline(east);
+  painter.drawPolyline(peak.west);
+  painter.drawPolyline(peak.east);
   painter.setPen(QPen(style.ink.color(120), 1.0));
-  painter.drawPolyline(ridge.mid(0, 3));
+  painter.drawPolyline(peak.ridge.mid(0, 3));
+}
+
+void DrawPeak(QPainter& painter, const RegionStyle& style, const Peak& peak) {
+  FillFaces(painter, style, peak);
+  if (peak.tall > 34 && style.tree != Tree::Palm && style.tree != Tree::Dead) {
+    DrawSnowCap(painter, style, peak);
+  }
+  OutlinePeak(painter, style, peak);
 }
 
 void DrawWave(QPainter& painter, const RegionStyle& style, Point at) {
@@ -276,7 +303,7 @@ void DrawSigns(QPainter& painter, const Terrain::Field& field, const RegionStyle
   Random random(field.shape->seed + 4400);
   for (const Sign& sign : strewer.signs()) {
     if (sign.kind == Sign::Kind::Peak) {
-      DrawPeak(painter, style, sign, random);
+      DrawPeak(painter, style, MakePeak(sign, random));
     } else {
       const QPoint foot(static_cast<int>(sign.at.x * Scale), static_cast<int>(sign.at.y * Scale));
       painter.drawImage(foot - QPoint(TreeWidth / 2, TreeHeight - 3),

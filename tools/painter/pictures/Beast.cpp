@@ -1,8 +1,64 @@
 #include "pictures/Beast.h"
 
+#include <cmath>
+#include <span>
+#include <vector>
+
 namespace Pictures {
 
 namespace {
+
+/// A point that moves outward with the head: `share` times half its width is added to `x`.
+struct Spot {
+  double x, y;
+  double share = 0;
+};
+
+constexpr Spot PointedEar[] = {{50, 36, -0.92}, {48, 8, -0.82}, {50, 25, -0.2}};
+constexpr Spot PointedEarInside[] = {{52, 32, -0.86}, {50, 15, -0.76}, {48, 26, -0.32}};
+constexpr Spot LongEar[] = {{54, 38, -1}, {22, 28, -0.72}, {24, 38, -0.72}, {53, 52, -1}};
+constexpr Spot TornEar[] = {{53, 38, -1}, {42, 30, -1}, {44, 39, -1}, {41, 46, -1}, {53, 52, -1}};
+
+constexpr Spot BullHorn[] = {
+    {54, 30, -0.9}, {34, 26, -0.9}, {24, 8, -0.7}, {31, 20, -0.8}, {54, 20, -0.6}};
+constexpr Spot RamHorn[] = {
+    {50, 22, -0.5}, {36, 4, -0.6}, {40, -4, -0.6}, {48, 4, -0.4}, {54, 18, -0.3}};
+
+// Heads from the crown down the left side; the right side mirrors it.
+constexpr Spot WolfHead[] = {{50, 19},       {50, 24, -0.7}, {50, 42, -1}, {50, 52, -1.05},
+                             {50, 66, -0.5}, {42, 82},       {50, 86}};
+constexpr Spot BullHead[] = {{50, 18},       {50, 22, -0.8}, {50, 40, -1},
+                             {50, 60, -0.7}, {36, 80},       {50, 86}};
+constexpr Spot ReptileHead[] = {{50, 22},       {50, 26, -0.6}, {50, 44, -1},
+                                {50, 62, -0.9}, {38, 82},       {50, 86}};
+constexpr Spot SkullHead[] = {{50, 14},        {50, 20, -0.8}, {50, 40, -1},
+                              {50, 58, -0.75}, {39, 66},       {40, 82}};
+constexpr Spot FlatHead[] = {{50, 17},        {50, 22, -0.8},  {50, 42, -1},
+                             {50, 62, -0.95}, {50, 78, -0.55}, {50, 84}};
+
+QPointF Placed(const Spot& spot, const Beast& beast) {
+  return {spot.x + spot.share * beast.width, spot.y};
+}
+
+std::vector<QPointF> Placed(std::span<const Spot> spots, const Beast& beast) {
+  std::vector<QPointF> points;
+  for (const Spot& spot : spots) {
+    points.push_back(Placed(spot, beast));
+  }
+  return points;
+}
+
+// Spots on the middle line are their own mirror image.
+std::vector<QPointF> PlacedOnBothSides(std::span<const Spot> spots, const Beast& beast) {
+  std::vector<QPointF> points = Placed(spots, beast);
+  for (std::size_t i = spots.size(); i-- > 0;) {
+    const Spot mirrored{100 - spots[i].x, spots[i].y, -spots[i].share};
+    if (mirrored.x != spots[i].x || mirrored.share != 0) {
+      points.push_back(Placed(mirrored, beast));
+    }
+  }
+  return points;
+}
 
 Tone Dark(const Beast& beast) {
   return beast.hide.towards(Ink, 0.6);
@@ -24,146 +80,88 @@ void PaintNeck(Canvas& canvas, const Beast& beast) {
   }
 }
 
+void PaintPointedEars(Canvas& canvas, const Beast& beast) {
+  canvas.pair(Angular(Placed(PointedEar, beast)), beast.hide);
+  const QPainterPath inside = Angular(Placed(PointedEarInside, beast));
+  canvas.flat(inside, Dark(beast).color());
+  canvas.flat(Mirrored(inside), Dark(beast).color());
+}
+
+void PaintRoundEars(Canvas& canvas, const Beast& beast) {
+  const double away = beast.width * 0.85;
+  canvas.pair(Oval({50 - away, 25}, 8, 8), beast.hide);
+  canvas.flat(Oval({50 - away, 26}, 4.4, 4.4), Dark(beast).color());
+  canvas.flat(Oval({50 + away, 26}, 4.4, 4.4), Dark(beast).color());
+}
+
 void PaintEars(Canvas& canvas, const Beast& beast) {
-  const double w = beast.width;
   switch (beast.ears) {
     case Ears::None:
       return;
     case Ears::Pointed:
-      canvas.pair(Angular({{50 - w * 0.92, 36}, {48 - w * 0.82, 8}, {50 - w * 0.2, 25}}),
-                  beast.hide);
-      canvas.flat(Angular({{52 - w * 0.86, 32}, {50 - w * 0.76, 15}, {48 - w * 0.32, 26}}),
-                  Dark(beast).color());
-      canvas.flat(
-          Mirrored(Angular({{52 - w * 0.86, 32}, {50 - w * 0.76, 15}, {48 - w * 0.32, 26}})),
-          Dark(beast).color());
-      return;
+      return PaintPointedEars(canvas, beast);
     case Ears::Round:
-      canvas.pair(Oval({50 - w * 0.85, 25}, 8, 8), beast.hide);
-      canvas.flat(Oval({50 - w * 0.85, 26}, 4.4, 4.4), Dark(beast).color());
-      canvas.flat(Oval({50 + w * 0.85, 26}, 4.4, 4.4), Dark(beast).color());
-      return;
+      return PaintRoundEars(canvas, beast);
     case Ears::Long:
-      canvas.pair(Angular({{54 - w, 38}, {22 - w * 0.72, 28}, {24 - w * 0.72, 38}, {53 - w, 52}}),
-                  beast.hide);
-      return;
+      return canvas.pair(Angular(Placed(LongEar, beast)), beast.hide);
     case Ears::Torn:
-      canvas.pair(Angular({{53 - w, 38}, {42 - w, 30}, {44 - w, 39}, {41 - w, 46}, {53 - w, 52}}),
-                  beast.hide.lit(0.9));
-      return;
+      return canvas.pair(Angular(Placed(TornEar, beast)), beast.hide.lit(0.9));
+  }
+}
+
+void PaintAntlers(Canvas& canvas) {
+  for (const double tine : {0.0, 8.0, 16.0}) {
+    const QPointF left(36 - tine * 0.9, 20 - tine * 0.5);
+    const QPointF right(100 - left.x(), left.y());
+    canvas.line(left, left + QPointF(2, -11), Ink.color(), 4.2);
+    canvas.line(left, left + QPointF(2, -11), Bone.lit(0.8).color(), 2.8);
+    canvas.line(right, right + QPointF(-2, -11), Ink.color(), 4.2);
+    canvas.line(right, right + QPointF(-2, -11), Bone.lit(0.7).color(), 2.8);
+  }
+  canvas.line({45, 26}, {20, 11}, Bone.lit(0.8).color(), 3.4);
+  canvas.line({55, 26}, {80, 11}, Bone.lit(0.7).color(), 3.4);
+}
+
+void PaintSpikes(Canvas& canvas, const Beast& beast) {
+  for (int spike = -2; spike <= 2; ++spike) {
+    const double x = 50 + spike * beast.width * 0.38;
+    const double top = 7.0 + std::abs(spike) * 3;
+    canvas.body(Angular({{x - 3.4, 23}, {x + spike * 2.0, top}, {x + 3.4, 23}}),
+                Dark(beast).lit(1.3), 0.6);
   }
 }
 
 void PaintHorns(Canvas& canvas, const Beast& beast) {
-  const double w = beast.width;
   switch (beast.horns) {
     case Horns::None:
       return;
     case Horns::Bull:
-      canvas.pair(Rounded({{54 - w * 0.9, 30},
-                           {34 - w * 0.9, 26},
-                           {24 - w * 0.7, 8},
-                           {31 - w * 0.8, 20},
-                           {54 - w * 0.6, 20}}),
-                  Bone);
-      return;
+      return canvas.pair(Rounded(Placed(BullHorn, beast)), Bone);
     case Horns::Ram:
-      canvas.pair(Rounded({{50 - w * 0.5, 22},
-                           {36 - w * 0.6, 4},
-                           {40 - w * 0.6, -4},
-                           {48 - w * 0.4, 4},
-                           {54 - w * 0.3, 18}}),
-                  Tone{92, 72, 62});
-      return;
+      return canvas.pair(Rounded(Placed(RamHorn, beast)), Tone{92, 72, 62});
     case Horns::Antlers:
-      for (const double tine : {0.0, 8.0, 16.0}) {
-        const QPointF fork(36 - tine * 0.9, 20 - tine * 0.5);
-        canvas.line(fork, fork + QPointF(2, -11), Ink.color(), 4.2);
-        canvas.line(fork, fork + QPointF(2, -11), Bone.lit(0.8).color(), 2.8);
-        canvas.line({100 - fork.x(), fork.y()}, QPointF(98 - fork.x(), fork.y() - 11), Ink.color(),
-                    4.2);
-        canvas.line({100 - fork.x(), fork.y()}, QPointF(98 - fork.x(), fork.y() - 11),
-                    Bone.lit(0.7).color(), 2.8);
-      }
-      canvas.line({45, 26}, {20, 11}, Bone.lit(0.8).color(), 3.4);
-      canvas.line({55, 26}, {80, 11}, Bone.lit(0.7).color(), 3.4);
-      return;
+      return PaintAntlers(canvas);
     case Horns::Spikes:
-      for (int spike = -2; spike <= 2; ++spike) {
-        const double x = 50 + spike * w * 0.38;
-        canvas.body(
-            Angular({{x - 3.4, 23}, {x + spike * 2.0, 7.0 + std::abs(spike) * 3}, {x + 3.4, 23}}),
-            Dark(beast).lit(1.3), 0.6);
-      }
-      return;
+      return PaintSpikes(canvas, beast);
   }
 }
 
-QPainterPath HeadOf(const Beast& beast) {
-  const double w = beast.width;
-  switch (beast.muzzle) {
+std::span<const Spot> HeadOf(Muzzle muzzle) {
+  switch (muzzle) {
     case Muzzle::Wolf:
-      return Rounded({{50, 19},
-                      {50 - w * 0.7, 24},
-                      {50 - w, 42},
-                      {50 - w * 1.05, 52},
-                      {50 - w * 0.5, 66},
-                      {42, 82},
-                      {50, 86},
-                      {58, 82},
-                      {50 + w * 0.5, 66},
-                      {50 + w * 1.05, 52},
-                      {50 + w, 42},
-                      {50 + w * 0.7, 24}});
+      return WolfHead;
     case Muzzle::Bull:
     case Muzzle::Boar:
-      return Rounded({{50, 18},
-                      {50 - w * 0.8, 22},
-                      {50 - w, 40},
-                      {50 - w * 0.7, 60},
-                      {36, 80},
-                      {50, 86},
-                      {64, 80},
-                      {50 + w * 0.7, 60},
-                      {50 + w, 40},
-                      {50 + w * 0.8, 22}});
+      return BullHead;
     case Muzzle::Reptile:
-      return Rounded({{50, 22},
-                      {50 - w * 0.6, 26},
-                      {50 - w, 44},
-                      {50 - w * 0.9, 62},
-                      {38, 82},
-                      {50, 86},
-                      {62, 82},
-                      {50 + w * 0.9, 62},
-                      {50 + w, 44},
-                      {50 + w * 0.6, 26}});
+      return ReptileHead;
     case Muzzle::Skull:
-      return Rounded({{50, 14},
-                      {50 - w * 0.8, 20},
-                      {50 - w, 40},
-                      {50 - w * 0.75, 58},
-                      {39, 66},
-                      {40, 82},
-                      {60, 82},
-                      {61, 66},
-                      {50 + w * 0.75, 58},
-                      {50 + w, 40},
-                      {50 + w * 0.8, 20}});
+      return SkullHead;
     case Muzzle::Bear:
     case Muzzle::Flat:
       break;
   }
-  return Rounded({{50, 17},
-                  {50 - w * 0.8, 22},
-                  {50 - w, 42},
-                  {50 - w * 0.95, 62},
-                  {50 - w * 0.55, 78},
-                  {50, 84},
-                  {50 + w * 0.55, 78},
-                  {50 + w * 0.95, 62},
-                  {50 + w, 42},
-                  {50 + w * 0.8, 22}});
+  return FlatHead;
 }
 
 void PaintEyes(Canvas& canvas, const Beast& beast) {
@@ -185,63 +183,83 @@ void PaintEyes(Canvas& canvas, const Beast& beast) {
   }
 }
 
-void PaintSnout(Canvas& canvas, const Beast& beast) {
+// Both nostrils, `away` from the middle line.
+void PaintNostrils(Canvas& canvas, double away, double y, double across, double down) {
+  canvas.flat(Oval({50 - away, y}, across, down), Ink.color());
+  canvas.flat(Oval({50 + away, y}, across, down), Ink.color());
+}
+
+void PaintLongSnout(Canvas& canvas, const Beast& beast, double half) {
+  canvas.body(Rounded({{50, 46},
+                       {50 - half * 0.7, 54},
+                       {50 - half, 68},
+                       {50 - half * 0.6, 79},
+                       {50, 82},
+                       {50 + half * 0.6, 79},
+                       {50 + half, 68},
+                       {50 + half * 0.7, 54}}),
+              beast.hide.towards(Bone, 0.4), 0.5);
+  canvas.flat(Rounded({{44.5, 63}, {50, 61}, {55.5, 63}, {50, 70}}), Ink.color());
+  canvas.line({50, 69}, {50, 74}, Ink.color(), 1.2);
+  canvas.line(Rounded({{41, 76}, {45, 77}, {50, 74}, {55, 77}, {59, 76}, {50, 78}}), Ink.color(),
+              1.2);
+}
+
+void PaintBoarSnout(Canvas& canvas, const Beast& beast) {
+  canvas.body(Oval({50, 71}, 12, 8.4), beast.hide.towards({206, 140, 126}, 0.6));
+  PaintNostrils(canvas, 4.5, 71, 2.4, 3.6);
+}
+
+void PaintBullSnout(Canvas& canvas, const Beast& beast) {
+  canvas.body(Rounded({{35, 66}, {50, 60}, {65, 66}, {62, 82}, {50, 86}, {38, 82}}),
+              beast.hide.towards(Bone, 0.25));
+  PaintNostrils(canvas, 7, 71, 2.8, 2.0);
+  canvas.line(Oval({50, 78}, 5.2, 5.2), Gold.color(), 1.8);
+}
+
+void PaintReptileSnout(Canvas& canvas, const Beast& beast) {
   const Tone dark = Dark(beast);
+  PaintNostrils(canvas, 5, 66, 1.5, 2.2);
+  canvas.line(Rounded({{32, 72}, {42, 77}, {50, 75}, {58, 77}, {68, 72}, {50, 79}}), dark.color(),
+              1.4);
+  for (int scale = 0; scale < 14; ++scale) {
+    canvas.line(Oval({36 + (scale % 5) * 7.0, 28 + (scale / 5) * 6.0}, 2.2, 1.5), dark.color(110),
+                0.6);
+  }
+}
+
+void PaintBareJaw(Canvas& canvas) {
+  canvas.flat(Angular({{50, 51}, {45.6, 60}, {54.4, 60}}), Ink.color());
+  for (int tooth = 0; tooth < 6; ++tooth) {
+    const double x = 41.5 + tooth * 3.4;
+    canvas.line({x, 67}, {x, 80}, Ink.color(190), 1.1);
+  }
+  canvas.line({39, 73}, {61, 73}, Ink.color(), 1.4);
+}
+
+void PaintFlatNose(Canvas& canvas, const Beast& beast) {
+  canvas.body(Rounded({{50, 46}, {46, 56}, {43.5, 62}, {50, 65}, {56.5, 62}, {54, 56}}),
+              beast.hide.lit(1.08), 0.5);
+  PaintNostrils(canvas, 3.2, 62, 1.5, 1.2);
+  canvas.flat(Rounded({{34, 70}, {50, 67.5}, {66, 70}, {50, 76}}), Ink.color());
+}
+
+void PaintSnout(Canvas& canvas, const Beast& beast) {
   switch (beast.muzzle) {
     case Muzzle::Wolf:
-    case Muzzle::Bear: {
-      const double half = beast.muzzle == Muzzle::Bear ? 14 : 9.5;
-      canvas.body(Rounded({{50, 46},
-                           {50 - half * 0.7, 54},
-                           {50 - half, 68},
-                           {50 - half * 0.6, 79},
-                           {50, 82},
-                           {50 + half * 0.6, 79},
-                           {50 + half, 68},
-                           {50 + half * 0.7, 54}}),
-                  beast.hide.towards(Bone, 0.4), 0.5);
-      canvas.flat(Rounded({{44.5, 63}, {50, 61}, {55.5, 63}, {50, 70}}), Ink.color());
-      canvas.line({50, 69}, {50, 74}, Ink.color(), 1.2);
-      canvas.line(Rounded({{41, 76}, {45, 77}, {50, 74}, {55, 77}, {59, 76}, {50, 78}}),
-                  Ink.color(), 1.2);
-      return;
-    }
+      return PaintLongSnout(canvas, beast, 9.5);
+    case Muzzle::Bear:
+      return PaintLongSnout(canvas, beast, 14);
     case Muzzle::Boar:
-      canvas.body(Oval({50, 71}, 12, 8.4), beast.hide.towards({206, 140, 126}, 0.6));
-      canvas.flat(Oval({45.5, 71}, 2.4, 3.6), Ink.color());
-      canvas.flat(Oval({54.5, 71}, 2.4, 3.6), Ink.color());
-      return;
+      return PaintBoarSnout(canvas, beast);
     case Muzzle::Bull:
-      canvas.body(Rounded({{35, 66}, {50, 60}, {65, 66}, {62, 82}, {50, 86}, {38, 82}}),
-                  beast.hide.towards(Bone, 0.25));
-      canvas.flat(Oval({43, 71}, 2.8, 2.0), Ink.color());
-      canvas.flat(Oval({57, 71}, 2.8, 2.0), Ink.color());
-      canvas.line(Oval({50, 78}, 5.2, 5.2), Gold.color(), 1.8);
-      return;
+      return PaintBullSnout(canvas, beast);
     case Muzzle::Reptile:
-      canvas.flat(Oval({45, 66}, 1.5, 2.2), Ink.color());
-      canvas.flat(Oval({55, 66}, 1.5, 2.2), Ink.color());
-      canvas.line(Rounded({{32, 72}, {42, 77}, {50, 75}, {58, 77}, {68, 72}, {50, 79}}),
-                  dark.color(), 1.4);
-      for (int scale = 0; scale < 14; ++scale) {
-        canvas.line(Oval({36 + (scale % 5) * 7.0, 28 + (scale / 5) * 6.0}, 2.2, 1.5),
-                    dark.color(110), 0.6);
-      }
-      return;
+      return PaintReptileSnout(canvas, beast);
     case Muzzle::Skull:
-      canvas.flat(Angular({{50, 51}, {45.6, 60}, {54.4, 60}}), Ink.color());
-      for (int tooth = 0; tooth < 6; ++tooth) {
-        canvas.line({41.5 + tooth * 3.4, 67}, {41.5 + tooth * 3.4, 80}, Ink.color(190), 1.1);
-      }
-      canvas.line({39, 73}, {61, 73}, Ink.color(), 1.4);
-      return;
+      return PaintBareJaw(canvas);
     case Muzzle::Flat:
-      canvas.body(Rounded({{50, 46}, {46, 56}, {43.5, 62}, {50, 65}, {56.5, 62}, {54, 56}}),
-                  beast.hide.lit(1.08), 0.5);
-      canvas.flat(Oval({46.8, 62}, 1.5, 1.2), Ink.color());
-      canvas.flat(Oval({53.2, 62}, 1.5, 1.2), Ink.color());
-      canvas.flat(Rounded({{34, 70}, {50, 67.5}, {66, 70}, {50, 76}}), Ink.color());
-      return;
+      return PaintFlatNose(canvas, beast);
   }
 }
 
@@ -273,7 +291,7 @@ void PaintBeast(Canvas& canvas, const Beast& beast) {
     PaintHorns(canvas, beast);
   }
   PaintEars(canvas, beast);
-  canvas.body(HeadOf(beast), beast.hide);
+  canvas.body(Rounded(PlacedOnBothSides(HeadOf(beast.muzzle), beast)), beast.hide);
   if (beast.horns == Horns::Spikes) {
     PaintHorns(canvas, beast);
   }

@@ -6,9 +6,13 @@
 
 namespace Pictures {
 
+/// `Torn` ones stick out short and ragged, `Long` ones far to the sides.
 enum class Ears { None, Pointed, Round, Long, Torn };
+/// What the face ends in; it decides on the shape of the whole head too.
 enum class Muzzle { Flat, Wolf, Boar, Bear, Bull, Reptile, Skull };
+/// What stands on the head; only spikes grow in front of it.
 enum class Horns { None, Bull, Ram, Antlers, Spikes };
+/// Fangs point down, tusks up; `Rows` bares the whole upper jaw.
 enum class Teeth { None, Fangs, Tusks, Rows };
 
 /// A creature seen face to face.
@@ -27,6 +31,7 @@ struct Beast {
   bool mane;
 };
 
+/// Covers the canvas: backdrop, neck and head.
 void PaintBeast(Canvas& canvas, const Beast& beast);
 
 }  // namespace Pictures

@@ -1,7 +1,5 @@
 #include "pictures/Canvas.h"
 
-#include <vector>
-
 namespace Pictures {
 
 namespace {
@@ -25,26 +23,33 @@ void DrawFrame(QPainter& painter) {
 
 }  // namespace
 
-QPainterPath Rounded(std::initializer_list<QPointF> points) {
-  const std::vector<QPointF> p(points);
-  const std::size_t count = p.size();
-  QPainterPath path(p[0]);
+QPainterPath Rounded(std::span<const QPointF> points) {
+  const std::size_t count = points.size();
+  QPainterPath path(points[0]);
   for (std::size_t i = 0; i < count; ++i) {
-    const QPointF before = p[(i + count - 1) % count];
-    const QPointF from = p[i];
-    const QPointF to = p[(i + 1) % count];
-    const QPointF after = p[(i + 2) % count];
+    const QPointF before = points[(i + count - 1) % count];
+    const QPointF from = points[i];
+    const QPointF to = points[(i + 1) % count];
+    const QPointF after = points[(i + 2) % count];
     path.cubicTo(from + (to - before) / 6, to - (after - from) / 6, to);
   }
   path.closeSubpath();
   return path;
 }
 
-QPainterPath Angular(std::initializer_list<QPointF> points) {
+QPainterPath Rounded(std::initializer_list<QPointF> points) {
+  return Rounded(std::span(points.begin(), points.size()));
+}
+
+QPainterPath Angular(std::span<const QPointF> points) {
   QPainterPath path;
-  path.addPolygon(QPolygonF(QList<QPointF>(points)));
+  path.addPolygon(QPolygonF(QList<QPointF>(points.begin(), points.end())));
   path.closeSubpath();
   return path;
+}
+
+QPainterPath Angular(std::initializer_list<QPointF> points) {
+  return Angular(std::span(points.begin(), points.size()));
 }
 
 QPainterPath Oval(QPointF middle, double across, double down) {

@@ -31,51 +31,57 @@ QPainterPath Bars(std::initializer_list<QRectF> bars) {
 }
 
 // Each sign fits into a circle of radius 6 around the origin.
+constexpr QPointF FlameLine[] = {{0, -6},  {2, -2},   {4, 0},    {3.4, 4},
+                                 {0, 5.6}, {-3.4, 4}, {-4, 0.6}, {-1.6, -1}};
+constexpr QPointF DropLine[] = {{0, -6}, {2, -2}, {4, 2}, {2.4, 5}, {-2.4, 5}, {-4, 2}, {-2, -2}};
+constexpr QPointF LeafLine[] = {{4.6, -5}, {4, 1}, {0, 4}, {-5, 5.4}, {-3.4, -1}, {0, -4}};
+constexpr QPointF FlaskLine[] = {{-1.3, -5.6}, {1.3, -5.6}, {1.3, -1},
+                                 {4.8, 4.6},   {-4.8, 4.6}, {-1.3, -1}};
+constexpr QPointF DaggerLine[] = {{0, 6},       {-1.4, 0},    {-4, 0},     {-4, -1.6},
+                                  {-0.9, -1.6}, {-0.9, -5.6}, {0.9, -5.6}, {0.9, -1.6},
+                                  {4, -1.6},    {4, 0},       {1.4, 0}};
+
+QPainterPath BowSign() {
+  QPainterPath bow(QPointF(-2, -6));
+  bow.quadTo(QPointF(7, 0), QPointF(-2, 6));
+  bow.quadTo(QPointF(4.4, 0), QPointF(-2, -6));
+  bow.addRect(QRectF(-6, -0.5, 11, 1));
+  return bow;
+}
+
+QPainterPath SkullSign() {
+  return Oval({0, -1}, 4.6, 4.2)
+      .united(Bars({{-2.6, 1, 5.2, 4}}))
+      .subtracted(Oval({-1.8, -0.6}, 1.3, 1.4))
+      .subtracted(Oval({1.8, -0.6}, 1.3, 1.4));
+}
+
 QPainterPath SignOf(Emblem emblem) {
   switch (emblem) {
     case Emblem::None:
-      return {};
+      break;
     case Emblem::Flame:
-      return Rounded(
-          {{0, -6}, {2, -2}, {4, 0}, {3.4, 4}, {0, 5.6}, {-3.4, 4}, {-4, 0.6}, {-1.6, -1}});
+      return Rounded(FlameLine);
     case Emblem::Drop:
-      return Rounded({{0, -6}, {2, -2}, {4, 2}, {2.4, 5}, {-2.4, 5}, {-4, 2}, {-2, -2}});
+      return Rounded(DropLine);
     case Emblem::Leaf:
-      return Rounded({{4.6, -5}, {4, 1}, {0, 4}, {-5, 5.4}, {-3.4, -1}, {0, -4}});
+      return Rounded(LeafLine);
     case Emblem::Hammer:
       return Bars({{-4.6, -5, 9.2, 4}, {-1, -2, 2, 8}});
-    case Emblem::Bow: {
-      QPainterPath bow(QPointF(-2, -6));
-      bow.quadTo(QPointF(7, 0), QPointF(-2, 6));
-      bow.quadTo(QPointF(4.4, 0), QPointF(-2, -6));
-      bow.addRect(QRectF(-6, -0.5, 11, 1));
-      return bow;
-    }
+    case Emblem::Bow:
+      return BowSign();
     case Emblem::Flask:
-      return Angular({{-1.3, -5.6}, {1.3, -5.6}, {1.3, -1}, {4.8, 4.6}, {-4.8, 4.6}, {-1.3, -1}});
+      return Angular(FlaskLine);
     case Emblem::Coin:
       return Oval({0, 0}, 4.6, 4.6).subtracted(Oval({0, 0}, 2.6, 2.6));
     case Emblem::Sun:
       return Star(8, 6, 3);
     case Emblem::Skull:
-      return Oval({0, -1}, 4.6, 4.2)
-          .united(Bars({{-2.6, 1, 5.2, 4}}))
-          .subtracted(Oval({-1.8, -0.6}, 1.3, 1.4))
-          .subtracted(Oval({1.8, -0.6}, 1.3, 1.4));
+      return SkullSign();
     case Emblem::Crescent:
       return Oval({0, 0}, 5, 5).subtracted(Oval({2.2, -1}, 4.2, 4.2));
     case Emblem::Dagger:
-      return Angular({{0, 6},
-                      {-1.4, 0},
-                      {-4, 0},
-                      {-4, -1.6},
-                      {-0.9, -1.6},
-                      {-0.9, -5.6},
-                      {0.9, -5.6},
-                      {0.9, -1.6},
-                      {4, -1.6},
-                      {4, 0},
-                      {1.4, 0}});
+      return Angular(DaggerLine);
     case Emblem::Star:
       return Star(5, 6, 2.5);
     case Emblem::Cross:

@@ -10,8 +10,9 @@ void PaintFace(Canvas& canvas, const Person& person);
 
 /// What hangs behind the shoulders; goes before everything else of the person.
 void PaintBackHair(Canvas& canvas, const Person& person);
-void PaintHair(Canvas& canvas, const Person& person);
+/// What goes over the face, in this order; a person without it is left as they are.
 void PaintBeard(Canvas& canvas, const Person& person);
+void PaintHair(Canvas& canvas, const Person& person);
 void PaintHeadgear(Canvas& canvas, const Person& person);
 
 /// Half the width of the person's face at the cheeks, in canvas units.

@@ -107,6 +107,25 @@ void PaintHat(Canvas& canvas, const Person& person) {
   canvas.line(band, person.role.trim.color(), 2.4);
 }
 
+// Orcs wear the feather in a headband.
+void PaintFeatheredHat(Canvas& canvas, const Person& person) {
+  PaintFeather(canvas, person);
+  if (person.orc) {
+    canvas.line(QPointF(28, 26), QPointF(72, 26), person.role.trim.color(), 2.6);
+  } else {
+    PaintHat(canvas, person);
+  }
+}
+
+void PaintCirclet(Canvas& canvas, const Person& person) {
+  const double cheek = CheekOf(person) + 1;
+  QPainterPath band(QPointF(50 - cheek, 29));
+  band.quadTo(QPointF(50, 24), QPointF(50 + cheek, 29));
+  canvas.line(band, Ink.color(), 3.2);
+  canvas.line(band, Gold.color(), 2.2);
+  canvas.body(Angular({{50, 20.5}, {53, 26.5}, {50, 31}, {47, 26.5}}), person.role.cloth.lit(1.3));
+}
+
 void PaintBandana(Canvas& canvas, const Person& person) {
   const double cheek = CheekOf(person) + 1;
   canvas.body(Rounded({{50, 9},
@@ -198,6 +217,65 @@ void PaintOrcHair(Canvas& canvas, const Person& person) {
   }
 }
 
+// Half the width of the jaw, where beards begin.
+double JawOf(const Person& person) {
+  return CheekOf(person) * 0.93;
+}
+
+void PaintTuft(Canvas& canvas, const Person& person) {
+  canvas.body(Rounded({{44, 71}, {50, 70}, {56, 71}, {54, 84}, {50, 92}, {46, 84}}), person.hair,
+              0.6);
+  canvas.line(QPointF(46.5, 82), QPointF(53.5, 82), Gold.color(), 2);
+}
+
+void PaintStubble(Canvas& canvas, const Person& person) {
+  const double jaw = JawOf(person);
+  canvas.flat(Rounded({{50 - jaw, 54},
+                       {43, 59},
+                       {50, 57.5},
+                       {57, 59},
+                       {50 + jaw, 54},
+                       {49 + jaw * 0.8, 65},
+                       {50, ChinOf(person)},
+                       {51 - jaw * 0.8, 65}}),
+              person.hair.towards(Ink, 0.2).color(70));
+}
+
+void PaintGoatee(Canvas& canvas, const Person& person) {
+  const double chin = ChinOf(person);
+  canvas.body(
+      Rounded({{45, 67}, {50, 66}, {55, 67}, {53, chin + 3}, {50, chin + 6}, {47, chin + 3}}),
+      person.hair, 0.5);
+}
+
+void PaintFullBeard(Canvas& canvas, const Person& person) {
+  const double jaw = JawOf(person);
+  const double tip = ChinOf(person) + (person.beard == 4 ? 2 : person.beard == 5 ? 9 : 19);
+  const QPainterPath beard = Rounded({{50 - jaw - 1, 46},
+                                      {52.5 - jaw, 56},
+                                      {42, 58.5},
+                                      {50, 57.8},
+                                      {58, 58.5},
+                                      {47.5 + jaw, 56},
+                                      {51 + jaw, 46},
+                                      {50 + jaw, 63},
+                                      {50 + jaw * 0.55, tip - 4},
+                                      {50, tip},
+                                      {50 - jaw * 0.55, tip - 4},
+                                      {50 - jaw, 63}});
+  const double lip = 62.5 + 0.8 * person.jaw;
+  canvas.body(beard.subtracted(Oval({50, lip + 0.4}, 5.6, 1.9)), person.hair);
+  for (int strand = -3; strand <= 3; ++strand) {
+    canvas.line(QPointF(50 + strand * 3.6, 67), QPointF(50 + strand * 2.4, tip - 4),
+                person.hair.towards(Ink, 0.4).color(110), 0.6);
+  }
+}
+
+void PaintMoustache(Canvas& canvas, const Person& person) {
+  canvas.pair(Rounded({{50.4, 57.6}, {44, 58.6}, {39.5, 63.5}, {44, 62.4}, {50.4, 60.6}}),
+              person.hair, 0.5);
+}
+
 }  // namespace
 
 void PaintBackHair(Canvas& canvas, const Person& person) {
@@ -254,55 +332,21 @@ void PaintHair(Canvas& canvas, const Person& person) {
 
 void PaintBeard(Canvas& canvas, const Person& person) {
   if (person.orc && person.beard > 3) {
-    canvas.body(Rounded({{44, 71}, {50, 70}, {56, 71}, {54, 84}, {50, 92}, {46, 84}}), person.hair,
-                0.6);
-    canvas.line(QPointF(46.5, 82), QPointF(53.5, 82), Gold.color(), 2);
+    PaintTuft(canvas, person);
   }
   if (person.woman || person.orc || person.beard == 0) {
     return;
   }
-  const double jaw = CheekOf(person) * 0.93;
-  const double chin = ChinOf(person);
   if (person.beard == 1) {
-    canvas.flat(Rounded({{50 - jaw, 54},
-                         {43, 59},
-                         {50, 57.5},
-                         {57, 59},
-                         {50 + jaw, 54},
-                         {49 + jaw * 0.8, 65},
-                         {50, chin},
-                         {51 - jaw * 0.8, 65}}),
-                person.hair.towards(Ink, 0.2).color(70));
-    return;
-  }
-  if (person.beard >= 4) {
-    const double tip = chin + (person.beard == 4 ? 2 : person.beard == 5 ? 9 : 19);
-    QPainterPath beard = Rounded({{50 - jaw - 1, 46},
-                                  {52.5 - jaw, 56},
-                                  {42, 58.5},
-                                  {50, 57.8},
-                                  {58, 58.5},
-                                  {47.5 + jaw, 56},
-                                  {51 + jaw, 46},
-                                  {50 + jaw, 63},
-                                  {50 + jaw * 0.55, tip - 4},
-                                  {50, tip},
-                                  {50 - jaw * 0.55, tip - 4},
-                                  {50 - jaw, 63}});
-    const double lip = 62.5 + 0.8 * person.jaw;
-    canvas.body(beard.subtracted(Oval({50, lip + 0.4}, 5.6, 1.9)), person.hair);
-    for (int strand = -3; strand <= 3; ++strand) {
-      canvas.line(QPointF(50 + strand * 3.6, 67), QPointF(50 + strand * 2.4, tip - 4),
-                  person.hair.towards(Ink, 0.4).color(110), 0.6);
-    }
+    return PaintStubble(canvas, person);
   }
   if (person.beard == 3) {
-    canvas.body(
-        Rounded({{45, 67}, {50, 66}, {55, 67}, {53, chin + 3}, {50, chin + 6}, {47, chin + 3}}),
-        person.hair, 0.5);
+    PaintGoatee(canvas, person);
   }
-  canvas.pair(Rounded({{50.4, 57.6}, {44, 58.6}, {39.5, 63.5}, {44, 62.4}, {50.4, 60.6}}),
-              person.hair, 0.5);
+  if (person.beard >= 4) {
+    PaintFullBeard(canvas, person);
+  }
+  PaintMoustache(canvas, person);
 }
 
 void PaintHeadgear(Canvas& canvas, const Person& person) {
@@ -326,24 +370,10 @@ void PaintHeadgear(Canvas& canvas, const Person& person) {
       return PaintFurCap(canvas, person);
     case Headgear::Veil:
       return PaintVeil(canvas, person);
-    case Headgear::Circlet: {
-      const double cheek = CheekOf(person) + 1;
-      QPainterPath band(QPointF(50 - cheek, 29));
-      band.quadTo(QPointF(50, 24), QPointF(50 + cheek, 29));
-      canvas.line(band, Ink.color(), 3.2);
-      canvas.line(band, Gold.color(), 2.2);
-      canvas.body(Angular({{50, 20.5}, {53, 26.5}, {50, 31}, {47, 26.5}}),
-                  person.role.cloth.lit(1.3));
-      return;
-    }
+    case Headgear::Circlet:
+      return PaintCirclet(canvas, person);
     case Headgear::Feather:
-      PaintFeather(canvas, person);
-      if (!person.orc) {
-        PaintHat(canvas, person);
-      } else {
-        canvas.line(QPointF(28, 26), QPointF(72, 26), person.role.trim.color(), 2.6);
-      }
-      return;
+      return PaintFeatheredHat(canvas, person);
   }
 }
 

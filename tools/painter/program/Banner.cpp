@@ -43,18 +43,18 @@ void DrawTitle(QPainter& painter, const QString& text, double pixels, QPointF mi
 }  // namespace
 
 QImage PaintAboutBanner(const QImage& sheet, int scale) {
-  QImage image = Ground(sheet, QRect(420, 470, 1060, 407), QSize(404, 155), scale);
+  QImage image = Ground(sheet, QRect(420, 470, 1060, 400), QSize(400, 151), scale);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.drawImage(QPoint(18 * scale, 30 * scale), PaintProgramIcon(96 * scale));
+  painter.drawImage(QPoint(18 * scale, 28 * scale), PaintProgramIcon(96 * scale));
   painter.scale(scale, scale);
-  DrawTitle(painter, QStringLiteral("Orvalis"), 70, QPointF(256, 88));
-  DrawTitle(painter, QStringLiteral("Duskhold"), 24, QPointF(256, 126));
+  DrawTitle(painter, QStringLiteral("Orvalis"), 70, QPointF(254, 86));
+  DrawTitle(painter, QStringLiteral("Duskhold"), 24, QPointF(254, 124));
   return image;
 }
 
 QImage PaintPrintBanner(const QImage& sheet, int scale) {
-  QImage image = Ground(sheet, QRect(640, 480, 500, 520), QSize(149, 155), scale);
+  QImage image = Ground(sheet, QRect(640, 480, 500, 527), QSize(150, 158), scale);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);

@@ -1,5 +1,6 @@
 #include <QPainter>
 #include <QPainterPath>
+#include <span>
 
 #include "program/Icons.h"
 
@@ -37,9 +38,10 @@ void Disc(QPainter& painter, QPointF middle, double radius, const QColor& color)
   painter.drawEllipse(middle, radius, radius);
 }
 
-void Letter(QPainter& painter, const QColor& color) {
+void Info(QPainter& painter) {
+  Disc(painter, {8, 8}, 6.5, Blue);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(color);
+  painter.setBrush(Qt::white);
   painter.drawRect(QRectF(7, 7, 2, 5));
   painter.drawRect(QRectF(7, 4, 2, 2));
 }
@@ -177,6 +179,99 @@ void Book(QPainter& painter) {
   painter.drawLine(QPointF(8.5, 5), QPointF(8.5, 9));
 }
 
+void Draw(QPainter& painter, Sign sign) {
+  switch (sign) {
+    case Sign::Info:
+      return Info(painter);
+    case Sign::Document:
+      return Sheet(painter);
+    case Sign::Fight:
+      return Swords(painter);
+    case Sign::Hunting:
+      return Bow(painter);
+    case Sign::Magic:
+      return Flame(painter);
+    case Sign::Smith:
+      return Anvil(painter);
+    case Sign::Thief:
+      return Mask(painter);
+    case Sign::Alchemy:
+      return Flask(painter);
+    case Sign::Other:
+      return Scroll(painter);
+    case Sign::Perk:
+      return Star(painter);
+    case Sign::Root:
+      return Book(painter);
+  }
+}
+
+struct Stripe {
+  QRectF area;
+  QColor color;
+};
+
+constexpr QColor NightBlue(16, 44, 120);
+constexpr QColor Scarlet(204, 24, 44);
+
+constexpr Stripe GermanStripes[] = {{{0, 0, 16, 5}, QColor(24, 24, 24)},
+                                    {{0, 5, 16, 6}, QColor(214, 20, 24)},
+                                    {{0, 11, 16, 5}, QColor(250, 204, 20)}};
+constexpr Stripe FrenchStripes[] = {{{0, 0, 5, 16}, QColor(20, 56, 150)},
+                                    {{11, 0, 5, 16}, QColor(222, 36, 52)}};
+constexpr Stripe EnglishCross[] = {{{5, 0, 6, 16}, QColor(255, 255, 255)},
+                                   {{0, 5, 16, 6}, QColor(255, 255, 255)},
+                                   {{6, 0, 4, 16}, Scarlet},
+                                   {{0, 6, 16, 4}, Scarlet}};
+
+void Fill(QPainter& painter, std::span<const Stripe> stripes) {
+  for (const Stripe& stripe : stripes) {
+    painter.fillRect(stripe.area, stripe.color);
+  }
+}
+
+void Diagonals(QPainter& painter, const QColor& color, double width) {
+  painter.setPen(QPen(color, width));
+  painter.drawLine(QPointF(0, 0), QPointF(16, 16));
+  painter.drawLine(QPointF(16, 0), QPointF(0, 16));
+}
+
+void EnglishFlag(QPainter& painter) {
+  painter.fillRect(QRectF(0, 0, 16, 16), NightBlue);
+  Diagonals(painter, Qt::white, 3.2);
+  Diagonals(painter, Scarlet, 1.2);
+  Fill(painter, EnglishCross);
+}
+
+void NoFlag(QPainter& painter) {
+  painter.fillRect(QRectF(0, 0, 16, 16), QColor(226, 226, 226));
+  Disc(painter, {8, 8}, 4.5, QColor(170, 184, 200));
+  painter.setPen(QPen(Outline, 0.8));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawEllipse(QPointF(8, 8), 1.8, 4.5);
+  painter.drawLine(QPointF(3.5, 8), QPointF(12.5, 8));
+}
+
+void Draw(QPainter& painter, Flag flag) {
+  switch (flag) {
+    case Flag::German:
+      return Fill(painter, GermanStripes);
+    case Flag::French:
+      return Fill(painter, FrenchStripes);
+    case Flag::English:
+      return EnglishFlag(painter);
+    case Flag::None:
+      return NoFlag(painter);
+  }
+}
+
+void Border(QPainter& painter) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(QPen(QColor(0, 0, 0, 110), 1));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(QRectF(0.5, 0.5, 15, 15));
+}
+
 }  // namespace
 
 QImage PaintSign(Sign sign, int scale) {
@@ -185,42 +280,7 @@ QImage PaintSign(Sign sign, int scale) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);
-  switch (sign) {
-    case Sign::Info:
-      Disc(painter, {8, 8}, 6.5, Blue);
-      Letter(painter, Qt::white);
-      break;
-    case Sign::Document:
-      Sheet(painter);
-      break;
-    case Sign::Fight:
-      Swords(painter);
-      break;
-    case Sign::Hunting:
-      Bow(painter);
-      break;
-    case Sign::Magic:
-      Flame(painter);
-      break;
-    case Sign::Smith:
-      Anvil(painter);
-      break;
-    case Sign::Thief:
-      Mask(painter);
-      break;
-    case Sign::Alchemy:
-      Flask(painter);
-      break;
-    case Sign::Other:
-      Scroll(painter);
-      break;
-    case Sign::Perk:
-      Star(painter);
-      break;
-    case Sign::Root:
-      Book(painter);
-      break;
-  }
+  Draw(painter, sign);
   return image;
 }
 
@@ -230,42 +290,8 @@ QImage PaintFlag(Flag flag, int scale) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(scale, scale);
-  switch (flag) {
-    case Flag::German:
-      painter.fillRect(QRectF(0, 0, 16, 5), QColor(24, 24, 24));
-      painter.fillRect(QRectF(0, 5, 16, 6), QColor(214, 20, 24));
-      painter.fillRect(QRectF(0, 11, 16, 5), QColor(250, 204, 20));
-      break;
-    case Flag::French:
-      painter.fillRect(QRectF(0, 0, 5, 16), QColor(20, 56, 150));
-      painter.fillRect(QRectF(11, 0, 5, 16), QColor(222, 36, 52));
-      break;
-    case Flag::English:
-      painter.fillRect(QRectF(0, 0, 16, 16), QColor(16, 44, 120));
-      painter.setPen(QPen(Qt::white, 3.2));
-      painter.drawLine(QPointF(0, 0), QPointF(16, 16));
-      painter.drawLine(QPointF(16, 0), QPointF(0, 16));
-      painter.setPen(QPen(QColor(204, 24, 44), 1.2));
-      painter.drawLine(QPointF(0, 0), QPointF(16, 16));
-      painter.drawLine(QPointF(16, 0), QPointF(0, 16));
-      painter.fillRect(QRectF(5, 0, 6, 16), Qt::white);
-      painter.fillRect(QRectF(0, 5, 16, 6), Qt::white);
-      painter.fillRect(QRectF(6, 0, 4, 16), QColor(204, 24, 44));
-      painter.fillRect(QRectF(0, 6, 16, 4), QColor(204, 24, 44));
-      break;
-    case Flag::None:
-      painter.fillRect(QRectF(0, 0, 16, 16), QColor(226, 226, 226));
-      Disc(painter, {8, 8}, 4.5, QColor(170, 184, 200));
-      painter.setPen(QPen(Outline, 0.8));
-      painter.setBrush(Qt::NoBrush);
-      painter.drawEllipse(QPointF(8, 8), 1.8, 4.5);
-      painter.drawLine(QPointF(3.5, 8), QPointF(12.5, 8));
-      break;
-  }
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(QPen(QColor(0, 0, 0, 110), 1));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(QRectF(0.5, 0.5, 15, 15));
+  Draw(painter, flag);
+  Border(painter);
   return image;
 }
 

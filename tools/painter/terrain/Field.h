@@ -31,9 +31,11 @@ struct Field {
   Grid<float> floor;
   /// 1 in the middle of a river, 0 outside its banks.
   Grid<float> river;
+  /// None where the shape has no catchment.
   std::vector<River> rivers;
 };
 
+/// The land of a shape, which must outlive the field.
 [[nodiscard]] Field MakeField(const Shape& shape);
 
 /// Steepness at a frame place: change of height in 100 frame units.

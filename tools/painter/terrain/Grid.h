@@ -21,20 +21,23 @@ struct Point {
   return std::hypot(a.x - b.x, a.y - b.y);
 }
 
+/// `value` cut to 0 and 1.
 [[nodiscard]] inline double Clamp01(double value) {
   return std::clamp(value, 0.0, 1.0);
 }
 
+/// 0 up to `from`, 1 beyond `to`, rising between them without a kink.
 [[nodiscard]] inline double SmoothStep(double from, double to, double value) {
   const double t = Clamp01((value - from) / (to - from));
   return t * t * (3 - 2 * t);
 }
 
+/// From `a` at a `t` of 0 to `b` at 1; beyond these it goes on straight.
 [[nodiscard]] inline double Lerp(double a, double b, double t) {
   return a + (b - a) * t;
 }
 
-/// A rectangle of values; reads outside it yield the nearest edge's value.
+/// A rectangle of values, all of them `value` at first.
 template <typename T>
 class Grid {
  public:
@@ -53,10 +56,12 @@ class Grid {
     return x >= 0 && y >= 0 && x < width_ && y < height_;
   }
 
+  /// The cell must lie within the grid.
   [[nodiscard]] T& at(int x, int y) { return cells_[index(x, y)]; }
 
   [[nodiscard]] const T& at(int x, int y) const { return cells_[index(x, y)]; }
 
+  /// The value of the nearest cell within the grid, which must have one.
   [[nodiscard]] const T& clamped(int x, int y) const {
     return at(std::clamp(x, 0, width_ - 1), std::clamp(y, 0, height_ - 1));
   }

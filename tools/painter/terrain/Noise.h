@@ -28,11 +28,13 @@ class Random {
   /// From 0 up to but not including 1.
   [[nodiscard]] double next();
 
+  /// Evenly spread over that range.
   [[nodiscard]] double between(double from, double to) { return from + (to - from) * next(); }
 
   /// From 0 up to but not including `count`.
   [[nodiscard]] int below(int count) { return static_cast<int>(next() * count); }
 
+  /// True with a probability of 0 to 1.
   [[nodiscard]] bool chance(double probability) { return next() < probability; }
 
  private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
 #include <queue>
 
 #include "terrain/Noise.h"
@@ -60,6 +61,51 @@ void Smooth(Way& way) {
   }
 }
 
+/// Walkers that spread over the cells from a start, the one with the least cost first.
+class Search {
+ public:
+  Search(int width, int height) : cost_(width, height, Impassable), cameBy_(width, height) {}
+
+  /// A walker enters a cell by that step, unless another was there at no higher cost.
+  void reach(int x, int y, float cost, const Step* step = nullptr) {
+    if (cost < cost_.at(x, y)) {
+      cost_.at(x, y) = cost;
+      cameBy_.at(x, y) = step;
+      walkers_.push({cost, x, y});
+    }
+  }
+
+  /// The walker to go on from; none where every cell is either settled or out of reach.
+  [[nodiscard]] std::optional<Walker> next() {
+    while (!walkers_.empty()) {
+      const Walker walker = walkers_.top();
+      walkers_.pop();
+      if (walker.cost <= cost_.at(walker.x, walker.y)) {
+        return walker;
+      }
+    }
+    return std::nullopt;
+  }
+
+  /// The walker's way from the start, through the middles of cells.
+  [[nodiscard]] Way wayTo(Walker walker, Point start) const {
+    Way way;
+    while (const Step* step = cameBy_.at(walker.x, walker.y)) {
+      way.push_back({walker.x * CellSize + 2.0, walker.y * CellSize + 2.0});
+      walker.x -= step->x;
+      walker.y -= step->y;
+    }
+    way.push_back(start);
+    std::ranges::reverse(way);
+    return way;
+  }
+
+ private:
+  Grid<float> cost_;
+  Grid<const Step*> cameBy_;
+  std::priority_queue<Walker, std::vector<Walker>, std::greater<>> walkers_;
+};
+
 struct Pair {
   std::size_t a, b;
   double distance;
@@ -99,43 +145,18 @@ Way RoadNetwork::find(Point from, Point to) const {
 }
 
 Way RoadNetwork::find(Point from, const Grid<char>& goals) const {
-  Grid<float> cost(effort_.width(), effort_.height(), Impassable);
-  Grid<int> cameBy(effort_.width(), effort_.height(), -1);
-  std::priority_queue<Walker, std::vector<Walker>, std::greater<>> walkers;
-  const int startX = CellOf(from.x, cost.width());
-  const int startY = CellOf(from.y, cost.height());
-  cost.at(startX, startY) = 0;
-  walkers.push({0, startX, startY});
-  while (!walkers.empty()) {
-    Walker walker = walkers.top();
-    walkers.pop();
-    if (walker.cost > cost.at(walker.x, walker.y)) {
-      continue;
+  Search search(goals.width(), goals.height());
+  search.reach(CellOf(from.x, goals.width()), CellOf(from.y, goals.height()), 0);
+  while (const std::optional<Walker> walker = search.next()) {
+    if (goals.at(walker->x, walker->y)) {
+      return search.wayTo(*walker, from);
     }
-    if (goals.at(walker.x, walker.y)) {
-      Way way;
-      while (cameBy.at(walker.x, walker.y) >= 0) {
-        way.push_back({walker.x * CellSize + 2.0, walker.y * CellSize + 2.0});
-        const Step& step = Steps[cameBy.at(walker.x, walker.y)];
-        walker.x -= step.x;
-        walker.y -= step.y;
-      }
-      way.push_back(from);
-      std::ranges::reverse(way);
-      return way;
-    }
-    for (int i = 0; i < static_cast<int>(std::size(Steps)); ++i) {
-      const int x = walker.x + Steps[i].x;
-      const int y = walker.y + Steps[i].y;
-      if (!cost.contains(x, y)) {
-        continue;
-      }
-      const float effort = effort_.at(x, y) * (trodden_.at(x, y) ? KnownWay : 1.0F);
-      const float reached = walker.cost + effort * Steps[i].length;
-      if (reached < cost.at(x, y)) {
-        cost.at(x, y) = reached;
-        cameBy.at(x, y) = i;
-        walkers.push({reached, x, y});
+    for (const Step& step : Steps) {
+      const int x = walker->x + step.x;
+      const int y = walker->y + step.y;
+      if (goals.contains(x, y)) {
+        const float effort = effort_.at(x, y) * (trodden_.at(x, y) ? KnownWay : 1.0F);
+        search.reach(x, y, walker->cost + effort * step.length, &step);
       }
     }
   }

@@ -9,6 +9,7 @@
 
 namespace Terrain {
 
+/// What decides on heights, moisture and snow; under ground there are halls instead of land.
 enum class Climate { Temperate, Arctic, Desert, Barren, Underground };
 
 /// A closed line in frame units; the last point joins the first.
