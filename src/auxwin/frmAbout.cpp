@@ -15,9 +15,9 @@ using QtText::ToQt;
 namespace {
 
 constexpr TextView Disclaimer =
-    u"Nutzungsbedingungen: Orvalis ist kostenlos und darf nur zu nichtkommerziellen Zwecken "
-    u"verwendet werden. Die Veröffentlichung auf anderen Webseiten ist nur mit Erlaubnis der "
-    u"Autoren gestattet. Anfragen bitte an die oben genannte E-Mail-Adresse.";
+    u"Nutzungsbedingungen: Die Karten von Orvalis sind kostenlos und dürfen nur zu "
+    u"nichtkommerziellen Zwecken verwendet werden. Ihre Veröffentlichung auf anderen Webseiten ist "
+    u"nur mit Erlaubnis der Autoren gestattet. Anfragen bitte an die oben genannte E-Mail-Adresse.";
 
 constexpr TextView Sources =
     u"Quellen: Die Angaben auf den Karten stammen von den Seiten der Gemeinschaft, dem "
@@ -82,6 +82,8 @@ constexpr DialogDesign WindowDesign = {.name = u"frmAbout",
                                        .cancelButton = u"btnOK",
                                        .controls = Controls};
 
+// Pixels between the control's edge and the picture.
+constexpr int BannerFrame = 2;
 constexpr int Gray = 0x808080;
 constexpr int White = 0xFFFFFF;
 
@@ -149,8 +151,11 @@ void frmAbout::StopMusic() {
 
 void frmAbout::ShowBanner() {
   QLabel& banner = Label(u"picBanner");
+  banner.setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  banner.setLineWidth(BannerFrame);
   banner.setScaledContents(true);
-  banner.setPixmap(QIcon(QStringLiteral(":/builtin/banner-about.png")).pixmap(banner.size()));
+  banner.setPixmap(
+      QIcon(QStringLiteral(":/builtin/banner-about.png")).pixmap(banner.contentsRect().size()));
 }
 
 void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,

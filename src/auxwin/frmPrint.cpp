@@ -25,6 +25,8 @@ constexpr TextView PdfName = u"Orvalis.pdf";
 constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
 constexpr double FadeWidth = 0.1;
+// Pixels of the picture.
+constexpr QSize BannerSize(150, 158);
 
 constexpr ControlDesign Controls[] = {
     {.name = u"imgBanner",
@@ -88,7 +90,7 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
 void frmPrint::ShowBanner() {
   // A picture without an alpha channel would fade to black.
   QImage banner = QIcon(QStringLiteral(":/builtin/banner-print.png"))
-                      .pixmap(imgBanner->size())
+                      .pixmap(BannerSize)
                       .toImage()
                       .convertToFormat(QImage::Format_ARGB32_Premultiplied);
   imgBanner->setScaledContents(true);

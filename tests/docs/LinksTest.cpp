@@ -48,8 +48,8 @@ class Pages : public testing::TestWithParam<const char*> {};
 }  // namespace
 
 TEST_P(Pages, NameOnlyWhatIsThere) {
-  static const std::regex link(R"(\]\(([^)#:]+\.md|LICENSE)[)#])");
-  static const std::regex path(R"(`((?:src|tests|docs|world|bench|tools|packaging)/[^`*]*)`)");
+  static const std::regex link(R"(\]\(([^)#:]+\.(?:md|jpg)|LICENSE)[)#])");
+  static const std::regex path(R"(`((?:src|tests|docs|world|bench|tools|packaging|scripts|fuzz)/[^`* ]*)[ `])");
   const fs::path page = Repository / GetParam();
   ASSERT_GT(Content(page).size(), 500U);
   ExpectThereAll(page, page.parent_path(), link);
@@ -68,4 +68,4 @@ TEST_P(Pages, LinkToHeadingsThatAreThere) {
 INSTANTIATE_TEST_SUITE_P(Repository, Pages,
                          testing::Values("README.md", "CONTRIBUTING.md", "CHANGELOG.md",
                                          "docs/architecture.md", "docs/map-authors.md",
-                                         "docs/translators.md"));
+                                         "docs/performance.md", "docs/translators.md"));
