@@ -3,8 +3,21 @@
 import sys
 
 import accessibility
-from accessibility import Reader, children, find
+from accessibility import Reader, children, find, states
 from desktop import Program, wait_for
+
+
+def open_menus(reader):
+    return [menu.get_name() for menu in children(find(reader.main, "menu bar")[0]) if "focused" in states(menu)]
+
+
+def cycle_through_menus(program, reader):
+    """Three menus share an access key: it goes on from each to the next."""
+    for menu in ("Skaldor", "Sarrakh", "Suchen", "Skaldor"):
+        program.keys("alt+s")
+        wait_for(lambda: open_menus(reader) == [menu], "the menu " + menu)
+    program.keys("Escape", "Escape")
+    wait_for(lambda: not open_menus(reader), "shut menus")
 
 
 def walk_the_map(program, reader):
@@ -85,8 +98,8 @@ def main():
     program = Program(sys.argv[1], environment=accessibility.ENVIRONMENT)
     try:
         reader = Reader(program)
-        for part in (walk_the_map, pick_from_the_list, search, show_a_perk, read_the_other_windows,
-                     change_the_language):
+        for part in (cycle_through_menus, walk_the_map, pick_from_the_list, search, show_a_perk,
+                     read_the_other_windows, change_the_language):
             part(program, reader)
         program.keys("ctrl+w")
         program.process.wait(10)
