@@ -180,6 +180,19 @@ TEST_F(MainWindow, AsksForTheLanguageOverTheWindowWheneverGermanMayBeWrong) {
   }
 }
 
+TEST_F(MainWindow, KnowsTheNamesOfTheLanguageItStartsIn) {
+  folder_.Write("LANG/English/English.lng",
+                std::string(English) + "[entities]\r\narvenna NPC=The first\r\n");
+  folder_.Write("orvalis.ini", "[general]\r\nlanguage=English\r\n");
+  ASSERT_TRUE(Start());
+  Menu(u"miArvennaNPCs").trigger();
+  auto& items = Part<QComboBox>("cboItems");
+  ASSERT_EQ(items.itemText(1), QStringLiteral("The first"));
+  items.setCurrentIndex(1);
+  Q_EMIT items.activated(1);
+  EXPECT_TRUE(Part<QWidget>("ITEM").isVisible()) << "the position stands under the German name";
+}
+
 TEST_F(MainWindow, DoesNotOpenWithoutAFileItNeeds) {
   folder_.Write("ostrakh.jpg", "");
   EXPECT_EQ(
