@@ -4,7 +4,7 @@ import sys
 
 import accessibility
 from accessibility import Reader, children, find, states
-from desktop import Program, wait_for
+from desktop import Program, wait_for, xdotool
 
 
 def open_menus(reader):
@@ -12,12 +12,27 @@ def open_menus(reader):
 
 
 def cycle_through_menus(program, reader):
-    """Three menus share an access key: it goes on from each to the next."""
-    for menu in ("Skaldor", "Sarrakh", "Suchen", "Skaldor"):
-        program.keys("alt+s")
+    """Three menus share an access key: it goes on from each to the next, however Alt is used."""
+    def press(menu, *keys):
+        program.keys(*keys)
         wait_for(lambda: open_menus(reader) == [menu], "the menu " + menu)
-    program.keys("Escape", "Escape")
-    wait_for(lambda: not open_menus(reader), "shut menus")
+
+    def shut():
+        program.keys("Escape", "Escape")
+        wait_for(lambda: not open_menus(reader), "shut menus")
+    for menu in ("Skaldor", "Sarrakh", "Suchen", "Skaldor", "Sarrakh", "Suchen"):
+        press(menu, "alt+s")
+    shut()
+    press("Datei", "Alt_L")
+    for menu in ("Skaldor", "Sarrakh", "Suchen"):
+        press(menu, "s")
+    shut()
+    xdotool("keydown", "Alt_L")
+    for menu in ("Skaldor", "Sarrakh", "Suchen"):
+        xdotool("key", "s")
+        wait_for(lambda: open_menus(reader) == [menu], "the menu " + menu + " while Alt is held")
+    xdotool("keyup", "Alt_L")
+    shut()
 
 
 def walk_the_map(program, reader):
