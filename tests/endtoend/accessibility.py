@@ -98,6 +98,10 @@ class Reader:
         self.read(window)
         return window
 
+    def tool_tip(self):
+        return next((tip.get_name() for tip in children(self.application)
+                     if tip.get_role_name() == "tool tip" and "showing" in states(tip)), None)
+
     def closed(self, what):
         wait_for(lambda: not self.windows(), "the end of " + what, 30)
 
@@ -118,7 +122,5 @@ class Reader:
         return self.map().get_name()
 
     def captions(self):
-        """The captions of the menu bar and of all its menus, without their access keys."""
-        bar = find(self.main, "menu bar")[0]
-        return [node.get_name() for node, _ in walk(bar)
-                if "menu" in node.get_role_name() and node.get_name() and node is not bar]
+        """The captions in the menu bar and in all its menus in order, without their access keys."""
+        return [item.get_name() for item in find(find(self.main, "menu bar")[0], "menu item") if item.get_name()]

@@ -43,6 +43,15 @@ class Screen:
         start = (y * self.width + x) * 3
         return tuple(self.pixels[start:start + 3])
 
+    def marked(self, x, y):
+        """Whether the middle of a marker is here, give or take a pixel for rounding; it is gold."""
+        return GOLD in [self.at(x + dx, y + dy) for dx in (-1, 0, 1) for dy in (-1, 0, 1)
+                        if 0 <= x + dx < self.width and 0 <= y + dy < self.height]
+
+    def part(self, left, top, width, height):
+        """The pixels of a rectangle."""
+        return [self.pixels[((top + y) * self.width + left) * 3:][:width * 3] for y in range(height)]
+
 
 class Program:
     """A copy of the program folder, with the program running in it."""
@@ -64,6 +73,7 @@ class Program:
                                         stderr=subprocess.DEVNULL)
         self.window = wait_for(lambda: self.find("^Orvalis "), "the main window")
         xdotool("windowfocus", "--sync", self.window)
+        self.menu_height = self.geometry()[3] - START_HEIGHT
 
     def find(self, name):
         result = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name],
@@ -92,6 +102,27 @@ class Program:
                               text=True).stdout
         return tuple(int(re.search(name + r":\s+(-?\d+)", info).group(1))
                      for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+    def map(self):
+        """Left, top, width and height of the map on the screen."""
+        left, top, width, height = self.geometry()
+        return left, top + self.menu_height, width, height - self.menu_height
+
+    def spot(self, position, offset=MARKER_OFFSET):
+        """Where the middle of a marker is on the screen."""
+        left, top, *size = self.map()
+        x, y = marker_centre(position, size, offset)
+        return left + x, top + y
+
+    def point(self, x, y):
+        # What follows the pointer follows its movement, not its place.
+        xdotool("mousemove", x + 1, y)
+        xdotool("mousemove", x, y)
+        time.sleep(0.2)
+
+    def double_click(self, x, y):
+        self.point(x, y)
+        xdotool("click", "--repeat", 2, "--delay", 60, 1)
 
     def resize(self, width, height):
         xdotool("windowsize", "--sync", self.window, width, height)
@@ -136,25 +167,24 @@ def positions(path, section):
     return found
 
 
-def marker_centre(position, map_size):
+def marker_centre(position, map_size, offset=MARKER_OFFSET):
     """Where the middle of a marker is on the map, in pixels."""
-    x = position[0] / 1024 * map_size[0] * TWIPS_PER_PIXEL - MARKER_OFFSET + MARKER_SIZE / 2
-    y = position[1] / 768 * map_size[1] * TWIPS_PER_PIXEL - MARKER_OFFSET + MARKER_SIZE / 2
+    x = position[0] / 1024 * map_size[0] * TWIPS_PER_PIXEL - offset + MARKER_SIZE / 2
+    y = position[1] / 768 * map_size[1] * TWIPS_PER_PIXEL - offset + MARKER_SIZE / 2
     return round(x / TWIPS_PER_PIXEL), round(y / TWIPS_PER_PIXEL)
 
 
-def missing_markers(program, menu_height, data, section):
+def missing_markers(program, data, section):
     """The entities of a category whose marker is not where it should be on the screen."""
     screen = Screen()
-    left, top, width, height = program.geometry()
-    map_size = (width, height - menu_height)
-    missing = []
-    for key, *position in positions(os.path.join(program.folder, data), section):
-        x, y = marker_centre(position, map_size)
-        # The middle is gold; a pixel beside it allows for rounding.
-        near = [screen.at(left + x + dx, top + menu_height + y + dy)
-                for dx in (-1, 0, 1) for dy in (-1, 0, 1)
-                if 0 <= left + x + dx < screen.width and 0 <= top + menu_height + y + dy < screen.height]
-        if near and GOLD not in near:
-            missing.append(key)
-    return missing
+    return [key for key, *position in positions(os.path.join(program.folder, data), section)
+            if not screen.marked(*program.spot(position))]
+
+
+def documented(section):
+    """The rows of the translators' manual about a section: key, English, German or meaning."""
+    manual = os.path.join(os.path.dirname(__file__), "../../docs/translators.md")
+    with open(manual, encoding="utf-8") as file:
+        part = file.read().split("### [" + section + "]\n", 1)[1].split("\n#", 1)[0]
+    return [[cell.strip(" `") for cell in line.split("|")[1:-1]] for line in part.splitlines()
+            if line.startswith("| `")]

@@ -3,8 +3,36 @@
 import sys
 
 import accessibility
-from accessibility import Reader, children, find
-from desktop import Program, wait_for
+from accessibility import Reader, children, find, states
+from desktop import Program, wait_for, xdotool
+
+
+def open_menus(reader):
+    return [menu.get_name() for menu in children(find(reader.main, "menu bar")[0]) if "focused" in states(menu)]
+
+
+def cycle_through_menus(program, reader):
+    """Three menus share an access key: it goes on from each to the next, however Alt is used."""
+    def press(menu, *keys):
+        program.keys(*keys)
+        wait_for(lambda: open_menus(reader) == [menu], "the menu " + menu)
+
+    def shut():
+        program.keys("Escape", "Escape")
+        wait_for(lambda: not open_menus(reader), "shut menus")
+    for menu in ("Skaldor", "Sarrakh", "Suchen", "Skaldor", "Sarrakh", "Suchen"):
+        press(menu, "alt+s")
+    shut()
+    press("Datei", "Alt_L")
+    for menu in ("Skaldor", "Sarrakh", "Suchen"):
+        press(menu, "s")
+    shut()
+    xdotool("keydown", "Alt_L")
+    for menu in ("Skaldor", "Sarrakh", "Suchen"):
+        xdotool("key", "s")
+        wait_for(lambda: open_menus(reader) == [menu], "the menu " + menu + " while Alt is held")
+    xdotool("keyup", "Alt_L")
+    shut()
 
 
 def walk_the_map(program, reader):
@@ -85,8 +113,8 @@ def main():
     program = Program(sys.argv[1], environment=accessibility.ENVIRONMENT)
     try:
         reader = Reader(program)
-        for part in (walk_the_map, pick_from_the_list, search, show_a_perk, read_the_other_windows,
-                     change_the_language):
+        for part in (cycle_through_menus, walk_the_map, pick_from_the_list, search, show_a_perk,
+                     read_the_other_windows, change_the_language):
             part(program, reader)
         program.keys("ctrl+w")
         program.process.wait(10)

@@ -4,15 +4,24 @@ import os
 import sys
 
 import accessibility
-from accessibility import Reader
-from desktop import Program, read_section, wait_for
+from accessibility import Reader, find, walk
+from desktop import START_HEIGHT, Program, Screen, documented, read_section, wait_for
 
 ROWS = {"Deutsch": 0, "English": 1, "Français": 2}
+GERMAN_PROMPT = "------------ Bitte Auswählen ------------"
+SIZES = ((700, 500), (1024, START_HEIGHT))
 
 
-def captions_in_file(program, language):
-    path = os.path.join(program.folder, "LANG", language, language + ".lng")
-    return {caption.replace("&", "") for caption in read_section(path, "menus").values()}
+def texts(program, language, section):
+    """The texts of a section in the manual's order, without access keys."""
+    rows = documented(section)
+    if language == "Deutsch":
+        found = [german for _, _, german in rows]
+    else:
+        path = os.path.join(program.folder, "LANG", language, language + ".lng")
+        translated = read_section(path, section)
+        found = [translated[key] for key, *_ in rows]
+    return [text.replace("&", "").strip() for text in found]
 
 
 def stored_language(program):
@@ -26,11 +35,30 @@ def choose(program, reader, language):
     wait_for(lambda: stored_language(program) == language, "the stored language")
 
 
-def check_captions(program, reader, language, german):
-    shown = set(reader.captions())
-    expected = german if language == "Deutsch" else captions_in_file(program, language)
-    missing = {caption for caption in expected if caption.strip() not in {name.strip() for name in shown}}
-    assert not missing, f"{language}: not shown: {sorted(missing)}"
+def check_menus(program, reader, language):
+    expected = texts(program, language, "menus")
+    shown = [caption.strip() for caption in reader.captions() if caption != "|"]
+    wrong = [pair for pair in zip(expected, shown) if pair[0] != pair[1]]
+    assert len(shown) == len(expected) and not wrong, f"{language}: {len(shown)} captions, {wrong}"
+
+
+def check_list(program, reader, language):
+    program.keys("alt+a", "Home", "Right", "Return")
+    box = wait_for(lambda: next(iter(find(reader.main, "combo box")), None), "the list")
+    prompt = find(box, "list item")[0].get_name()
+    expected = GERMAN_PROMPT if language == "Deutsch" else texts(program, language, "ui")[0]
+    assert prompt.strip() == expected, f"{language}: {prompt}"
+
+
+def check_dialog(program, reader, language):
+    """The captions of the language dialog, which is open then."""
+    dialog = reader.opened("the languages")
+    shown = [node.get_name() for node, _ in walk(dialog)]
+    caption, available, current, author, mail, site, select, cancel = texts(program, language, "frmLang")
+    assert shown[:2] == [caption, available], f"{language}: {shown}"
+    assert [name for name in shown if name in (select, cancel)] == [select, cancel], f"{language}: {shown}"
+    labels = [name for name in shown if name in (current, author, mail, site)]
+    assert labels == [current, author, mail, site], f"{language}: {shown}"
 
 
 def show_merchants(program, reader):
@@ -40,21 +68,36 @@ def show_merchants(program, reader):
     return reader.heading().strip(), reader.markers()
 
 
+def map_at(program, size):
+    program.resize(size[0], size[1] + program.menu_height)
+    return Screen().part(*program.map())
+
+
+def check_no_region(program, reader, empty):
+    """Nothing but the picture of the start is on the map, at any size."""
+    for size in SIZES:
+        assert reader.markers() == [], "a region is still shown"
+        wait_for(lambda: map_at(program, size) == empty[size], f"a map without a region at {size}")
+
+
 def main():
     program = Program(sys.argv[1], language="C", environment=accessibility.ENVIRONMENT)
     try:
         reader = Reader(program)
-        german = set(reader.captions())
-        assert len(german) > 90
+        check_menus(program, reader, "Deutsch")
+        check_dialog(program, reader, "Deutsch")
         choose(program, reader, "English")
-        check_captions(program, reader, "English", german)
-        seen = {}
-        for language in ("English", "Français", "Deutsch"):
+        empty = {size: map_at(program, size) for size in SIZES}
+        seen = {"English": show_merchants(program, reader)}
+        for before, language in (("English", "English"), ("English", "Français"), ("Français", "Deutsch")):
             program.keys("ctrl+l")
+            check_dialog(program, reader, before)
             choose(program, reader, language)
-            assert reader.markers() == [], "a region is still shown"
-            check_captions(program, reader, language, german)
+            check_no_region(program, reader, empty)
+            check_menus(program, reader, language)
+            check_list(program, reader, language)
             seen[language] = show_merchants(program, reader)
+        assert empty[SIZES[-1]] != map_at(program, SIZES[-1])
         assert seen["Deutsch"][0] == "Arvenna: Händler", seen["Deutsch"][0]
         assert len({heading for heading, _ in seen.values()}) == 3
         assert len({len(markers) for _, markers in seen.values()}) == 1

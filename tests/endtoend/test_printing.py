@@ -7,7 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-from desktop import GOLD, START_HEIGHT, Program, marker_centre, positions, wait_for
+from desktop import GOLD, Program, marker_centre, positions, wait_for
 
 SERVER = """Listen {folder}/socket
 DefaultAuthType None
@@ -128,7 +128,6 @@ def main():
         for queue in QUEUES:
             server.add_queue(queue)
         program = Program(sys.argv[1], environment=server.environment)
-        menu_height = program.geometry()[3] - START_HEIGHT
         program.resize(700, 500)
         program.keys("alt+a", "Right", "f")
 
@@ -141,7 +140,7 @@ def main():
         program.keys("alt+d")
         [document] = wait_for(lambda: server.jobs(QUEUES[1]), "the printed page")
         markers = positions(os.path.join(program.folder, "arvenna.data"), "friendsX")
-        check_page(document, (700, 500 - menu_height), markers)
+        check_page(document, (700, 500 - program.menu_height), markers)
 
         choose_second_queue()
         server.remove_queue(QUEUES[1])

@@ -2,6 +2,9 @@
 #include "search/SearchWorld.h"
 #include "support/DialogCheck.h"
 
+#include <QImage>
+#include <QImageReader>
+#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -11,6 +14,25 @@
 #include <gtest/gtest.h>
 
 namespace {
+
+// The mean difference of a pixel's brightness, 0 to 255, between two pictures on white.
+double Difference(const QString& a, const QString& b) {
+  const auto onWhite = [](const QString& name) {
+    QImage picture(QStringLiteral(ORVALIS_PICTURES "/") + name);
+    picture.setDevicePixelRatio(1);
+    QImage ground(picture.size(), QImage::Format_RGB32);
+    ground.fill(Qt::white);
+    QPainter(&ground).drawImage(0, 0, picture);
+    return ground.convertToFormat(QImage::Format_Grayscale8);
+  };
+  const QImage first = onWhite(a);
+  const QImage second = onWhite(b);
+  double sum = 0;
+  for (int y = 0; y < first.height(); ++y)
+    for (int x = 0; x < first.width(); ++x)
+      sum += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y)));
+  return sum / (first.width() * first.height());
+}
 
 struct Chosen {
   Text picture, data, category, heading;
@@ -124,4 +146,22 @@ TEST_F(PerksWindow, KeysMoveInTheTreeAndEnterCloses) {
   QTest::keyClick(&Tree(), Qt::Key_Return);
   EXPECT_FALSE(window_->isVisible());
   EXPECT_FALSE(chosen_);
+}
+
+TEST(PerkPictures, AreToldApartAtBothSizesAndWithoutColour) {
+  constexpr int Last = 9;
+  constexpr double Distinct = 20;
+  for (const auto& [suffix, size] :
+       {std::pair(QStringLiteral(".png"), 16), {QStringLiteral("@2x.png"), 32}}) {
+    const auto name = [end = suffix](int number) {
+      return QStringLiteral("perk-%1").arg(number) + end;
+    };
+    for (int one = 1; one <= Last; ++one) {
+      ASSERT_EQ(QImageReader(QStringLiteral(ORVALIS_PICTURES "/") + name(one)).size(),
+                QSize(size, size))
+          << one;
+      for (int other = 1; other < one; ++other)
+        EXPECT_GT(Difference(name(one), name(other)), Distinct) << one << " and " << other;
+    }
+  }
 }
