@@ -3,6 +3,7 @@
 #include "platform/ProgramInfo.h"
 #include "platform/QtText.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 
 #include <algorithm>
@@ -61,6 +62,33 @@ QAction* MenuBar::MakeAction(const MenuRow& row) {
   else if (row.kind == Kind::Command)
     connect(action, &QAction::triggered, this, [this, &row] { Q_EMIT CommandChosen(row); });
   return action;
+}
+
+// The toolkit goes on from one menu to the next with the same access key only while Alt is pressed
+// anew each time.
+void MenuBar::keyPressEvent(QKeyEvent* event) {
+  const bool plain = (event->modifiers() & ~(Qt::AltModifier | Qt::ShiftModifier)) == 0;
+  QAction* const next = plain ? NextWithKey(event->text()) : nullptr;
+  if (next && next->menu())
+    setActiveAction(next);
+  else
+    QMenuBar::keyPressEvent(event);
+}
+
+// Behind the menu that is active now, from the left again after the last one.
+QAction* MenuBar::NextWithKey(const QString& key) const {
+  QAction* first = nullptr;
+  bool behind = activeAction() == nullptr;
+  for (QAction* action : actions()) {
+    const bool reached = action->isVisible() && action->isEnabled() && !key.isEmpty() &&
+                         action->text().contains(u'&' + key, Qt::CaseInsensitive);
+    if (reached && behind)
+      return action;
+    if (reached && !first)
+      first = action;
+    behind = behind || action == activeAction();
+  }
+  return first;
 }
 
 void MenuBar::SetCaptions(std::span<const Text> captions) {

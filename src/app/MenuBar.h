@@ -35,7 +35,11 @@ class MenuBar : public QMenuBar {
   void CategoryChosen(const MenuRow& row);
   void CommandChosen(const MenuRow& row);
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
+  [[nodiscard]] QAction* NextWithKey(const QString& key) const;
   QAction* MakeAction(const MenuRow& row);
   [[nodiscard]] QAction* Find(TextView name) const;
 

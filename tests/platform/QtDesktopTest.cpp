@@ -22,16 +22,10 @@ class FakeTools {
     Script("xdg-open", "for a in \"$@\"; do echo \"<$a>\"; done >> " + log);
     Script("xdg-mime", "echo \"$2 $3\" >> " + log + "; [ \"$3\" = text/html ] && echo b.desktop");
     path_ = qgetenv("PATH");
-    browser_ = qgetenv("BROWSER");
     qputenv("PATH", QByteArray::fromStdString(folder.Native("bin") + ":/usr/bin:/bin"));
-    qunsetenv("BROWSER");
   }
 
-  ~FakeTools() {
-    qputenv("PATH", path_);
-    if (!browser_.isEmpty())
-      qputenv("BROWSER", browser_);
-  }
+  ~FakeTools() { qputenv("PATH", path_); }
 
   [[nodiscard]] bool Logged(const std::string& lines) const {
     return QTest::qWaitFor([&] { return folder.Read("log") == lines; });
@@ -46,7 +40,6 @@ class FakeTools {
   }
 
   QByteArray path_;
-  QByteArray browser_;
 };
 
 }  // namespace
