@@ -6,6 +6,7 @@
 #include "mapdata/InfoFile.h"
 #include "mapdata/StringOps.h"
 #include "platform/Windows1252.h"
+#include "support/GermanNames.h"
 
 #include <limits>
 
@@ -15,16 +16,6 @@ using Fuzz::TakeField;
 namespace {
 
 constexpr size_t MostMarkers = 81;
-
-// In German a name is its key.
-class SameNames : public EntityNames {
- public:
-  [[nodiscard]] Text Shown(IniOps::Snapshot&, TextView key) override { return Text(key); }
-
-  [[nodiscard]] Text Key(TextView shown) override { return Text(shown); }
-
-  [[nodiscard]] Text InfoFile() override { return {}; }
-};
 
 bool Fits(const EntityFile::Position& position) {
   using Limits = std::numeric_limits<int16_t>;
@@ -49,7 +40,7 @@ void ReadEntity(IniOps::Snapshot& files, TextView file, TextView section,
 void ReadWholeFile(TextView file) {
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
-  SameNames names;
+  GermanNames names;
   for (const Text& section : files.IniSectionNames(file)) {
     const auto markers = EntityFile::ReadMarkers(files, file, section, names, MostMarkers);
     Require(markers.size() <= MostMarkers, "no more markers than slots");

@@ -5,6 +5,7 @@
 #include "mapdata/IniOps.h"
 #include "mapdata/ProgramPaths.h"
 #include "platform/Windows1252.h"
+#include "support/English.h"
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
 
@@ -28,10 +29,7 @@ class WindowFixture : public testing::Test {
   }
 
   void UseEnglish(TextView texts) {
-    Write("LANG/English/English.lng", Texts::Join(u"[general]\r\nlanguage=English\r\n", texts));
-    language.CurrentLanguage = u"English";
-    language.LanguageFolder = u"English";
-    language.LanguageFile = folder.Path(u"LANG/English/English.lng");
+    SpeakEnglish(folder, language, Texts::Join(u"[general]\r\nlanguage=English\r\n", texts));
   }
 
   void ExpectCalls(const std::vector<std::string>& calls) {

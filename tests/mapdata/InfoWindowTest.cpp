@@ -2,6 +2,7 @@
 
 #include "platform/Windows1252.h"
 #include "support/DialogCheck.h"
+#include "support/English.h"
 #include "support/TemporaryFolder.h"
 
 #include <QBuffer>
@@ -49,12 +50,9 @@ class InfoWindow : public testing::Test {
   }
 
   void UseEnglish() {
-    Write("LANG/English/English.lng",
-          u"[general]\r\nlanguage=English\r\n[entities]\r\nHändler=Merchant\r\n"
-          u"[frmInfo]\r\nbuttonclose=&Done\r\n");
-    language.CurrentLanguage = u"English";
-    language.LanguageFolder = u"English";
-    language.LanguageFile = folder.Path(u"LANG/English/English.lng");
+    SpeakEnglish(folder, language,
+                 u"[general]\r\nlanguage=English\r\n[entities]\r\nHändler=Merchant\r\n"
+                 u"[frmInfo]\r\nbuttonclose=&Done\r\n");
     IniOps::Snapshot snapshot(files);
     language.CacheTranslationTable(snapshot);
   }

@@ -3,6 +3,7 @@
 #include "i18n/LOCAL.h"
 #include "mapdata/ProgramPaths.h"
 #include "platform/Windows1252.h"
+#include "support/English.h"
 #include "support/TemporaryFolder.h"
 
 #include <string>
@@ -29,10 +30,7 @@ class SearchWorld {
   }
 
   void SpeakEnglish(TextView languageFile) {
-    Write("LANG/English/English.lng", languageFile);
-    language.CurrentLanguage = u"English";
-    language.LanguageFolder = u"English";
-    language.LanguageFile = folder.Path(u"LANG/English/English.lng");
+    ::SpeakEnglish(folder, language, languageFile);
     IniOps::Snapshot files(cache);
     language.CacheTranslationTable(files);
   }
