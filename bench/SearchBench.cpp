@@ -147,7 +147,7 @@ BENCHMARK(TranslateNames)->Repetitions(Rounds);
 
 int main(int argc, char** argv) {
   // Ten times as many records leave one of the processor's caches, which costs both sides more for
-  // each; what grew by the power of 1.2 would be over the limit.
+  // each; what grew by a power of 1.4 would be over the limit.
   constexpr double LinearGrowth = 1.2;
   const Ratios::Ratio ratios[] = {
       {"FillGerman", "FillByKeyFile", 0.5},
