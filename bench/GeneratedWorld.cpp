@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <array>
+#include <map>
 
 namespace {
 
@@ -97,4 +98,9 @@ void GeneratedWorld::Write(const std::string& name, const std::string& bytes) {
 const GeneratedWorld& MeasuredWorld() {
   static const GeneratedWorld world(Measured);
   return world;
+}
+
+const GeneratedWorld& WorldOf(size_t records) {
+  static std::map<size_t, const GeneratedWorld> worlds;
+  return worlds.try_emplace(records, WorldSize{records, records / 2, 20, 0}).first->second;
 }

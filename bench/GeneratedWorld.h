@@ -46,3 +46,7 @@ class GeneratedWorld {
 
 /// The world that the search is measured with; generated at the first call.
 [[nodiscard]] const GeneratedWorld& MeasuredWorld();
+
+/// A world of that many records, half as many short descriptions and no language, for measurements
+/// of growth; generated at the first call.
+[[nodiscard]] const GeneratedWorld& WorldOf(size_t records);

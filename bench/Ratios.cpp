@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iostream>
 #include <map>
+#include <optional>
 
 namespace {
 
@@ -32,14 +33,30 @@ class Reporter : public benchmark::ConsoleReporter {
   std::map<std::string, double> quickest;
 };
 
-bool Compare(const Ratios::Ratio& ratio, const std::map<std::string, double>& seconds) {
-  const auto of = seconds.find(ratio.of);
-  const auto by = seconds.find(ratio.by);
-  if (of == seconds.end() || by == seconds.end()) {
-    std::cout << ratio.of << " / " << ratio.by << ": not measured\n";
-    return false;
-  }
-  return Ratios::Holds(ratio, of->second / by->second);
+using Seconds = std::map<std::string, double>;
+
+// A measurement as a multiple of its peer, in seconds where it has none; none if one is missing.
+std::optional<double> Cost(const Seconds& seconds, const std::string& of, const std::string& peer) {
+  const auto measured = seconds.find(of);
+  const auto unit = seconds.find(peer);
+  if (measured == seconds.end() || (unit == seconds.end() && !peer.empty()))
+    return std::nullopt;
+  return peer.empty() ? measured->second : measured->second / unit->second;
+}
+
+std::string Name(const std::string& of, const std::string& peer) {
+  return peer.empty() ? of : of + " by " + peer;
+}
+
+bool Compare(const Ratios::Ratio& ratio, const Seconds& seconds) {
+  const auto of = Cost(seconds, ratio.of, ratio.ofPeer);
+  const auto by = Cost(seconds, ratio.by, ratio.byPeer);
+  const Ratios::Ratio named{Name(ratio.of, ratio.ofPeer), Name(ratio.by, ratio.byPeer),
+                            ratio.limit};
+  if (of && by)
+    return Ratios::Holds(named, *of / *by);
+  std::cout << named.of << " / " << named.by << ": not measured\n";
+  return false;
 }
 
 }  // namespace

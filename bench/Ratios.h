@@ -6,11 +6,14 @@
 /// Measurements that are judged by how they compare in one run on one machine.
 namespace Ratios {
 
-/// The measurement `of` may take at most `limit` times the processor time of `by`.
+/// The measurement `of` may take at most `limit` times the processor time of `by`. With peers each
+/// side counts as a multiple of its own: what the machine does to both is in neither.
 struct Ratio {
   std::string of;
   std::string by;
   double limit = 1;
+  std::string ofPeer = {};
+  std::string byPeer = {};
 };
 
 /// Prints a ratio that was measured otherwise; whether it is within its limit.

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 table=${1:-/dev/null}
 
-scripts/install.sh run test
+scripts/install.sh run test bench
 cmake --preset release
 programs="start_bench map_bench sharp_bench profile_bench i18n_bench search_bench perks_bench"
 # shellcheck disable=SC2086

@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing: install.sh GROUP...
 # run: build and start the program; display: a virtual display; test, ci: what the checks use;
-# packages: what builds and tries the packages.
+# bench: measurements and their peers; coverage: what the tests reach; packages: what builds and tries
+# the packages.
 set -euo pipefail
 
 run="g++ cmake ninja-build qt6-base-dev qt6-multimedia-dev fonts-liberation fonts-urw-base35 xdg-utils"
 display="xvfb xauth openbox xdotool imagemagick x11-utils"
-test="libgtest-dev libbenchmark-dev poppler-utils strace python3 desktop-file-utils appstream groff-base"
-ci="clang-format clang libclang-rt-14-dev dbus cups-daemon cups-client at-spi2-core gir1.2-atspi-2.0 python3-gi"
+test="libgtest-dev poppler-utils strace python3 desktop-file-utils appstream groff-base"
+ci="clang-format clang-tidy clang libclang-rt-14-dev dbus cups-daemon cups-client at-spi2-core gir1.2-atspi-2.0 python3-gi"
+bench="libbenchmark-dev pkg-config libglib2.0-dev libinih-dev"
+coverage="gcovr"
 packages="dpkg-dev file lintian debootstrap"
 
 wanted=""

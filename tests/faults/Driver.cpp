@@ -1,6 +1,7 @@
 // Linked to the program's own main(): uses its windows at random, as fast as it can, and ends it
 // after ORVALIS_DRIVER_STEPS steps, chosen by ORVALIS_DRIVER_SEED. Writes the memory in use every
-// hundred steps, and exits with 3 where a step takes more than 2 seconds of processor time.
+// hundred steps, and exits with 3 where a step takes more than 2 seconds of processor time, or more
+// than 10 by the clock: a program that waits uses none, and one on a loaded machine waits for it.
 
 #include "app/MenuTable.h"
 #include "platform/QtText.h"
@@ -19,14 +20,22 @@
 #include <QTimer>
 
 #include <array>
+#include <atomic>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <ctime>
 #include <fstream>
 #include <random>
+#include <vector>
+
+#include <unistd.h>
 
 namespace {
 
 constexpr double MostSeconds = 2;
+constexpr unsigned MostSecondsByClock = 10;
+constexpr int HangCode = 3;
 constexpr int StepsInDialog = 6;
 
 constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSize(1024, 800),
@@ -36,6 +45,18 @@ constexpr std::array<Qt::Key, 12> Keys = {
     Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Up,  Qt::Key_Right, Qt::Key_Left,
     Qt::Key_Return, Qt::Key_Space,   Qt::Key_Home, Qt::Key_End, Qt::Key_F1,    Qt::Key_A};
 constexpr std::array<const char*, 6> Terms = {"a", "Lehrer", "", "\xC3\xA4", "*;#,", "tempel von"};
+
+// What is being tried, for the signal's handler too.
+std::atomic<const char*> what = "the start";
+
+// A step that waits for good never comes to say so itself. Only what a handler may call.
+void SayBlocked(int) {
+  const std::array<const char*, 3> parts = {"blocked: ", what.load(), "\n"};
+  for (const char* part : parts)
+    if (::write(STDOUT_FILENO, part, std::strlen(part)) < 0)
+      break;
+  std::_Exit(HangCode);
+}
 
 double ProcessSeconds() {
   timespec time{};
@@ -55,6 +76,8 @@ class Driver : public QObject {
       : QObject(qApp),
         random_(static_cast<unsigned>(FromEnvironment("ORVALIS_DRIVER_SEED", 1))),
         steps_(FromEnvironment("ORVALIS_DRIVER_STEPS", 200)) {
+    static_cast<void>(std::signal(SIGALRM, SayBlocked));
+    ::alarm(MostSecondsByClock);
     QTimer::singleShot(0, this, &Driver::Step);
   }
 
@@ -67,11 +90,12 @@ class Driver : public QObject {
   void Step() {
     // Ordered before the step is done: that may open a dialog, which is to be driven too.
     QTimer::singleShot(0, this, &Driver::Step);
+    ::alarm(MostSecondsByClock);
     const double now = ProcessSeconds();
     if (done_ > 1 && now - last_ > MostSeconds) {
-      std::printf("hang: %.1f s after step %d, %s\n", now - last_, done_, what_);
+      std::printf("hang: %.1f s after step %d, %s\n", now - last_, done_, what.load());
       static_cast<void>(std::fflush(stdout));
-      std::_Exit(3);
+      std::_Exit(HangCode);
     }
     last_ = now;
     if (++done_ % 100 == 0)
@@ -107,21 +131,21 @@ class Driver : public QObject {
     }
     switch (random_() % 10) {
       case 0:
-        what_ = "resizing";
+        what = "resizing";
         window.resize(Any(Sizes));
         break;
       case 1:
-        what_ = "picking from the list";
+        what = "picking from the list";
         Pick(*window.findChild<QComboBox*>(QStringLiteral("cboItems")));
         break;
       case 2:
       case 3:
       case 4:
-        what_ = "the pointer";
+        what = "the pointer";
         Point(window, random_() % 8 == 0);
         break;
       case 5:
-        what_ = "a key";
+        what = "a key";
         PressKey(window);
         break;
       default:
@@ -130,12 +154,15 @@ class Driver : public QObject {
   }
 
   void Command(QMainWindow& window) {
-    const auto rows = MenuTable::Rows();
+    // There are ten categories to each other command, and only those open windows and write.
+    const auto kind = random_() % 2 == 0 ? MenuRow::Kind::Category : MenuRow::Kind::Command;
+    std::vector<MenuRow> rows;
+    for (const MenuRow& row : MenuTable::Rows())
+      if (row.kind == kind && row.action != Action::Quit)
+        rows.push_back(row);
     const MenuRow& row = Any(rows);
-    if (row.kind == MenuRow::Kind::Menu || row.action == Action::Quit)
-      return;
     command_ = QtText::ToQt(row.name).toLatin1();
-    what_ = command_.constData();
+    what = command_.constData();
     auto* action = window.findChild<QAction*>(QtText::ToQt(row.name));
     if (action && action->isEnabled() && action->isVisible())
       action->trigger();
@@ -175,20 +202,21 @@ class Driver : public QObject {
       stepsHere_ = 0;
     dialog_ = &dialog;
     if (++stepsHere_ > StepsInDialog || qobject_cast<QFileDialog*>(&dialog)) {
-      what_ = "leaving a dialog";
+      what = "leaving a dialog";
       dialog.close();
       return;
     }
-    what_ = "a dialog";
-    const auto widgets = dialog.findChildren<QWidget*>();
+    what = "a dialog";
+    auto widgets = dialog.findChildren<QWidget*>();
+    widgets.removeIf([](const QWidget* widget) {
+      return !widget->isVisible() || !widget->isEnabled() || widget->focusPolicy() == Qt::NoFocus;
+    });
     if (widgets.isEmpty())
       return;
     Use(*Any(widgets), dialog);
   }
 
   void Use(QWidget& widget, QWidget& dialog) {
-    if (!widget.isVisible() || !widget.isEnabled())
-      return;
     if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
       edit->setText(QString::fromUtf8(Any(Terms)));
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
@@ -210,7 +238,6 @@ class Driver : public QObject {
   int stepsHere_ = 0;
   double last_ = 0;
   QByteArray command_;
-  const char* what_ = "the start";
   QWidget* dialog_ = nullptr;
 };
 

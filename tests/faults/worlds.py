@@ -1,6 +1,7 @@
 """Worlds for trials: a complete small one, and what can happen to its files."""
 
 import os
+import re
 import shutil
 import struct
 import tempfile
@@ -8,6 +9,8 @@ import tempfile
 SETTINGS = ("; kept by hand\r\n[folders]\r\nextras=EXTRAS\r\n\r\n[special]\r\nNoExtras=no\r\n"
             "LocalizedString= \"Probe\"\r\n[general]\r\nlanguage=\r\n;language=alt\r\n"
             "[mine]\r\nk\xe4se = ja\r\n").encode("cp1252")
+LANGUAGE = re.compile(rb"\s*language\s*(=|$)", re.IGNORECASE)
+NOBODY = 65534
 REGIONS = ("arvenna", "skaldor", "sarrakh", "ostrakh", "ancestors")
 
 
@@ -33,6 +36,7 @@ class World:
         self.folder = tempfile.mkdtemp(prefix="orvalis-world-")
         shutil.copytree(source, self.folder, dirs_exist_ok=True)
         self.program = os.path.join(self.folder, "orvalis")
+        self.user = {}
         shutil.copy(program, self.program)
         for number, region in enumerate(REGIONS):
             write(self.path(region + ".jpg"), bitmap(320 + number, 240, (40 * number, 90, 60)))
@@ -46,12 +50,39 @@ class World:
                  for name in names]
         return sorted(path for path in found if path != self.program)
 
-    def lost_settings(self):
-        """The lines of the settings that a run has lost; the language is the program's to change."""
-        with open(self.path("orvalis.ini"), "rb") as file:
-            now = file.read().split(b"\r\n")
-        return [line for line in SETTINGS.split(b"\r\n")
-                if line not in now and not line.startswith(b"language=")]
+    def hand_over(self):
+        """Root may do everything, so that a world of root's is run by somebody else, who owns it."""
+        if os.getuid() != 0:
+            return
+        self.user = {"user": NOBODY, "group": NOBODY, "extra_groups": []}
+        for folder, _, names in os.walk(self.folder):
+            for path in [folder, *(os.path.join(folder, name) for name in names)]:
+                os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
+
+    def missing_files(self):
+        """Files of regions that are not there with any content under a name in any letter case."""
+        there = {name.lower() for name in os.listdir(self.folder)
+                 if os.path.isfile(self.path(name)) and os.path.getsize(self.path(name)) > 0}
+        return {region + end for region in REGIONS for end in (".data", ".jpg")} - there
+
+    def settings(self):
+        """The lines of the settings, whatever letter case their name is in and whoever may read."""
+        lines = []
+        for name in os.listdir(self.folder):
+            path = self.path(name)
+            if name.lower() != "orvalis.ini" or not os.path.isfile(path):
+                continue
+            mode = os.stat(path).st_mode
+            os.chmod(path, 0o600)
+            with open(path, "rb") as file:
+                lines += file.read().splitlines()
+            os.chmod(path, mode)
+        return lines
+
+    def lost_settings(self, before):
+        """The lines of before that a run has lost; the language is the program's to change."""
+        now = set(self.settings())
+        return [line for line in before if line not in now and not LANGUAGE.match(line)]
 
     def remove(self):
         shutil.rmtree(self.folder, ignore_errors=True)
@@ -129,7 +160,7 @@ FAULTS = (flip_bytes, flip_bytes, flip_bytes, cut, cut, remove, make_folder, mak
 def spoil(random, world):
     """Does one thing to one file; what it was, in words."""
     path = random.choice(world.files())
-    if not os.path.isfile(path):
+    if not os.path.isfile(path) or os.stat(path).st_mode & 0o200 == 0:
         return "nothing"
     with open(path, "rb") as file:
         data = file.read()
