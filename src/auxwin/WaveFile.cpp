@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr size_t LargestFile = 64 * 1024 * 1024;
+constexpr size_t LargestFile = size_t{64} * 1024 * 1024;
 constexpr size_t FileHeaderSize = 12;
 constexpr size_t ChunkHeaderSize = 8;
 constexpr size_t SmallestFormat = 16;

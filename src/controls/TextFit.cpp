@@ -105,8 +105,9 @@ Place Fit(const QWidget& control, const QRect& designed, const QFont& font) {
   Place place{designed, font};
   if (Fits(Needed(control, font, designed.width()), designed.size()))
     return place;
-  for (double points = font.pointSizeF(); points >= SmallestPoints; points -= PointStep) {
-    place.font.setPointSizeF(points);
+  const int steps = static_cast<int>((font.pointSizeF() - SmallestPoints) / PointStep);
+  for (int step = 0; step <= steps; ++step) {
+    place.font.setPointSizeF(font.pointSizeF() - step * PointStep);
     place.rectangle = Grown(control, designed, place.font);
     if (Fits(Needed(control, place.font, place.rectangle.width()), place.rectangle.size()))
       break;

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr size_t LargestFile = 64 * 1024 * 1024;
+constexpr size_t LargestFile = size_t{64} * 1024 * 1024;
 constexpr int LongestSide = 16384;
 constexpr qint64 MostPixels = 40'000'000;
 // What the pixels take at 32 bits each. A GIF tells the size of its first frame and takes memory

@@ -3,6 +3,7 @@
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/QtText.h"
+#include "platform/TamePage.h"
 
 #include <QTextBrowser>
 #include <QUrl>
@@ -10,7 +11,7 @@
 
 namespace {
 
-constexpr size_t LargestPage = 16 * 1024 * 1024;
+constexpr size_t LargestFile = size_t{16} * 1024 * 1024;
 constexpr QSize StartSize(720, 600);
 
 std::string FolderOf(const std::string& path) {
@@ -33,7 +34,7 @@ class Browser : public QTextBrowser {
     const std::string file = name.path().toStdString();
     if (!name.isRelative() || file.starts_with('/') || file.find("..") != std::string::npos)
       return {};
-    const auto contents = PosixFile::Read(folder_ + file, LargestPage);
+    const auto contents = PosixFile::Read(folder_ + file, LargestFile);
     return contents ? QByteArray::fromStdString(contents->bytes) : QVariant();
   }
 
@@ -46,9 +47,10 @@ class Browser : public QTextBrowser {
 PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(parent) {
   setObjectName(QStringLiteral("pageWindow"));
   auto* browser = new Browser(this, FolderOf(path));
-  const auto page = PosixFile::Read(path, LargestPage);
+  const auto page = PosixFile::Read(path, LargestFile);
   // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
-  browser->setHtml(QtText::ToQt(NativePath::EntryName(page ? page->bytes : std::string())));
+  browser->setHtml(
+      QtText::ToQt(TamePage::Of(NativePath::EntryName(page ? page->bytes : std::string()))));
   const QString title = browser->documentTitle();
   setWindowTitle(title.isEmpty()
                      ? QtText::ToQt(NativePath::EntryName(path.substr(FolderOf(path).size())))

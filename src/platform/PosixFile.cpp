@@ -61,7 +61,7 @@ std::string LinkTarget(std::string path) {
     if (length <= 0)
       break;
     target.resize(static_cast<size_t>(length));
-    path = target.front() == '/' ? target : Folder(path) + '/' + target;
+    path = target.front() == '/' ? target : Folder(path).append("/").append(target);
   }
   return path;
 }
