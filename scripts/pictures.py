@@ -37,7 +37,7 @@ class Photographer:
     def save(self, name, *what):
         time.sleep(0.6)
         target = os.path.join(self.pictures, name + ".jpg")
-        subprocess.run(["import", *what, "-quality", "88", target], check=True)
+        subprocess.run(["import", *what, "-quality", "80", target], check=True)
 
     def window(self, name, window=None):
         """A window with its frame."""
