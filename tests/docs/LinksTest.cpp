@@ -49,7 +49,8 @@ class Pages : public testing::TestWithParam<const char*> {};
 
 TEST_P(Pages, NameOnlyWhatIsThere) {
   static const std::regex link(R"(\]\(([^)#:]+\.(?:md|jpg)|LICENSE)[)#])");
-  static const std::regex path(R"(`((?:src|tests|docs|world|bench|tools|packaging|scripts|fuzz)/[^`* ]*)[ `])");
+  static const std::regex path(
+      R"(`((?:src|tests|docs|world|bench|tools|packaging|scripts|fuzz)/[^`* ]*)[ `])");
   const fs::path page = Repository / GetParam();
   ASSERT_GT(Content(page).size(), 500U);
   ExpectThereAll(page, page.parent_path(), link);
