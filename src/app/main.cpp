@@ -1,11 +1,13 @@
 #include "app/Context.h"
 #include "app/Program.h"
 #include "controls/FocusStyle.h"
+#include "controls/WidgetTwips.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/QtDesktop.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QIcon>
 #include <QStyle>
 #include <QTimer>
@@ -19,6 +21,13 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+// Where few fonts are installed, the desktop's own may be one of fixed pitch.
+void UseProportionalFont() {
+  const QFontInfo desktops(QApplication::font());
+  if (desktops.fixedPitch())
+    QApplication::setFont(WidgetTwips::Font(desktops.pointSizeF()));
+}
+
 }  // namespace
 
 int main(int, char** argv) {
@@ -28,6 +37,7 @@ int main(int, char** argv) {
   // A desktop's global menu loses top-level commands and the dividers between the regions.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QApplication application(onlyName, argv);
+  UseProportionalFont();
   QApplication::setStyle(new FocusStyle(QApplication::style()->name()));
   QApplication::setWindowIcon(ProgramIcon());
   QtDesktop desktop;
