@@ -1,29 +1,14 @@
 #include "auxwin/Hyperlink.h"
 
+#include "support/Contrast.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
-
-double Luminance(const QColor& color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-         0.0722 * linear(color.blueF());
-}
-
-// From 1, none, to 21, black on white.
-double Contrast(const QColor& a, const QColor& b) {
-  const auto [less, more] = std::minmax({Luminance(a), Luminance(b)});
-  return (more + 0.05) / (less + 0.05);
-}
 
 class LinkWindow : public QWidget {
  public:

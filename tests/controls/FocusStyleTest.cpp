@@ -1,5 +1,7 @@
 #include "controls/FocusStyle.h"
 
+#include "support/Contrast.h"
+
 #include <QComboBox>
 #include <QImage>
 #include <QPainter>
@@ -9,23 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
-
-double Luminance(const QColor& color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-         0.0722 * linear(color.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const double ratio = (Luminance(one) + 0.05) / (Luminance(other) + 0.05);
-  return std::max(ratio, 1 / ratio);
-}
 
 QPalette Theme(Qt::GlobalColor ground, Qt::GlobalColor text) {
   QPalette palette(ground);

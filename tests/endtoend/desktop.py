@@ -131,6 +131,12 @@ class Program:
     def running(self):
         return self.process is not None and self.process.poll() is None
 
+    def quit(self):
+        """Ends the program as a user does."""
+        self.keys("ctrl+w")
+        self.process.wait(10)
+        assert self.process.returncode == 0
+
     def end(self):
         if self.running():
             self.process.terminate()

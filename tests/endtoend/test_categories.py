@@ -25,9 +25,7 @@ def main():
                 assert not missing, f"{data} [{section}] at {size}: {missing}"
         program.resize(1200, 900)
         assert not missing_markers(program, "ancestors.data", "orcs"), "after a resize"
-        program.keys("ctrl+w")
-        program.process.wait(10)
-        assert program.process.returncode == 0
+        program.quit()
     finally:
         program.end()
 

@@ -66,8 +66,7 @@ def main():
         os.remove(page("orvalis.html"))
         program.keys("F1")
         assert program.running()
-        program.keys("ctrl+w")
-        program.process.wait(10)
+        program.quit()
     finally:
         program.end()
 

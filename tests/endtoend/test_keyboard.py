@@ -116,9 +116,7 @@ def main():
         for part in (cycle_through_menus, walk_the_map, pick_from_the_list, search, show_a_perk,
                      read_the_other_windows, change_the_language):
             part(program, reader)
-        program.keys("ctrl+w")
-        program.process.wait(10)
-        assert program.process.returncode == 0
+        program.quit()
     finally:
         program.end()
 

@@ -101,8 +101,7 @@ def main():
         assert seen["Deutsch"][0] == "Arvenna: Händler", seen["Deutsch"][0]
         assert len({heading for heading, _ in seen.values()}) == 3
         assert len({len(markers) for _, markers in seen.values()}) == 1
-        program.keys("ctrl+w")
-        program.process.wait(10)
+        program.quit()
     finally:
         program.end()
 

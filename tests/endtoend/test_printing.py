@@ -147,8 +147,7 @@ def main():
         program.keys("alt+d")
         wait_for(lambda: not program.find("^Karte Drucken$"), "the end of the print window")
         assert program.running() and not server.jobs(QUEUES[0])
-        program.keys("ctrl+w")
-        program.process.wait(10)
+        program.quit()
     finally:
         if program:
             program.end()

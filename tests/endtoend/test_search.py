@@ -99,9 +99,7 @@ def main():
         open_by_pointer(program, reader, name, x, y)
         open_by_pointer(program, reader, name, x + 30, y)
         rest_on_a_name(program, reader)
-        program.keys("ctrl+w")
-        program.process.wait(10)
-        assert program.process.returncode == 0
+        program.quit()
     finally:
         program.end()
 
