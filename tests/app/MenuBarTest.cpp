@@ -43,24 +43,6 @@ TEST(MenuBar, StandsInOrderWithDividers) {
   EXPECT_EQ(orks->actions().size(), 4);
 }
 
-TEST(MenuBar, EveryCommandTellsItsRow) {
-  MenuBar bar;
-  std::vector<const MenuRow*> chosen;
-  QObject::connect(&bar, &MenuBar::CategoryChosen,
-                   [&](const MenuRow& row) { chosen.push_back(&row); });
-  QObject::connect(&bar, &MenuBar::CommandChosen,
-                   [&](const MenuRow& row) { chosen.push_back(&row); });
-  bar.SetEnabled(u"miPrint", true);
-  bar.SetEnabled(u"miFindAgain", true);
-  std::vector<const MenuRow*> expected;
-  for (const MenuRow& row : MenuTable::Rows()) {
-    bar.findChild<QAction*>(QtText::ToQt(row.name))->trigger();
-    if (row.kind == MenuRow::Kind::Category || row.kind == MenuRow::Kind::Command)
-      expected.push_back(&row);
-  }
-  EXPECT_EQ(chosen, expected);
-}
-
 TEST(MenuBar, DisabledAndHiddenCommandsDontAnswerTheirShortcuts) {
   QWidget window;
   MenuBar bar(&window);

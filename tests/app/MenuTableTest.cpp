@@ -44,15 +44,6 @@ TEST(MenuTable, CaptionsEveryMenuUnderAKeyOfItsOwn) {
   EXPECT_EQ(Row(u"mnuObjects").caption.key, u"mnuObjects");
 }
 
-TEST(MenuTable, NestsEveryRowInAMenu) {
-  int deepest = 0;
-  for (const MenuRow& row : MenuTable::Rows()) {
-    EXPECT_LE(row.level, deepest);
-    EXPECT_EQ(row.kind == Kind::Command, row.action != Action::None);
-    deepest = row.kind == Kind::Menu ? row.level + 1 : row.level;
-  }
-}
-
 TEST(MenuTable, NoTwoCommandsShareAShortcut) {
   std::set<TextView> shortcuts;
   for (const MenuRow& row : MenuTable::Rows())
