@@ -6,7 +6,6 @@
 #include "support/TemporaryFolder.h"
 
 #include <QMenu>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
