@@ -1,6 +1,6 @@
 #include "Ratios.h"
 #include "perks/PerkCatalogue.h"
-#include "perks/frmPerks.h"
+#include "perks/windows/frmPerks.h"
 #include "support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>

@@ -3,8 +3,8 @@
 
 #include "MapWorld.h"
 #include "Ratios.h"
-#include "mapdata/IniOps.h"
-#include "platform/QtText.h"
+#include "mapdata/files/IniOps.h"
+#include "platform/windows/QtText.h"
 
 #include <benchmark/benchmark.h>
 

@@ -3,8 +3,8 @@
 
 #include "MapWorld.h"
 #include "Ratios.h"
-#include "mapdata/MapPicture.h"
-#include "mapdata/PictureReader.h"
+#include "mapdata/windows/MapPicture.h"
+#include "platform/windows/PictureReader.h"
 
 #include <QGuiApplication>
 

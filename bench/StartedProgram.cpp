@@ -3,7 +3,7 @@
 
 #include "Child.h"
 #include "MapWorld.h"
-#include "platform/QtText.h"
+#include "platform/windows/QtText.h"
 
 #include <QAction>
 #include <QScreen>

@@ -2,9 +2,9 @@
 // text of the code page and a path.
 
 #include "Fuzz.h"
-#include "mapdata/EntityFile.h"
-#include "mapdata/InfoFile.h"
-#include "mapdata/StringOps.h"
+#include "mapdata/files/StringOps.h"
+#include "mapdata/world/EntityFile.h"
+#include "mapdata/world/InfoFile.h"
 #include "platform/Windows1252.h"
 #include "support/GermanNames.h"
 

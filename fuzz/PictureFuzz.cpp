@@ -1,7 +1,7 @@
 // Any bytes as a picture file. The first byte chooses the size that the picture is to cover.
 
 #include "Fuzz.h"
-#include "mapdata/PictureReader.h"
+#include "platform/windows/PictureReader.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 // to write, a line each, then the file.
 
 #include "Fuzz.h"
-#include "mapdata/ProfileFile.h"
-#include "mapdata/ProfileLines.h"
+#include "mapdata/files/ProfileFile.h"
+#include "mapdata/files/ProfileLines.h"
 
 #include <algorithm>
 #include <tuple>

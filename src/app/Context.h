@@ -3,8 +3,8 @@
 #include "app/StartUp.h"
 #include "auxwin/Launching.h"
 #include "i18n/LOCAL.h"
-#include "mapdata/IniOps.h"
-#include "mapdata/ProgramPaths.h"
+#include "mapdata/files/IniOps.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "search/Search.h"
 
 class Desktop;

@@ -1,8 +1,8 @@
 #include "app/StartUp.h"
 
 #include "i18n/LOCAL.h"
-#include "mapdata/FileSystem.h"
-#include "mapdata/Settings.h"
+#include "mapdata/files/FileSystem.h"
+#include "mapdata/world/Settings.h"
 #include "platform/NativePath.h"
 #include "platform/ProgramInfo.h"
 

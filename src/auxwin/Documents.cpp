@@ -1,7 +1,7 @@
 #include "auxwin/Documents.h"
 
-#include "mapdata/FileSystem.h"
-#include "mapdata/StringOps.h"
+#include "mapdata/files/FileSystem.h"
+#include "mapdata/files/StringOps.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "auxwin/Addresses.h"
 #include "auxwin/Documents.h"
-#include "mapdata/FileSystem.h"
+#include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 
 #include <filesystem>

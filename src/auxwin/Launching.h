@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapdata/ProgramPaths.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Desktop.h"
 #include "platform/Text.h"
 

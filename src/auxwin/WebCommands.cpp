@@ -1,7 +1,7 @@
 #include "auxwin/WebCommands.h"
 
 #include "auxwin/Documents.h"
-#include "mapdata/Settings.h"
+#include "mapdata/world/Settings.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 

@@ -2,7 +2,7 @@
 
 #include "auxwin/Launching.h"
 #include "i18n/LOCAL.h"
-#include "mapdata/ProgramPaths.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
 /// The commands that open help, the read-me and addresses of the web. They keep nothing: each

@@ -1,6 +1,6 @@
 #include "i18n/LOCAL.h"
 
-#include "mapdata/FileSystem.h"
+#include "mapdata/files/FileSystem.h"
 
 using Texts::ReplaceAll;
 using Texts::Trim;

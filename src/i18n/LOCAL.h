@@ -1,8 +1,8 @@
 #pragma once
 
 #include "i18n/PrefixIndex.h"
-#include "mapdata/EntityNames.h"
-#include "mapdata/IniOps.h"
+#include "mapdata/files/IniOps.h"
+#include "mapdata/world/EntityNames.h"
 #include "platform/Text.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "i18n/LanguageList.h"
 
-#include "mapdata/FileSystem.h"
-#include "mapdata/Settings.h"
+#include "mapdata/files/FileSystem.h"
+#include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
 
 using Texts::Trim;

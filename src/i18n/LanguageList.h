@@ -2,7 +2,7 @@
 
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
-#include "mapdata/IniOps.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Text.h"
 
 #include <span>

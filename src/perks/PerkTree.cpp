@@ -1,6 +1,6 @@
 #include "perks/PerkTree.h"
 
-#include "mapdata/StringOps.h"
+#include "mapdata/files/StringOps.h"
 #include "perks/PerkCatalogue.h"
 
 #include <algorithm>

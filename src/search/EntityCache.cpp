@@ -1,8 +1,8 @@
 #include "search/EntityCache.h"
 
 #include "i18n/LOCAL.h"
-#include "mapdata/EntityFile.h"
-#include "mapdata/InfoFile.h"
+#include "mapdata/world/EntityFile.h"
+#include "mapdata/world/InfoFile.h"
 #include "platform/Windows1252.h"
 
 #include <algorithm>

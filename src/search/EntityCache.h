@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mapdata/IniOps.h"
-#include "mapdata/ProgramPaths.h"
+#include "mapdata/files/IniOps.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
 #include <cstdint>

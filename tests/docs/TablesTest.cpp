@@ -2,7 +2,7 @@
 #include "app/MenuTable.h"
 #include "auxwin/ExtrasTable.h"
 #include "docs/Document.h"
-#include "mapdata/IniOps.h"
+#include "mapdata/files/IniOps.h"
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 

@@ -4,7 +4,7 @@
 // than 10 by the clock: a program that waits uses none, and one on a loaded machine waits for it.
 
 #include "app/MenuTable.h"
-#include "platform/QtText.h"
+#include "platform/windows/QtText.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

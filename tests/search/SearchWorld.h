@@ -1,7 +1,7 @@
 #pragma once
 
 #include "i18n/LOCAL.h"
-#include "mapdata/ProgramPaths.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Windows1252.h"
 #include "support/English.h"
 #include "support/TemporaryFolder.h"

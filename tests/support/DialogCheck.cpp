@@ -1,8 +1,8 @@
 #include "support/DialogCheck.h"
 
-#include "controls/Dialog.h"
-#include "controls/TextFit.h"
-#include "controls/WidgetTwips.h"
+#include "controls/windows/Dialog.h"
+#include "controls/windows/TextFit.h"
+#include "controls/windows/WidgetTwips.h"
 
 #include <QAccessible>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapdata/EntityNames.h"
+#include "mapdata/world/EntityNames.h"
 
 /// German: names are their keys. Descriptions come from one file.
 class GermanNames : public EntityNames {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapdata/IniOps.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Text.h"
 
 #include <algorithm>

@@ -1,0 +1,95 @@
+#include "app/windows/Commands.h"
+
+#include "app/Context.h"
+#include "auxwin/WebCommands.h"
+#include "auxwin/windows/frmAbout.h"
+#include "auxwin/windows/frmExtras.h"
+#include "auxwin/windows/frmPrint.h"
+#include "i18n/windows/frmLang.h"
+#include "mapdata/windows/MapView.h"
+#include "mapdata/windows/frmInfo.h"
+#include "perks/windows/frmPerks.h"
+#include "search/windows/SearchCommands.h"
+
+Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
+    : QObject(&mainWindow),
+      context_(context),
+      map_(map),
+      mainWindow_(mainWindow),
+      search_(
+          new SearchCommands(map, context.paths, context.language, context.files, context.search)) {
+  search_->setParent(this);
+  connect(search_, &SearchCommands::SearchStarted, this, &Commands::SearchStarted);
+  // At once, and not after what still waits in the event loop.
+  connect(search_, &SearchCommands::EndRequested, &mainWindow, &QWidget::close);
+}
+
+void Commands::Run(const MenuRow& row) {
+  WebCommands web(context_.paths, context_.language, context_.launching);
+  switch (row.action) {
+    case Action::Print:
+      return Print();
+    case Action::Language:
+      return ChooseLanguage();
+    case Action::Find:
+      return search_->miFind_Click();
+    case Action::FindAgain:
+      return search_->miFindAgain_Click();
+    case Action::Perks:
+      return ShowPerks(row.region);
+    case Action::Extras:
+      return ShowExtras();
+    case Action::About:
+      return ShowAbout();
+    case Action::Help:
+      return web.miHelp_Click();
+    case Action::ReadMe:
+      return web.miReadMe_Click();
+    case Action::Quit:
+      mainWindow_.close();
+      return;
+    case Action::WebSite:
+      return web.OpenWebSite(row.name);
+    case Action::None:
+      return;
+  }
+}
+
+void Commands::ShowInfo() {
+  frmInfo(&mainWindow_, context_.paths, context_.language, context_.files, map_.InfoEntityName)
+      .exec();
+}
+
+void Commands::ChooseLanguage() {
+  frmLang dialog(&mainWindow_, context_.paths, context_.language, context_.files,
+                 context_.launching, captions_);
+  connect(&dialog, &frmLang::LanguageChanged, this, &Commands::LanguageChanged);
+  dialog.exec();
+}
+
+void Commands::Print() {
+  const Printout printout{[this] { return map_.MapSize(); },
+                          [this](QPainter& painter) { map_.Paint(painter); }};
+  frmPrint(&mainWindow_, context_.language, context_.files, context_.desktop, printout).exec();
+}
+
+void Commands::ShowExtras() {
+  frmExtras(&mainWindow_, context_.paths, context_.language, context_.files, context_.launching)
+      .exec();
+}
+
+void Commands::ShowAbout() {
+  frmAbout(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop,
+           context_.launching, context_.edition.text)
+      .exec();
+}
+
+void Commands::ShowPerks(int region) {
+  const Text& perksData = context_.paths.regions[static_cast<size_t>(region)].data;
+  frmPerks viewer(&mainWindow_, perksData, context_.language, context_.files);
+  connect(&viewer, &frmPerks::TeachersChosen, &map_,
+          [this](const Text& picture, const Text& data, const Text& category, const Text& heading) {
+            map_.ChangeMulti(picture, data, category, heading, false);
+          });
+  viewer.exec();
+}

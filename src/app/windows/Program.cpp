@@ -1,0 +1,71 @@
+#include "app/windows/Program.h"
+
+#include "app/Context.h"
+#include "app/MenuTable.h"
+#include "app/windows/frmMain.h"
+#include "i18n/InterfaceTexts.h"
+#include "i18n/Registry_Module.h"
+#include "platform/Desktop.h"
+#include "platform/NativePath.h"
+#include "platform/PosixFile.h"
+#include "platform/windows/ShowMessage.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QWindow>
+
+namespace {
+
+constexpr int LongestWait = 500;
+
+// A dialog stands over the middle of its window, once the desktop has placed that.
+void WaitUntilShown(const QWidget& window) {
+  QElapsedTimer waiting;
+  waiting.start();
+  while (!window.windowHandle()->isExposed() && waiting.elapsed() < LongestWait)
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+}
+
+}  // namespace
+
+Program::Program(Context& context) : context_(context) {}
+
+Program::~Program() = default;
+
+bool Program::Start() {
+  PosixFile::ChangeFolder(NativePath::ToBytes(context_.paths.programFolder));
+  IniOps::Snapshot files(context_.files);
+  const Text chosen = StartUp::ChosenLanguage(files, context_.paths);
+  if (!CheckFiles(chosen))
+    return false;
+  window_ = std::make_unique<frmMain>(context_);
+  window_->show();
+  ChooseLanguage(chosen);
+  return true;
+}
+
+bool Program::CheckFiles(const Text& chosenLanguage) {
+  const auto missing = StartUp::MissingFile(context_.paths);
+  if (!missing)
+    return true;
+  IniOps::Snapshot files(context_.files);
+  ShowMessage(nullptr, MessageIcon::Critical,
+              StartUp::FileNotFound(files, context_.paths, chosenLanguage, *missing));
+  return false;
+}
+
+void Program::ChooseLanguage(const Text& chosenLanguage) {
+  IniOps::Snapshot files(context_.files);
+  LOCAL::Language& language = context_.language;
+  language.StartUp(files, context_.paths.languageRoot, chosenLanguage);
+  window_->ShowTexts(language.IsGerman() ? Translate_UI_DE()
+                                         : Translate_UI(files, language, MenuTable::Captions()));
+  language.CacheTranslationTable(files);
+  const Text systemLanguage = Registry_Module::ReadRegistryValue(Registry_Module::InternationalKey,
+                                                                 Registry_Module::LanguageValue,
+                                                                 context_.desktop.UserLanguage());
+  if (!language.IsToBeOffered(systemLanguage))
+    return;
+  WaitUntilShown(*window_);
+  window_->ChooseLanguage();
+}

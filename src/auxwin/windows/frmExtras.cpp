@@ -1,0 +1,109 @@
+#include "auxwin/windows/frmExtras.h"
+
+#include "auxwin/Documents.h"
+#include "auxwin/ExtrasTable.h"
+#include "controls/windows/GridListbox.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+
+using QtText::ToQt;
+
+namespace {
+
+constexpr int PictureSize = 16;
+
+constexpr ControlDesign Controls[] = {
+    {.name = u"glbExtras",
+     .kind = ControlKind::GridList,
+     .place = {0, 0, 4335, 4575},
+     .points = 9.75},
+    {.name = u"btnSelect",
+     .kind = ControlKind::Button,
+     .place = {1800, 4680, 1095, 375},
+     .text = u"A&uswählen"},
+    {.name = u"btnAbort",
+     .kind = ControlKind::Button,
+     .place = {3120, 4680, 1095, 375},
+     .text = u"&Abbrechen"},
+    {.name = u"imgList", .kind = ControlKind::Picture, .place = {120, 4680, 240, 240}},
+};
+
+constexpr DialogDesign WindowDesign = {.name = u"frmExtras",
+                                       .caption = u"Extras",
+                                       .width = 4335,
+                                       .height = 5145,
+                                       .defaultButton = u"btnSelect",
+                                       .cancelButton = u"btnAbort",
+                                       .controls = Controls};
+
+}  // namespace
+
+frmExtras::frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
+                     IniOps::Cache& files, Launching& launching)
+    : Dialog(parent, WindowDesign),
+      paths_(paths),
+      language_(language),
+      launching_(launching),
+      glbExtras(Control<GridListbox>(u"glbExtras")),
+      btnSelect(Control<QPushButton>(u"btnSelect")),
+      btnAbort(Control<QPushButton>(u"btnAbort")),
+      imgList(Control<QLabel>(u"imgList")) {
+  imgList->hide();
+  imgList->setPixmap(QIcon(QStringLiteral(":/builtin/document.png")).pixmap(PictureSize));
+  glbExtras->SetSorted(true);
+  glbExtras->SetCaption(u"Vorhandene Extras");
+  IniOps::Snapshot snapshot(files);
+  applyTexts(snapshot);
+  connect(btnSelect, &QPushButton::clicked, this, &frmExtras::btnSelect_Click);
+  connect(glbExtras, &GridListbox::DblClick, this, &frmExtras::btnSelect_Click);
+}
+
+void frmExtras::applyTexts(IniOps::Snapshot& files) {
+  const auto text = [&](TextView key, TextView english, TextView german) {
+    return language_.Lookup(files, u"frmExtras", key, english, german);
+  };
+  setWindowTitle(ToQt(text(u"caption", u"Extras", u"Extras")));
+  btnSelect->setText(ToQt(text(u"btnSelect", u"Select", u"A&uswählen")));
+  btnAbort->setText(ToQt(text(u"btnCancel", u"Cancel", u"&Abbrechen")));
+  for (const Extra& extra : ExtrasTable)
+    Add(text(extra.key, extra.english, extra.german), extra.file);
+}
+
+void frmExtras::Add(TextView name, TextView File) {
+  glbExtras->AddItem(name, imgList->pixmap(), File);
+}
+
+void frmExtras::btnSelect_Click() {
+  const auto row = glbExtras->Rows(glbExtras->ListIndex());
+  if (!row)
+    return;
+  const Text file = Texts::Lower(Texts::Trim(row->Tag));
+  switch (Documents::ViewerOf(row->Tag)) {
+    case Documents::Viewer::Program:
+      return Show_EXE(file);
+    case Documents::Viewer::Page:
+      return Show_HTML(file);
+    case Documents::Viewer::Shell:
+      return Show_CHM(file);
+    case Documents::Viewer::None:
+      return;
+  }
+}
+
+Text frmExtras::Copy(TextView File) const {
+  return Documents::Choose(language_, File, Texts::Join(paths_.extrasFolder, File));
+}
+
+void frmExtras::Show_EXE(TextView File) {
+  launching_.StartProgram(Copy(File));
+}
+
+void frmExtras::Show_HTML(TextView File) {
+  launching_.ShowPage(Copy(File));
+}
+
+void frmExtras::Show_CHM(TextView File) {
+  launching_.ShellExec(Documents::Quoted(Copy(File)));
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/Twips2Pixel_Module.h"
+#include "controls/windows/Dialog.h"
+#include "i18n/LOCAL.h"
+#include "mapdata/files/IniOps.h"
+#include "platform/Desktop.h"
+
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QPainter;
+class QPrinter;
+class QPushButton;
+class QRadioButton;
+
+/// What is printed, asked when Print is pressed: its size on screen in twips, and the function that
+/// paints it in pixels of the screen, on a painter whose origin is the left upper corner.
+struct Printout {
+  std::function<Twips2Pixel_Module::Twips()> size;
+  std::function<void(QPainter&)> paint;
+};
+
+/// The print window: a printer, an orientation, and one page in the size that the map has on
+/// screen. Where no printer is installed it offers a PDF file. Whatever goes wrong while printing
+/// is not reported.
+class frmPrint : public Dialog {
+  Q_OBJECT
+
+ public:
+  frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cache& files, Desktop& desktop,
+           Printout printout);
+
+ private:
+  void FillPrinters();
+  void ShowBanner();
+  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language);
+  void btnPrint_Click();
+  [[nodiscard]] bool ChoosePrinter(QPrinter& printer);
+  void PrintOn(QPrinter& printer) const;
+
+  Desktop& desktop_;
+  Printout printout_;
+  bool toFile_ = false;
+
+  QLabel* imgBanner;
+  QLabel* lblPrinters;
+  QComboBox* cboPrinters;
+  QRadioButton* rbQuerformat;
+  QRadioButton* rbHochformat;
+  QPushButton* btnPrint;
+  QPushButton* btnCancel;
+};

@@ -1,0 +1,136 @@
+#include "mapdata/files/IniOps.h"
+
+#include "mapdata/files/FileSystem.h"
+#include "platform/Windows1252.h"
+
+#include <algorithm>
+
+namespace {
+
+// The region shown, its descriptions and the language: what the pointer and a resize ask for again
+// and again. Any other file is parsed anew in milliseconds.
+constexpr size_t MostKeptFiles = 3;
+
+// Two edits of equal size within one tick of the file system's clock leave the same stamp.
+constexpr int64_t UntrustedAge = 2'500'000'000;
+
+std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
+  return std::make_shared<const ProfileFile>(std::move(bytes));
+}
+
+std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
+  std::vector<Text> texts;
+  texts.reserve(names.size());
+  for (const std::string_view name : names)
+    texts.push_back(Windows1252::Decode(name));
+  return texts;
+}
+
+std::vector<Text> SectionNames(const ProfileFile& file) {
+  auto names = file.SectionNames();
+  std::erase_if(names, [](std::string_view name) {
+    return name.find_first_not_of(' ') == std::string_view::npos;
+  });
+  return Decoded(names);
+}
+
+std::vector<Text> KeyNames(const ProfileFile& file, TextView section) {
+  const auto name = Windows1252::Encode(section);
+  return name ? Decoded(file.KeyNames(*name)) : std::vector<Text>();
+}
+
+bool BreaksLine(TextView text) {
+  return text.find_first_of(u"\r\n") != TextView::npos;
+}
+
+}  // namespace
+
+namespace IniOps {
+
+std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
+  const auto path = FileSystem::Resolve(file);
+  const auto stamp = path ? PosixFile::RegularFile(*path) : std::nullopt;
+  const auto kept = std::find_if(kept_.begin(), kept_.end(),
+                                 [file](const Kept& entry) { return entry.path == file; });
+  if (kept != kept_.end()) {
+    if (stamp && kept->stamp == *stamp)
+      return kept->profile;
+    kept_.erase(kept);
+  }
+  auto contents = stamp ? PosixFile::Read(*path, LargestFile) : std::nullopt;
+  if (!contents)
+    return Parsed({});
+  auto profile = Parsed(std::move(contents->bytes));
+  if (PosixFile::Now() - contents->stamp.modified < UntrustedAge)
+    return profile;
+  if (kept_.size() == MostKeptFiles)
+    kept_.pop_front();
+  return kept_.emplace_back(Kept{Text(file), contents->stamp, std::move(profile)}).profile;
+}
+
+const std::shared_ptr<const ProfileFile>& Snapshot::Shared(TextView file) {
+  for (const Seen& seen : seen_)
+    if (seen.path == file)
+      return seen.profile;
+  return seen_.emplace_back(Seen{Text(file), cache_.Get(file)}).profile;
+}
+
+Text Snapshot::IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {
+  return IniOps::IniRead(File(file), section, key, defaultValue);
+}
+
+std::vector<Text> Snapshot::IniSectionNames(TextView file) {
+  return SectionNames(File(file));
+}
+
+std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
+  return KeyNames(File(file), section);
+}
+
+std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
+                              std::string_view key) {
+  return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
+}
+
+Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
+  const auto sectionBytes = Windows1252::Encode(section);
+  const auto keyBytes = Windows1252::Encode(key);
+  // A name asked for that Windows-1252 can't hold stands in no file.
+  if (!sectionBytes || !keyBytes)
+    return Text(defaultValue);
+  const auto value = IniReadBytes(file, *sectionBytes, *keyBytes);
+  return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
+}
+
+Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue) {
+  Cache cache;
+  return Snapshot(cache).IniRead(file, section, key, defaultValue);
+}
+
+std::vector<Text> IniSectionNames(TextView file) {
+  Cache cache;
+  return Snapshot(cache).IniSectionNames(file);
+}
+
+std::vector<Text> IniReadFile(TextView file, TextView section) {
+  Cache cache;
+  return Snapshot(cache).IniReadFile(file, section);
+}
+
+void IniWrite(TextView file, TextView section, TextView key, TextView value) {
+  const auto sectionBytes = Windows1252::Encode(section);
+  const auto keyBytes = Windows1252::Encode(key);
+  const auto valueBytes = Windows1252::Encode(value);
+  const bool breaks = BreaksLine(section) || BreaksLine(key) || BreaksLine(value);
+  if (!sectionBytes || !keyBytes || !valueBytes || breaks)
+    return;
+  const std::string path = FileSystem::ResolveForWriting(file);
+  auto contents = PosixFile::Read(path, LargestFile);
+  // A file that is there but can't be read would be lost by writing a new one.
+  if (!contents && PosixFile::Exists(path))
+    return;
+  const ProfileFile profile(contents ? std::move(contents->bytes) : std::string());
+  PosixFile::Replace(path, profile.WithValue(*sectionBytes, *keyBytes, *valueBytes));
+}
+
+}  // namespace IniOps

@@ -1,0 +1,206 @@
+#include "mapdata/windows/MapFocus.h"
+
+#include "mapdata/display/MarkerWalk.h"
+#include "mapdata/windows/FocusRing.h"
+#include "mapdata/windows/NameLabel.h"
+#include "mapdata/windows/ctlLocation.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+std::optional<MarkerWalk::Direction> DirectionOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return MarkerWalk::Direction::Left;
+    case Qt::Key_Right:
+      return MarkerWalk::Direction::Right;
+    case Qt::Key_Up:
+      return MarkerWalk::Direction::Up;
+    case Qt::Key_Down:
+      return MarkerWalk::Direction::Down;
+    default:
+      return std::nullopt;
+  }
+}
+
+// The marker that the key leads to; a key that walks nowhere leads to where it is.
+size_t Target(const std::vector<ctlLocation*>& markers, size_t from, int key) {
+  const size_t last = markers.size() - 1;
+  if (key == Qt::Key_Home || key == Qt::Key_End)
+    return key == Qt::Key_Home ? 0 : last;
+  if (key == Qt::Key_PageDown)
+    return std::min(from + 1, last);
+  if (key == Qt::Key_PageUp)
+    return from == 0 ? 0 : from - 1;
+  std::vector<MarkerWalk::Point> points;
+  points.reserve(markers.size());
+  for (const ctlLocation* marker : markers)
+    points.push_back({marker->x(), marker->y()});
+  return MarkerWalk::Next(points, from, *DirectionOf(key)).value_or(from);
+}
+
+}  // namespace
+
+MapFocus::MapFocus(QWidget* map) : QObject(map), map_(map), ring_(new FocusRing(map)) {}
+
+void MapFocus::Add(ctlLocation* marker, NameLabel* name) {
+  spots_.push_back({marker, name});
+  marker->installEventFilter(this);
+}
+
+std::vector<ctlLocation*> MapFocus::Markers() const {
+  std::vector<ctlLocation*> shown;
+  for (const Spot& spot : spots_)
+    if (!spot.marker->isHidden())
+      shown.push_back(spot.marker);
+  return shown;
+}
+
+NameLabel& MapFocus::NameOf(const ctlLocation& marker) const {
+  return *std::find_if(spots_.begin(), spots_.end(), [&](const Spot& spot) {
+            return spot.marker == &marker;
+          })->name;
+}
+
+ctlLocation* MapFocus::Current() const {
+  const auto holds = [focus = map_->window()->focusWidget()](const Spot& spot) {
+    return spot.marker == focus;
+  };
+  const auto found = std::find_if(spots_.begin(), spots_.end(), holds);
+  return found == spots_.end() ? nullptr : found->marker;
+}
+
+void MapFocus::Resume(ctlLocation* marker) {
+  if (marker && !marker->isHidden())
+    marker->setFocus();
+}
+
+void MapFocus::SetRingLeftOut(bool leftOut) {
+  ringLeftOut_ = leftOut;
+  ShowRing();
+}
+
+void MapFocus::MakeTabStop(ctlLocation* marker) {
+  if (tabStop_)
+    tabStop_->setFocusPolicy(Qt::NoFocus);
+  tabStop_ = marker;
+  if (tabStop_)
+    tabStop_->setFocusPolicy(Qt::TabFocus);
+}
+
+bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
+  auto& marker = static_cast<ctlLocation&>(*watched);
+  switch (event->type()) {
+    case QEvent::ShowToParent:
+      if (!tabStop_)
+        MakeTabStop(&marker);
+      break;
+    case QEvent::HideToParent:
+      if (tabStop_ == &marker)
+        MakeTabStop(nullptr);
+      // The toolkit leaves the focus on a hidden widget where no other can take it.
+      marker.clearFocus();
+      break;
+    case QEvent::FocusIn:
+      TakeFocus(marker, static_cast<const QFocusEvent&>(*event).reason());
+      break;
+    case QEvent::FocusOut:
+      left_ = static_cast<const QFocusEvent&>(*event).reason() == Qt::ActiveWindowFocusReason
+                  ? &marker
+                  : nullptr;
+      Leave();
+      break;
+    case QEvent::Move:
+      ShowRing();
+      break;
+    case QEvent::KeyPress:
+      return Press(marker, static_cast<QKeyEvent&>(*event));
+    default:
+      break;
+  }
+  return false;
+}
+
+// A window that becomes active without a focus gives it to its first Tab stop; on the map that
+// would show a name that nobody asked for.
+void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
+  if (reason == Qt::ActiveWindowFocusReason && left_ != &marker)
+    marker.clearFocus();
+  else
+    Rest(marker);
+}
+
+void MapFocus::Rest(ctlLocation& marker) {
+  MakeTabStop(&marker);
+  const QPointF middle = QRectF(marker.rect()).center();
+  Q_EMIT marker.MouseMove(0, 0, static_cast<float>(middle.x()), static_cast<float>(middle.y()));
+  Q_EMIT NameOf(marker).MouseMove();
+  ShowRing();
+  untilTip_.start(map_->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay), this);
+}
+
+void MapFocus::Leave() {
+  ring_->hide();
+  untilTip_.stop();
+  QToolTip::hideText();
+}
+
+void MapFocus::ShowRing() {
+  if (tabStop_ && tabStop_->hasFocus() && !ringLeftOut_)
+    ring_->Surround(*tabStop_);
+  else
+    ring_->hide();
+}
+
+void MapFocus::timerEvent(QTimerEvent*) {
+  untilTip_.stop();
+  if (!tabStop_)
+    return;
+  NameLabel& name = NameOf(*tabStop_);
+  const QPoint below = name.rect().bottomLeft();
+  QHelpEvent help(QEvent::ToolTip, below, name.mapToGlobal(below));
+  QApplication::sendEvent(&name, &help);
+}
+
+bool MapFocus::Press(ctlLocation& marker, const QKeyEvent& key) {
+  if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+    return false;
+  switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      Q_EMIT marker.DblClick();
+      return true;
+    case Qt::Key_Escape:
+      marker.clearFocus();
+      Q_EMIT Left();
+      return true;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      Walk(marker, key.key());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void MapFocus::Walk(ctlLocation& from, int key) {
+  const auto markers = Markers();
+  const auto at = std::find(markers.begin(), markers.end(), &from);
+  if (at == markers.end())
+    return;
+  markers[Target(markers, static_cast<size_t>(at - markers.begin()), key)]->setFocus();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/Twips2Pixel_Module.h"
+#include "mapdata/world/EntityFile.h"
+
+#include <QObject>
+
+#include <array>
+
+class NameLabel;
+class QWidget;
+class ctlLocation;
+
+/// The 81 markers of a category and their name labels: `DOT(0)` to `DOT(80)`, `lblDOT(0)` to
+/// `lblDOT(80)`. Marker number i belongs to line i of the category, disabled or not.
+class MarkerSlots : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr int Count = 81;
+
+  /// Creates all of them on the map, hidden. `between` is a sibling that stays above every label
+  /// and below every marker.
+  MarkerSlots(QWidget* map, QWidget* between);
+
+  /// Hides and resets every slot.
+  void Clear();
+
+  /// Puts the entity's marker at the point (twips) and its label beside it; a disabled entity
+  /// takes its slot and is not shown. `windowWidth` is in twips.
+  void Set(int slot, const EntityFile::Marker& entity, const Twips2Pixel_Module::Twips& point,
+           bool labelShown, int windowWidth);
+
+  /// Shows the label of this slot and, if the others show on hover only, hides them.
+  void ShowLabel(int slot, bool alone);
+
+  /// Brings the slot's marker and label in front of all others.
+  void BringToFront(int slot);
+
+  /// Marker and label of the slot, 0 to 80.
+  [[nodiscard]] ctlLocation& Dot(int slot) { return *dots_[static_cast<size_t>(slot)]; }
+
+  [[nodiscard]] NameLabel& Label(int slot) { return *labels_[static_cast<size_t>(slot)]; }
+
+ Q_SIGNALS:
+  /// The pointer moved over a marker or a label, or double-clicked it.
+  void DotMoved(int slot);
+  void DotDoubleClicked(int slot);
+  void LabelMoved(int slot);
+  void LabelDoubleClicked(int slot);
+
+ private:
+  QWidget* between_;
+  std::array<ctlLocation*, Count> dots_{};
+  std::array<NameLabel*, Count> labels_{};
+  int front_ = -1;
+};

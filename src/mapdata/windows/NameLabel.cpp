@@ -1,0 +1,53 @@
+#include "mapdata/windows/NameLabel.h"
+
+#include "controls/windows/PlainToolTip.h"
+#include "controls/windows/WidgetTwips.h"
+
+#include <QToolTip>
+
+NameLabel::NameLabel(QWidget* parent, double points, int textColor, int groundColor)
+    : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setFont(WidgetTwips::Font(points, true));
+  setMouseTracking(true);
+  // By palette: a style sheet would colour the tooltip too.
+  setAutoFillBackground(true);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, WidgetTwips::Color(groundColor));
+  colors.setColor(QPalette::WindowText, WidgetTwips::Color(textColor));
+  setPalette(colors);
+}
+
+void NameLabel::SetCaption(const QString& caption) {
+  // A resize sets every name anew.
+  if (text() == caption)
+    return;
+  setText(caption);
+  adjustSize();
+}
+
+void NameLabel::SetTextColor(int color) {
+  const QColor wanted = WidgetTwips::Color(color);
+  if (palette().color(QPalette::WindowText) == wanted)
+    return;
+  QPalette colors = palette();
+  colors.setColor(QPalette::WindowText, wanted);
+  setPalette(colors);
+}
+
+bool NameLabel::event(QEvent* event) {
+  return PlainToolTip::Show(*this, *event) || QLabel::event(event);
+}
+
+void NameLabel::leaveEvent(QEvent* event) {
+  QToolTip::hideText();
+  QLabel::leaveEvent(event);
+}
+
+void NameLabel::mouseMoveEvent(QMouseEvent*) {
+  Q_EMIT MouseMove();
+}
+
+void NameLabel::mouseDoubleClickEvent(QMouseEvent*) {
+  Q_EMIT DblClick();
+}

@@ -1,0 +1,88 @@
+#include "mapdata/windows/frmInfo.h"
+
+#include "mapdata/world/InfoFile.h"
+#include "platform/windows/PictureReader.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+using QtText::ToQt;
+
+namespace {
+
+constexpr TextView FallbackPicture = u":/builtin/fallback.jpg";
+
+constexpr ControlDesign Controls[] = {
+    {.name = u"lblName",
+     .place = {1800, 120, 4935, 255},
+     .text = u"<name>",
+     .points = 12,
+     .bold = true},
+    {.name = u"picPortrait",
+     .kind = ControlKind::Picture,
+     .place = {120, 120, 1575, 1575},
+     .namedBy = u"lblName"},
+    {.name = u"txtInfo",
+     .kind = ControlKind::TextBox,
+     .place = {1800, 480, 4815, 3855},
+     .text = u"<beschreibung>\n",
+     .points = 9.75,
+     .namedBy = u"lblName"},
+    {.name = u"btnClose",
+     .kind = ControlKind::Button,
+     .place = {2880, 4560, 1335, 375},
+     .text = u"&Schließen"},
+    {.name = u"imgBackup", .kind = ControlKind::Picture, .place = {600, 3720, 495, 495}},
+};
+
+constexpr DialogDesign WindowDesign = {.name = u"frmInfo",
+                                       .caption = u"<name>",
+                                       .width = 6780,
+                                       .height = 5040,
+                                       .defaultButton = u"btnClose",
+                                       .cancelButton = u"btnClose",
+                                       .controls = Controls};
+
+}  // namespace
+
+frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
+                 IniOps::Cache& files, const Text& infoEntityName)
+    : Dialog(parent, WindowDesign),
+      lblName(Control<QLabel>(u"lblName")),
+      picPortrait(Control<QLabel>(u"picPortrait")),
+      txtInfo(Control<QPlainTextEdit>(u"txtInfo")),
+      btnClose(Control<QPushButton>(u"btnClose")),
+      imgBackup(Control<QLabel>(u"imgBackup")) {
+  IniOps::Snapshot snapshot(files);
+  const Text name(Texts::Trim(infoEntityName));
+  const Text key = language.Key(name);
+  const auto keyOf = [&language](TextView shown) { return language.Key(shown); };
+  const Text description = InfoFile::ReadRedirected(snapshot, language.InfoFile(), key, keyOf);
+  imgBackup->hide();
+  imgBackup->setPixmap(QPixmap::fromImage(PictureReader::Read(FallbackPicture)));
+  txtInfo->setReadOnly(true);
+  txtInfo->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  QPalette buttonFace = txtInfo->palette();
+  buttonFace.setColor(QPalette::Base, buttonFace.color(QPalette::Button));
+  txtInfo->setPalette(buttonFace);
+  txtInfo->setPlainText(ToQt(Texts::ReplaceAll(description, u"\\n", u"\n")));
+  ShowPortrait(snapshot, paths, key);
+  lblName->setText(ToQt(infoEntityName));
+  applyTexts(snapshot, language, name);
+}
+
+void frmInfo::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
+                         const Text& name) {
+  setWindowTitle(ToQt(name));
+  btnClose->setText(
+      ToQt(language.Lookup(files, u"frmInfo", u"buttonclose", u"Close", u"&Schließen")));
+}
+
+void frmInfo::ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key) {
+  const Text list = Texts::Join(paths.picturesFolder, u"pic.ini");
+  const QImage portrait = PictureReader::Read(
+      Texts::Join(paths.picturesFolder, files.IniRead(list, u"pics", key, u"")));
+  picPortrait->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  picPortrait->setPixmap(portrait.isNull() ? imgBackup->pixmap() : QPixmap::fromImage(portrait));
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "mapdata/files/IniOps.h"
+#include "platform/Text.h"
+
+/// How the map learns of the interface language: names as they are shown, the keys behind them,
+/// and the file that tells about them. In German a name is its key.
+class EntityNames {
+ public:
+  EntityNames() = default;
+  virtual ~EntityNames() = default;
+  EntityNames(const EntityNames&) = delete;
+  EntityNames& operator=(const EntityNames&) = delete;
+
+  /// The name to show for the key of an entity data file.
+  [[nodiscard]] virtual Text Shown(IniOps::Snapshot& files, TextView key) = 0;
+
+  /// The key behind a name that `Shown` gave.
+  [[nodiscard]] virtual Text Key(TextView shown) = 0;
+
+  /// The path of the information file that holds the descriptions for this language.
+  [[nodiscard]] virtual Text InfoFile() = 0;
+};

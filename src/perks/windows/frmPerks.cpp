@@ -1,0 +1,109 @@
+#include "perks/windows/frmPerks.h"
+
+#include <QFile>
+#include <QHeaderView>
+#include <QIcon>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include <map>
+
+using QtText::FromQt;
+using QtText::ToQt;
+
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+constexpr int PictureSize = 16;
+
+constexpr ControlDesign Controls[] = {
+    {.name = u"tvPerks", .kind = ControlKind::Tree, .place = {120, 120, 5655, 7335}},
+    {.name = u"btnShow",
+     .kind = ControlKind::Button,
+     .place = {2880, 7680, 1335, 375},
+     .text = u"An&zeigen"},
+    {.name = u"btnAbort",
+     .kind = ControlKind::Button,
+     .place = {4440, 7680, 1335, 375},
+     .text = u"&Abbrechen"},
+};
+
+constexpr DialogDesign WindowDesign = {.name = u"frmPerks",
+                                       .caption = u"<perks>",
+                                       .width = 5895,
+                                       .height = 8145,
+                                       .defaultButton = u"btnAbort",
+                                       .cancelButton = u"btnAbort",
+                                       .controls = Controls};
+
+// Without a picture an icon would search for one under the suffixes of all formats.
+QIcon PictureOf(int number) {
+  const auto file = QStringLiteral(":/builtin/perk-%1.png").arg(number);
+  return QFile::exists(file) ? QIcon(file) : QIcon();
+}
+
+PerkTree::Lookup LookupIn(IniOps::Snapshot& files, const LOCAL::Language& language) {
+  return [&files, &language](TextView key, TextView english, TextView german) {
+    return language.Lookup(files, u"frmPerks", key, english, german);
+  };
+}
+
+}  // namespace
+
+frmPerks::frmPerks(QWidget* parent, const Text& perksData, LOCAL::Language& language,
+                   IniOps::Cache& files)
+    : Dialog(parent, WindowDesign),
+      PerksData(perksData),
+      language_(language),
+      files_(files),
+      tvPerks(Control<QTreeWidget>(u"tvPerks")),
+      btnShow(Control<QPushButton>(u"btnShow")),
+      btnAbort(Control<QPushButton>(u"btnAbort")) {
+  IniOps::Snapshot snapshot(files);
+  const auto lookup = LookupIn(snapshot, language);
+  const Text name = PerkTree::PerkRegion(PerksData);
+  const PerkTree::Region region = {name, language.Shown(snapshot, name)};
+  tvPerks->header()->hide();
+  tvPerks->setIconSize({PictureSize, PictureSize});
+  Fill(PerkTree::Build(snapshot.IniSectionNames(PerksData), region, lookup));
+  applyTexts(region, lookup);
+  connect(btnShow, &QPushButton::clicked, this, &frmPerks::btnShow_Click);
+  connect(tvPerks, &QTreeWidget::itemDoubleClicked, this, &frmPerks::btnShow_Click);
+}
+
+void frmPerks::applyTexts(const PerkTree::Region& region, const PerkTree::Lookup& lookup) {
+  setWindowTitle(ToQt(PerkTree::WindowCaption(region, lookup)));
+  tvPerks->setAccessibleName(windowTitle());
+  btnShow->setText(ToQt(lookup(u"ButtonShow", u"Show", u"An&zeigen")));
+  btnAbort->setText(ToQt(lookup(u"ButtonCancel", u"Abort", u"&Abbrechen")));
+}
+
+void frmPerks::Fill(const std::vector<PerkTree::Node>& nodes) {
+  std::map<Text, QTreeWidgetItem*> parents = {{{}, tvPerks->invisibleRootItem()}};
+  std::map<int, QIcon> ilPerks;
+  QFont bold = tvPerks->font();
+  bold.setBold(true);
+  for (const PerkTree::Node& node : nodes) {
+    auto* item = new QTreeWidgetItem(parents.at(node.parent), {ToQt(node.caption)});
+    item->setData(0, KeyRole, ToQt(node.key));
+    item->setIcon(0, ilPerks.try_emplace(node.picture, PictureOf(node.picture)).first->second);
+    if (node.bold)
+      item->setFont(0, bold);
+    parents.emplace(node.key, item);
+  }
+  tvPerks->expandAll();
+}
+
+void frmPerks::btnShow_Click() {
+  const auto selected = tvPerks->selectedItems();
+  if (selected.isEmpty())
+    return;
+  const Text key = FromQt(selected.front()->data(0, KeyRole).toString());
+  if (!PerkTree::IsPerk(key))
+    return;
+  IniOps::Snapshot files(files_);
+  const Text heading = PerkTree::MapHeading(PerksData, FromQt(selected.front()->text(0)),
+                                            LookupIn(files, language_));
+  Q_EMIT TeachersChosen(PerkTree::PicturePath(PerksData), PerksData, key, heading);
+  accept();
+}

@@ -1,0 +1,63 @@
+#include "platform/windows/PageWindow.h"
+
+#include "platform/NativePath.h"
+#include "platform/PosixFile.h"
+#include "platform/TamePage.h"
+#include "platform/windows/QtText.h"
+
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr size_t LargestFile = size_t{16} * 1024 * 1024;
+constexpr QSize StartSize(720, 600);
+
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.rfind('/') + 1);
+}
+
+class Browser : public QTextBrowser {
+ public:
+  Browser(QWidget* parent, std::string folder) : QTextBrowser(parent), folder_(std::move(folder)) {
+    setObjectName(QStringLiteral("txtPage"));
+    setOpenLinks(false);
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+      if (link.path().isEmpty() && link.hasFragment())
+        scrollToAnchor(link.fragment());
+    });
+  }
+
+  // A page may name anything; only files beside it are read.
+  QVariant loadResource(int, const QUrl& name) override {
+    const std::string file = name.path().toStdString();
+    if (!name.isRelative() || file.starts_with('/') || file.find("..") != std::string::npos)
+      return {};
+    const auto contents = PosixFile::Read(folder_ + file, LargestFile);
+    return contents ? QByteArray::fromStdString(contents->bytes) : QVariant();
+  }
+
+ private:
+  std::string folder_;
+};
+
+}  // namespace
+
+PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(parent) {
+  setObjectName(QStringLiteral("pageWindow"));
+  auto* browser = new Browser(this, FolderOf(path));
+  const auto page = PosixFile::Read(path, LargestFile);
+  // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
+  browser->setHtml(
+      QtText::ToQt(TamePage::Of(NativePath::EntryName(page ? page->bytes : std::string()))));
+  const QString title = browser->documentTitle();
+  setWindowTitle(title.isEmpty()
+                     ? QtText::ToQt(NativePath::EntryName(path.substr(FolderOf(path).size())))
+                     : title);
+  browser->setAccessibleName(windowTitle());
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->addWidget(browser);
+  resize(StartSize);
+}

@@ -1,0 +1,120 @@
+#include "search/windows/frmFind.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+using QtText::FromQt;
+using QtText::ToQt;
+using Search::Mode;
+
+namespace {
+
+constexpr TextView Section = u"frmFind";
+
+constexpr ControlDesign Controls[] = {
+    {.name = u"txtFind",
+     .kind = ControlKind::TextField,
+     .place = {1320, 240, 4575, 330},
+     .namedBy = u"lblFind"},
+    {.name = u"lblFind", .place = {120, 308, 1005, 195}, .text = u"Suchen nach:"},
+    {.name = u"fraOptions",
+     .kind = ControlKind::Frame,
+     .place = {120, 700, 4095, 1095},
+     .text = u"Optionen"},
+    {.name = u"rbNamesOnly",
+     .kind = ControlKind::OptionButton,
+     .place = {120, 360, 2175, 255},
+     .text = u"Suche in den &Namen",
+     .frame = u"fraOptions"},
+    {.name = u"rbDescsOnly",
+     .kind = ControlKind::OptionButton,
+     .place = {120, 720, 2535, 255},
+     .text = u"Suche in den &Beschreibungen",
+     .frame = u"fraOptions"},
+    {.name = u"btnFind",
+     .kind = ControlKind::Button,
+     .place = {4560, 810, 1335, 375},
+     .text = u"&Suchen"},
+    {.name = u"btnAbort",
+     .kind = ControlKind::Button,
+     .place = {4560, 1440, 1335, 375},
+     .text = u"&Abbrechen"},
+};
+
+constexpr DialogDesign WindowDesign = {.name = u"frmFind",
+                                       .caption = u"Suchen",
+                                       .width = 6030,
+                                       .height = 1935,
+                                       .defaultButton = u"btnFind",
+                                       .cancelButton = u"btnAbort",
+                                       .controls = Controls};
+
+}  // namespace
+
+frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
+                 IniOps::Cache& files, Search::State& state)
+    : Dialog(parent, WindowDesign),
+      paths_(paths),
+      language_(language),
+      files_(files),
+      state_(state),
+      lblFind(Control<QLabel>(u"lblFind")),
+      txtFind(Control<QLineEdit>(u"txtFind")),
+      fraOptions(Control<QGroupBox>(u"fraOptions")),
+      rbNamesOnly(Control<QRadioButton>(u"rbNamesOnly")),
+      rbDescsOnly(Control<QRadioButton>(u"rbDescsOnly")),
+      btnFind(Control<QPushButton>(u"btnFind")),
+      btnAbort(Control<QPushButton>(u"btnAbort")) {
+  LoadState();
+  connect(txtFind, &QLineEdit::textChanged, this, &frmFind::txtFind_Change);
+  connect(rbNamesOnly, &QRadioButton::toggled, this,
+          [this](bool chosen) { ChooseMode(Mode::Names, chosen); });
+  connect(rbDescsOnly, &QRadioButton::toggled, this,
+          [this](bool chosen) { ChooseMode(Mode::Descriptions, chosen); });
+  connect(btnFind, &QPushButton::clicked, this, &frmFind::btnFind_Click);
+  IniOps::Snapshot snapshot(files);
+  applyTexts(snapshot);
+}
+
+void frmFind::LoadState() {
+  txtFind->setText(ToQt(state_.SearchTerm));
+  txtFind->selectAll();
+  txtFind->setFocus();
+  txtFind_Change();
+  (state_.SearchMode == Mode::Names ? rbNamesOnly : rbDescsOnly)->setChecked(true);
+}
+
+void frmFind::applyTexts(IniOps::Snapshot& files) {
+  const auto text = [&](TextView key, TextView english, TextView german) {
+    return ToQt(language_.Lookup(files, Section, key, english, german));
+  };
+  setWindowTitle(text(u"caption", u"Find", WindowDesign.caption));
+  lblFind->setText(text(u"searchfor", u"Search for:", u"Suchen nach:"));
+  fraOptions->setTitle(text(u"options", u"Options", u"Optionen"));
+  rbNamesOnly->setText(text(u"searchinnames", u"Search in names", u"Suche in den &Namen"));
+  rbDescsOnly->setText(
+      text(u"searchindescriptions", u"Search in descriptions", u"Suche in den &Beschreibungen"));
+  btnFind->setText(text(u"buttonfind", u"Find", u"&Suchen"));
+  btnAbort->setText(text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
+}
+
+void frmFind::txtFind_Change() {
+  btnFind->setEnabled(!Texts::Trim(FromQt(txtFind->text())).empty());
+}
+
+// At once, since the choice also holds when the dialog is cancelled.
+void frmFind::ChooseMode(Mode mode, bool chosen) {
+  if (chosen)
+    state_.SearchMode = mode;
+}
+
+void frmFind::btnFind_Click() {
+  btnFind->setEnabled(false);
+  Q_EMIT SearchStarted();
+  IniOps::Snapshot files(files_);
+  result_ = Search::FindFirst(state_, files, language_, paths_, FromQt(txtFind->text()));
+  accept();
+}

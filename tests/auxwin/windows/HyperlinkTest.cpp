@@ -1,0 +1,85 @@
+#include "auxwin/windows/Hyperlink.h"
+
+#include "support/Contrast.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class LinkWindow : public QWidget {
+ public:
+  LinkWindow() {
+    label.setGeometry(50, 40, 120, 20);
+    label.setText(QStringLiteral("www.orvalis.example"));
+    Hyperlink::CreateHyperlink(label, Hyperlink::LinkColor, Hyperlink::LinkColorMouseOver,
+                               [this] { ++opened; });
+    resize(300, 120);
+    show();
+    activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+  }
+
+  [[nodiscard]] QColor Color() const { return label.palette().color(QPalette::WindowText); }
+
+  // The colour that the label takes with the pointer at this point of the window.
+  QColor ColorAt(const QPoint& point) {
+    QTest::mouseMove(this, point);
+    QTest::qWait(20);
+    return Color();
+  }
+
+  QLabel label{this};
+  int opened = 0;
+};
+
+}  // namespace
+
+TEST(Hyperlink, IsRedUnderThePointerEdgesIncludedAndBlueElsewhere) {
+  LinkWindow window;
+  EXPECT_TRUE(window.label.font().underline());
+  EXPECT_EQ(window.ColorAt({5, 5}), QColor(Qt::blue));
+  EXPECT_EQ(window.ColorAt({60, 50}), QColor(Qt::red));
+  EXPECT_EQ(window.ColorAt({50, 40}), QColor(Qt::red));
+  EXPECT_EQ(window.ColorAt({49, 40}), QColor(Qt::blue));
+  EXPECT_EQ(window.ColorAt({170, 60}), QColor(Qt::red));
+  EXPECT_EQ(window.ColorAt({171, 60}), QColor(Qt::blue));
+  EXPECT_EQ(window.ColorAt({100, 61}), QColor(Qt::blue));
+  EXPECT_TRUE(window.label.font().underline());
+}
+
+TEST(Hyperlink, OpensByClickEnterAndSpace) {
+  LinkWindow window;
+  QTest::mouseClick(&window.label, Qt::LeftButton);
+  EXPECT_EQ(window.opened, 1);
+  QTest::mouseClick(&window.label, Qt::RightButton);
+  EXPECT_EQ(window.opened, 1);
+  window.label.setFocus();
+  QTest::keyClick(&window.label, Qt::Key_Return);
+  QTest::keyClick(&window.label, Qt::Key_Space);
+  EXPECT_EQ(window.opened, 3);
+  QTest::keyClick(&window.label, Qt::Key_A);
+  EXPECT_EQ(window.opened, 3);
+}
+
+TEST(Hyperlink, CanBeReadOnLightAndDarkGround) {
+  const QPalette before = QApplication::palette();
+  for (const QColor& ground : {QColor(Qt::white), QColor(239, 239, 239), QColor(53, 53, 53)}) {
+    QApplication::setPalette(QPalette(ground));
+    LinkWindow window;
+    EXPECT_GE(Contrast(window.ColorAt({5, 5}), ground), 4.5) << ground.name().toStdString();
+    EXPECT_GE(Contrast(window.ColorAt({60, 50}), ground), 3) << ground.name().toStdString();
+  }
+  QApplication::setPalette(before);
+}
+
+TEST(Hyperlink, AFocusedLinkLooksDifferent) {
+  LinkWindow window;
+  window.label.clearFocus();
+  const QImage without = window.label.grab().toImage();
+  window.label.setFocus(Qt::TabFocusReason);
+  EXPECT_NE(window.label.grab().toImage(), without);
+}

@@ -1,0 +1,193 @@
+#include "mapdata/windows/MapFocus.h"
+
+#include "mapdata/windows/FocusRing.h"
+#include "mapdata/windows/MapView.h"
+#include "mapdata/windows/ctlLocation.h"
+#include "support/GermanNames.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A map of one row of markers, with a disabled slot between them and one marker below.
+class MapFocusTest : public testing::Test {
+ protected:
+  MapFocusTest() {
+    QImage picture(64, 48, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    picture.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
+    folder.Write("a.data",
+                 "[t]\r\nWolf=200,300,*\r\n;Beta=300,300\r\nAmsel=400,300\r\nGrab=400,500\r\n");
+    folder.Write("info.data", "[info]\r\nwolf=Heult.\r\n");
+    view.SetTexts(u"  -- Bitte --", u"Tip", u"hervorgehoben");
+    view.resize(1000, 700);
+    view.show();
+    QApplication::setActiveWindow(&view);
+  }
+
+  void Multi(bool onHover = false) { view.ChangeMulti(map, data, u"t", u"H", onHover); }
+
+  void EnterMap() { QTest::keyClick(&view, Qt::Key_Tab); }
+
+  static void Press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+  static std::string Focus() {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus ? focus->objectName().toStdString() : "nothing";
+  }
+
+  [[nodiscard]] bool IsShown(const char* name) {
+    return view.findChild<QWidget*>(QLatin1String(name))->isVisible();
+  }
+
+  [[nodiscard]] FocusRing& Ring() { return *view.findChild<FocusRing*>(); }
+
+  TemporaryFolder folder;
+  Text map = folder.Path(u"a.jpg");
+  Text data = folder.Path(u"a.data");
+  IniOps::Cache cache;
+  GermanNames names{folder.Path(u"info.data")};
+  MapView view{cache, names};
+};
+
+}  // namespace
+
+TEST_F(MapFocusTest, IsOneTabStopAndWalksOverWhatIsShown) {
+  Multi();
+  EnterMap();
+  std::string way = Focus();
+  for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Home, Qt::Key_End,
+                            Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_PageDown}) {
+    Press(key);
+    way += ' ' + Focus();
+  }
+  EXPECT_EQ(way, "DOT(0) DOT(2) DOT(2) DOT(3) DOT(0) DOT(3) DOT(2) DOT(0) DOT(0) DOT(2)");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(Focus(), "DOT(2)") << "nothing else takes the focus";
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(Focus(), "DOT(2)");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Focus(), "nothing");
+  EnterMap();
+  EXPECT_EQ(Focus(), "DOT(2)") << "where it was left";
+}
+
+TEST_F(MapFocusTest, DoesWhatRestingThePointerDoes) {
+  Multi(true);
+  EnterMap();
+  EXPECT_TRUE(IsShown("lblDOT(0)"));
+  auto* const name = view.findChild<QLabel*>(QStringLiteral("lblDOT(0)"));
+  EXPECT_EQ(name->toolTip(), u"Heult....");
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == u"Heult...."; }));
+  Press(Qt::Key_Right);
+  EXPECT_FALSE(IsShown("lblDOT(0)"));
+  EXPECT_TRUE(IsShown("lblDOT(2)"));
+}
+
+TEST_F(MapFocusTest, ComingBackToTheWindowTakesNoMarkerThatHadNoFocus) {
+  QWidget other;
+  other.show();
+  const auto comeBack = [&] {
+    QApplication::setActiveWindow(&other);
+    QApplication::setActiveWindow(&view);
+  };
+  Multi(true);
+  comeBack();
+  EXPECT_EQ(Focus(), "nothing");
+  EXPECT_FALSE(IsShown("lblDOT(0)"));
+  EXPECT_FALSE(Ring().isVisible());
+  EnterMap();
+  Press(Qt::Key_Right);
+  comeBack();
+  EXPECT_EQ(Focus(), "DOT(2)") << "as it was left";
+  EXPECT_TRUE(Ring().isVisible());
+  Press(Qt::Key_Escape);
+  comeBack();
+  EXPECT_EQ(Focus(), "nothing");
+  view.Change(map, data, u"t");
+  Multi();
+  comeBack();
+  EXPECT_FALSE(Ring().isVisible()) << "the list had the focus and is hidden";
+}
+
+TEST_F(MapFocusTest, EnterOpensTheInformation) {
+  QSignalSpy asked(&view, &MapView::InfoRequested);
+  Multi();
+  EnterMap();
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(asked.count(), 1);
+  EXPECT_EQ(view.InfoEntityName, u"Grab");
+}
+
+TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {
+  Multi();
+  EXPECT_FALSE(Ring().isVisible());
+  EnterMap();
+  auto* const first = view.findChild<QWidget*>(QStringLiteral("DOT(0)"));
+  EXPECT_TRUE(Ring().isVisible());
+  EXPECT_EQ(Ring().geometry().center(), first->geometry().center());
+  view.resize(1200, 800);
+  EXPECT_EQ(Focus(), "DOT(0)") << "a resize draws the markers anew";
+  EXPECT_EQ(Ring().geometry().center(), first->geometry().center());
+  view.Focus().SetRingLeftOut(true);
+  EXPECT_FALSE(Ring().isVisible());
+  view.Focus().SetRingLeftOut(false);
+  EXPECT_TRUE(Ring().isVisible());
+  Multi();
+  EXPECT_FALSE(Ring().isVisible()) << "another display begins without";
+}
+
+TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
+  view.Change(map, data, u"t");
+  Press(Qt::Key_A);
+  EXPECT_EQ(view.View.SelectedEntity, u"Amsel") << "typed letters pick";
+  std::string way;
+  for (int i = 0; i < 3; ++i) {
+    Press(Qt::Key_Tab);
+    way += Focus() + ' ';
+  }
+  EXPECT_EQ(way, "btnInfo ITEM cboItems ");
+  QSignalSpy asked(&view, &MapView::InfoRequested);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Enter);
+  EXPECT_EQ(asked.count(), 1);
+  EXPECT_EQ(view.InfoEntityName, u"Amsel");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Focus(), "cboItems");
+}
+
+TEST_F(MapFocusTest, IsAListOfTheMarkersShown) {
+  Multi();
+  const auto of = [this](const char* name) {
+    return QAccessible::queryAccessibleInterface(view.findChild<QWidget*>(QLatin1String(name)));
+  };
+  QAccessibleInterface* const list = of("imgMap");
+  EXPECT_EQ(list->role(), QAccessible::List);
+  EXPECT_EQ(list->text(QAccessible::Name), u"H");
+  ASSERT_EQ(list->childCount(), 3);
+  QAccessibleInterface* const wolf = list->child(0);
+  EXPECT_EQ(wolf->role(), QAccessible::ListItem);
+  EXPECT_EQ(wolf->text(QAccessible::Name), u"Wolf");
+  EXPECT_EQ(wolf->text(QAccessible::Description), u"hervorgehoben. Heult....");
+  EXPECT_EQ(wolf->parent(), list);
+  EXPECT_EQ(list->indexOfChild(of("DOT(3)")), 2);
+  EXPECT_EQ(list->indexOfChild(of("DOT(1)")), -1) << "disabled";
+  QAccessibleInterface* const whole = QAccessible::queryAccessibleInterface(&view);
+  EXPECT_EQ(whole->childCount(), 2) << "heading and list";
+  EXPECT_EQ(whole->indexOfChild(list), 1);
+  QSignalSpy asked(&view, &MapView::InfoRequested);
+  wolf->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(asked.wait());
+  view.ClearUI();
+  EXPECT_EQ(list->childCount(), 0);
+}

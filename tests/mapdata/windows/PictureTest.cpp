@@ -1,0 +1,93 @@
+#include "mapdata/windows/MapPicture.h"
+#include "platform/windows/PictureReader.h"
+#include "support/TemporaryFolder.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Encoded(const QSize& size, const char* format, Qt::GlobalColor color = Qt::darkGreen) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(color);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  image.save(&buffer, format);
+  return bytes.toStdString();
+}
+
+}  // namespace
+
+TEST(PictureReader, ReadsWhatAPictureIsWhateverItsName) {
+  const TemporaryFolder folder;
+  for (const char* format : {"jpeg", "bmp", "png"}) {
+    folder.Write("picture.gif", Encoded({40, 30}, format));
+    EXPECT_EQ(PictureReader::Read(folder.Path(u"PICTURE.GIF")).size(), QSize(40, 30)) << format;
+  }
+}
+
+TEST(PictureReader, RefusesWhatIsNone) {
+  const TemporaryFolder folder;
+  std::string huge = Encoded({8, 8}, "bmp");
+  huge.replace(18, 8, std::string("\x20\x4E\0\0\x20\x4E\0\0", 8));
+  folder.Write("huge", huge);
+  folder.Write("empty", "");
+  folder.Write("text", "no picture");
+  folder.Write("cut", Encoded({400, 300}, "png").substr(0, 60));
+  folder.Write("svg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+  folder.Write("folder/x", "");
+  ASSERT_EQ(::mkfifo(folder.Native("fifo").c_str(), 0600), 0);
+  for (const char16_t* name :
+       {u"huge", u"empty", u"text", u"cut", u"svg", u"folder", u"fifo", u"missing", u""})
+    EXPECT_TRUE(PictureReader::Read(folder.Path(name)).isNull()) << NativePath::ToBytes(name);
+}
+
+TEST(PictureReader, ReadsOnlyAsManyPixelsAsTheScreenNeeds) {
+  const TemporaryFolder folder;
+  folder.Write("a.jpg", Encoded({2001, 1501}, "jpeg"));
+  const auto size = [&](const QSize& cover) {
+    return PictureReader::Read(folder.Path(u"a.jpg"), cover).size();
+  };
+  EXPECT_EQ(size({1001, 751}), QSize(1001, 751));
+  EXPECT_EQ(size({1002, 100}), QSize(2001, 1501));
+  EXPECT_EQ(size({10, 10}), QSize(251, 188));
+  EXPECT_EQ(size({}), QSize(2001, 1501));
+}
+
+TEST(MapPicture, ReadsAnewWhatChangedAndKeepsWhatWorked) {
+  const TemporaryFolder folder;
+  const QSize view(100, 75);
+  const Text path = folder.Path(u"a.jpg");
+  MapPicture picture;
+  EXPECT_FALSE(picture.Load(path, view, view));
+  EXPECT_TRUE(picture.At(view).isNull());
+  folder.Write("a.jpg", Encoded({400, 300}, "png", Qt::red));
+  ASSERT_TRUE(picture.Load(path, view, view));
+  EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::red));
+  EXPECT_EQ(picture.At({300, 200}).size(), QSize(300, 200));
+  folder.Write("a.jpg", Encoded({400, 301}, "png", Qt::blue));
+  ASSERT_TRUE(picture.Load(path, view, view));
+  EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::blue));
+  folder.Write("a.jpg", "broken");
+  EXPECT_FALSE(picture.Load(path, view, view));
+}
+
+TEST(MapPicture, GoesBackToAPictureWithoutReadingItFirst) {
+  const TemporaryFolder folder;
+  const QSize view(100, 75);
+  folder.Write("a.png", Encoded({400, 300}, "png", Qt::red));
+  folder.Write("b.png", Encoded({400, 300}, "png", Qt::blue));
+  MapPicture picture;
+  ASSERT_TRUE(picture.Load(folder.Path(u"a.png"), view, view));
+  static_cast<void>(picture.At(view));
+  ASSERT_TRUE(picture.Load(folder.Path(u"b.png"), view, view));
+  EXPECT_FALSE(picture.NeedsPixels());
+  ASSERT_TRUE(picture.Load(folder.Path(u"a.png"), view, view));
+  EXPECT_TRUE(picture.NeedsPixels());
+  EXPECT_EQ(picture.At(view).pixelColor(0, 0), QColor(Qt::red));
+  EXPECT_EQ(picture.Pixels().size(), QSize(400, 300));
+}

@@ -1,0 +1,150 @@
+#include "mapdata/world/EntityFile.h"
+
+#include "mapdata/display/Placement.h"
+#include "mapdata/files/StringOps.h"
+#include "mapdata/world/InfoFile.h"
+#include "support/GermanNames.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+using EntityFile::Position;
+
+TEST(StringOps, SplitsInTwoWays) {
+  using namespace StringOps;
+  EXPECT_EQ(GetField(u"7,8,*", 2, u","), u"8");
+  EXPECT_EQ(GetField(u"10,20", 3, u","), u"20");
+  EXPECT_EQ(GetField(u"7", 2, u","), u"7");
+  EXPECT_EQ(GetField(u"7,8", 0, u","), u"7");
+  EXPECT_EQ(GetSplitField(u"7,8,*", 3, u","), u"*");
+  EXPECT_EQ(GetSplitField(u"7", 2, u","), u"");
+  EXPECT_EQ(GetSplitField(u"7,8", 0, u","), u"");
+  EXPECT_EQ(GetSplitField(u",", 2, u","), u"");
+  EXPECT_FALSE(StrContains(u"", u""));
+  EXPECT_TRUE(StrContains(u"a", u""));
+  EXPECT_FALSE(StrContains(u"Wolf", u"wolf"));
+}
+
+TEST(StringOps, ReadsNumbersInTwoWays) {
+  struct {
+    TextView text;
+    int leading;
+    std::optional<int> whole;
+  } const cases[] = {
+      {u"512", 512, 512},
+      {u" 12abc", 12, std::nullopt},
+      {u" 300 ", 300, 300},
+      {u"", 0, std::nullopt},
+      {u"2.5", 2, 2},
+      {u"3.5", 4, 4},
+      {u"-7", -7, -7},
+      {u"+.6", 1, 1},
+      {u"1e3", 1, std::nullopt},
+      {u"inf", 0, std::nullopt},
+      {u"-", 0, std::nullopt},
+      {u".", 0, std::nullopt},
+      {u"1.2.3", 1, std::nullopt},
+      {u"99999", 32767, std::nullopt},
+      {u"1,5", 1, std::nullopt},
+      {u"0.50000000000000000000000000000000001", 0, 0},
+  };
+
+  for (const auto& test : cases) {
+    EXPECT_EQ(StringOps::LeadingNumber(test.text), test.leading);
+    EXPECT_EQ(StringOps::WholeNumber(test.text), test.whole);
+  }
+  EXPECT_EQ(StringOps::LeadingNumber(Text(5000, u'9')), 32767);
+}
+
+TEST(EntityFile, ThreeReadersOfOneValue) {
+  const TemporaryFolder folder;
+  const Text file = folder.Path(u"a.data");
+
+  struct {
+    std::string value;
+    Position marker;
+    std::optional<Position> picked;
+    std::optional<Position> found;
+  } const cases[] = {
+      {" 512 , 300 , * ", {512, 300}, Position{512, 300}, Position{512, 300}},
+      {"640", {640, 640}, std::nullopt, Position{640, 640}},
+      {"12abc,5", {12, 5}, std::nullopt, Position{0, 5}},
+      {"", {0, 0}, std::nullopt, Position{0, 0}},
+      {"#,smiths", {7, 8}, Position{7, 8}, Position{7, 8}},
+      {" # , smiths ,*", {7, 8}, Position{7, 8}, Position{7, 8}},
+      {"#,chain", {0, 0}, std::nullopt, Position{0, 0}},
+      {"#,none", {0, 0}, std::nullopt, std::nullopt},
+      {"40000,-40000", {32767, -32768}, std::nullopt, Position{0, 0}},
+  };
+
+  for (const auto& test : cases) {
+    folder.Write("a.data",
+                 "[smiths]\r\nTom=7,8,*\r\n[chain]\r\nTom=#,smiths\r\n[t]\r\nTom=" + test.value);
+    IniOps::Cache cache;
+    IniOps::Snapshot files(cache);
+    GermanNames names;
+    const auto markers = EntityFile::ReadMarkers(files, file, u"t", names, 81);
+    ASSERT_EQ(markers.size(), 1U);
+    EXPECT_EQ(markers[0].position, test.marker) << test.value;
+    EXPECT_EQ(markers[0].highlighted, test.value.find('*') != std::string::npos) << test.value;
+    EXPECT_EQ(EntityFile::ReadPicked(files, file, u"t", u"Tom"), test.picked) << test.value;
+    const auto found = EntityFile::ReadFound(files.File(file), "t", "Tom");
+    EXPECT_EQ(found.invalidLink, !test.found) << test.value;
+    EXPECT_EQ(found.position, test.found.value_or(Position())) << test.value;
+  }
+}
+
+TEST(EntityFile, DisabledLinesTakeTheirSlotAndOthersFollow) {
+  const TemporaryFolder folder;
+  std::string lines = "[t]\r\nAlpha=1,2\r\n;Beta=3,4,*\r\n*Gamma=5,6\r\n";
+  for (int i = 3; i < 100; ++i)
+    lines += "K" + std::to_string(i) + "=1,1\r\n";
+  folder.Write("a.data", lines);
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  GermanNames names;
+  const auto markers = EntityFile::ReadMarkers(files, folder.Path(u"a.data"), u"t", names, 81);
+  ASSERT_EQ(markers.size(), 81U);
+  EXPECT_TRUE(markers[1].disabled);
+  EXPECT_EQ(markers[1].position, Position());
+  EXPECT_FALSE(markers[2].disabled);
+  EXPECT_EQ(markers[2].name, u"*Gamma");
+  const auto listed = EntityFile::ReadNames(files, folder.Path(u"a.data"), u"t", names);
+  ASSERT_EQ(listed.size(), 99U);
+  EXPECT_EQ(listed[1], u"*Gamma");
+}
+
+TEST(InfoFile, RedirectsOnceAndCutsForTooltips) {
+  const TemporaryFolder folder;
+  folder.Write("info.data",
+               "[Info]\r\na=# B \r\nb=#c\r\nc=end\r\nbreaks=one\\ntwo\r\nblank=\\n\\n\r\nlong=" +
+                   std::string(200, 'x') + "\r\n");
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  const auto same = [](TextView key) { return Text(key); };
+  const Text file = folder.Path(u"info.data");
+  EXPECT_EQ(InfoFile::ReadRedirected(files, file, u"A", same), u"#c");
+  EXPECT_EQ(InfoFile::ReadRedirected(files, file, u" b ", same), u"end");
+  const auto tip = [&](TextView key) {
+    return InfoFile::TooltipOf(InfoFile::ReadEntry(files, file, key));
+  };
+  EXPECT_EQ(tip(u"breaks"), u"one two...");
+  EXPECT_EQ(tip(u"blank"), u"");
+  EXPECT_EQ(tip(u"none"), u"");
+  EXPECT_EQ(tip(u"long"), Text(80, u'x') + u"...");
+  EXPECT_EQ(tip(u"a"), u"# B...");
+}
+
+TEST(Placement, KeepsNamesOnTheMap) {
+  using namespace Placement;
+  constexpr int width = 15450;
+  EXPECT_EQ(SlotLabelLeft(1, 1000, 900, width), 1210) << "odd: right";
+  EXPECT_EQ(SlotLabelLeft(2, 1000, 900, width), 50) << "even: left";
+  EXPECT_EQ(SlotLabelLeft(2, 949, 900, width), 1159) << "even at the left edge: right";
+  EXPECT_EQ(SlotLabelLeft(1, 14340, 900, width), 14550) << "up to the edge";
+  EXPECT_EQ(SlotLabelLeft(1, 14341, 900, width), 13391) << "odd at the right edge: left";
+  EXPECT_EQ(SlotLabelLeft(0, 100, 20000, width), -19950) << "wider than the window";
+  EXPECT_EQ(SingleLabelLeft(0, 900, width), 210);
+  EXPECT_EQ(SingleLabelLeft(14341, 900, width), 13391);
+  EXPECT_EQ(SingleLabelLeft(100, 20000, width), -19950);
+}

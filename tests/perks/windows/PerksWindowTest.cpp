@@ -1,0 +1,167 @@
+#include "perks/windows/frmPerks.h"
+#include "search/SearchWorld.h"
+#include "support/DialogCheck.h"
+
+#include <QImage>
+#include <QImageReader>
+#include <QPainter>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <optional>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The mean difference of a pixel's brightness, 0 to 255, between two pictures on white.
+double Difference(const QString& a, const QString& b) {
+  const auto onWhite = [](const QString& name) {
+    QImage picture(QStringLiteral(ORVALIS_PICTURES "/") + name);
+    picture.setDevicePixelRatio(1);
+    QImage ground(picture.size(), QImage::Format_RGB32);
+    ground.fill(Qt::white);
+    QPainter(&ground).drawImage(0, 0, picture);
+    return ground.convertToFormat(QImage::Format_Grayscale8);
+  };
+  const QImage first = onWhite(a);
+  const QImage second = onWhite(b);
+  double sum = 0;
+  for (int y = 0; y < first.height(); ++y)
+    for (int x = 0; x < first.width(); ++x)
+      sum += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y)));
+  return sum / (first.width() * first.height());
+}
+
+struct Chosen {
+  Text picture, data, category, heading;
+};
+
+class PerksWindow : public testing::Test {
+ protected:
+  PerksWindow() {
+    world_.Write("arvenna.data",
+                 u"[teachers]\r\n[perk archer]\r\nTom=1,2\r\n[perk Fog]\r\n[Perk druid]\r\n"
+                 u"[perk archer]\r\n[perk acrobatics]\r\n");
+  }
+
+  frmPerks& Open() {
+    window_.emplace(nullptr, world_.paths.regions[0].data, world_.language, world_.cache);
+    QObject::connect(
+        &*window_, &frmPerks::TeachersChosen,
+        [this](const Text& picture, const Text& data, const Text& category, const Text& heading) {
+          chosen_ = {picture, data, category, heading};
+        });
+    window_->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&*window_));
+    return *window_;
+  }
+
+  QTreeWidget& Tree() { return *window_->findChild<QTreeWidget*>(QStringLiteral("tvPerks")); }
+
+  QTreeWidgetItem* Node(const QString& caption) {
+    const auto found = Tree().findItems(caption, Qt::MatchExactly | Qt::MatchRecursive);
+    return found.isEmpty() ? nullptr : found.front();
+  }
+
+  void Show() { window_->findChild<QPushButton*>(QStringLiteral("btnShow"))->click(); }
+
+  SearchWorld world_;
+  std::optional<frmPerks> window_;
+  std::optional<Chosen> chosen_;
+};
+
+}  // namespace
+
+TEST_F(PerksWindow, StandsAsDesignedInEveryLanguage) {
+  CheckDialog(Open());
+  world_.SpeakEnglish(u"[frmPerks]\r\ncaption=%s: perks of %s\r\nArcher=Bowman\r\n");
+  EXPECT_EQ(Open().windowTitle(), QStringLiteral("Arvenna: perks of Arvenna"));
+  EXPECT_TRUE(Node(QStringLiteral("Bowman")));
+  CheckDialog(*window_);
+}
+
+TEST_F(PerksWindow, ShowsTheTreeOfTheRegion) {
+  EXPECT_EQ(Open().windowTitle(), QStringLiteral("Lehrer für Perks in Arvenna"));
+  ASSERT_EQ(Tree().topLevelItemCount(), 1);
+  const QTreeWidgetItem* root = Tree().topLevelItem(0);
+  EXPECT_EQ(root->text(0), QStringLiteral("Lehrer in Arvenna"));
+  EXPECT_EQ(root->childCount(), 7);
+  EXPECT_TRUE(root->font(0).bold());
+  EXPECT_TRUE(root->child(6)->font(0).bold());
+  const QTreeWidgetItem* archer = Node(QStringLiteral("Bogenschütze"));
+  ASSERT_TRUE(archer);
+  EXPECT_EQ(archer->parent(), root->child(1));
+  EXPECT_EQ(archer->parent()->childCount(), 1);
+  EXPECT_TRUE(archer->parent()->isExpanded());
+  EXPECT_FALSE(archer->font(0).bold());
+  EXPECT_FALSE(Node(QStringLiteral("Druide")));
+}
+
+TEST_F(PerksWindow, HandsThePerkOnAndCloses) {
+  Open();
+  Tree().setCurrentItem(Node(QStringLiteral("Bogenschütze")));
+  Show();
+  ASSERT_TRUE(chosen_);
+  EXPECT_EQ(chosen_->picture, world_.paths.regions[0].picture);
+  EXPECT_EQ(chosen_->data, world_.paths.regions[0].data);
+  EXPECT_EQ(chosen_->category, u"perk archer");
+  EXPECT_EQ(chosen_->heading, u"Arvenna: Lehrer für Bogenschütze");
+  EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(PerksWindow, ADoubleClickDoesTheSame) {
+  world_.SpeakEnglish(u"[general]\r\n");
+  Open();
+  const QPoint at = Tree().visualItemRect(Node(QStringLiteral("Fog"))).center();
+  QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, at);
+  QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, at);
+  ASSERT_TRUE(chosen_);
+  EXPECT_EQ(chosen_->category, u"perk Fog");
+  EXPECT_EQ(chosen_->heading, u" Fog");
+}
+
+TEST_F(PerksWindow, StaysOpenWithoutAPerk) {
+  Open();
+  Show();
+  for (const auto& caption :
+       {QStringLiteral("Lehrer in Arvenna"), QStringLiteral("Magietalente")}) {
+    Tree().setCurrentItem(Node(caption));
+    Show();
+  }
+  EXPECT_FALSE(chosen_);
+  EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(PerksWindow, KeysMoveInTheTreeAndEnterCloses) {
+  Open();
+  Tree().setFocus();
+  QTest::keyClick(&Tree(), Qt::Key_Down);
+  QTest::keyClicks(&Tree(), QStringLiteral("bog"));
+  EXPECT_EQ(Tree().currentItem(), Node(QStringLiteral("Bogenschütze")));
+  QTest::keyClick(&Tree(), Qt::Key_Up);
+  EXPECT_EQ(Tree().currentItem(), Node(QStringLiteral("Jagdtalente")));
+  QTest::keyClicks(&Tree(), QStringLiteral("n"));
+  QTest::keyClick(&Tree(), Qt::Key_Return);
+  EXPECT_FALSE(window_->isVisible());
+  EXPECT_FALSE(chosen_);
+}
+
+TEST(PerkPictures, AreToldApartAtBothSizesAndWithoutColour) {
+  constexpr int Last = 9;
+  constexpr double Distinct = 20;
+  for (const auto& [suffix, size] :
+       {std::pair(QStringLiteral(".png"), 16), {QStringLiteral("@2x.png"), 32}}) {
+    const auto name = [end = suffix](int number) {
+      return QStringLiteral("perk-%1").arg(number) + end;
+    };
+    for (int one = 1; one <= Last; ++one) {
+      ASSERT_EQ(QImageReader(QStringLiteral(ORVALIS_PICTURES "/") + name(one)).size(),
+                QSize(size, size))
+          << one;
+      for (int other = 1; other < one; ++other)
+        EXPECT_GT(Difference(name(one), name(other)), Distinct) << one << " and " << other;
+    }
+  }
+}

@@ -1,0 +1,135 @@
+#include "platform/windows/QtDesktop.h"
+
+#include "platform/windows/PageWindow.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A program search path of two scripts that write down what they are given, one argument a line.
+class FakeTools {
+ public:
+  FakeTools() {
+    const std::string log = folder.Native("log");
+    Script("xdg-open", "for a in \"$@\"; do echo \"<$a>\"; done >> " + log);
+    Script("xdg-mime", "echo \"$2 $3\" >> " + log + "; [ \"$3\" = text/html ] && echo b.desktop");
+    path_ = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(folder.Native("bin") + ":/usr/bin:/bin"));
+  }
+
+  ~FakeTools() { qputenv("PATH", path_); }
+
+  [[nodiscard]] bool Logged(const std::string& lines) const {
+    return QTest::qWaitFor([&] { return folder.Read("log") == lines; });
+  }
+
+  TemporaryFolder folder;
+
+ private:
+  void Script(const std::string& name, const std::string& body) const {
+    folder.Write("bin/" + name, "#!/bin/sh\n" + body + "\n");
+    std::filesystem::permissions(folder.Native("bin/" + name), std::filesystem::perms::owner_all);
+  }
+
+  QByteArray path_;
+};
+
+}  // namespace
+
+TEST(QtDesktop, HandsOverOneArgumentAndNeverAnOption) {
+  const FakeTools tools;
+  QtDesktop desktop;
+  EXPECT_EQ(desktop.Open("--help"), Desktop::Refused);
+  EXPECT_EQ(desktop.Open("http://a.example/$(touch x) 'b' \"c\";d"), Desktop::Started);
+  EXPECT_TRUE(tools.Logged("<http://a.example/$(touch x) 'b' \"c\";d>\n"))
+      << tools.folder.Read("log");
+}
+
+TEST(QtDesktop, AsksTheDesktopForViewers) {
+  const FakeTools tools;
+  QtDesktop desktop;
+  EXPECT_TRUE(desktop.HasViewer("text/html"));
+  EXPECT_FALSE(desktop.HasViewer("application/vnd.ms-htmlhelp"));
+  qputenv("PATH", "/nonexistent");
+  EXPECT_FALSE(desktop.HasViewer("text/html"));
+  EXPECT_EQ(desktop.Open("http://a.example"), Desktop::Refused);
+}
+
+TEST(QtDesktop, EveryGermanIsDeu) {
+  QtDesktop desktop;
+  EXPECT_EQ(desktop.UserLanguage(), u"deu");
+}
+
+TEST(QtDesktop, SoundThatCannotBePlayedTroublesNobody) {
+  const TemporaryFolder folder;
+  folder.Write("broken.wav", "RIFF");
+  QtDesktop desktop;
+  desktop.StopSound();
+  for (const char* name : {"broken.wav", "none.wav"}) {
+    desktop.LoopSound(folder.Native(name));
+    // The file is read while events are handled.
+    QTest::qWait(100);
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << name;
+  }
+  desktop.StopSound();
+  desktop.StopSound();
+}
+
+TEST(PageWindow, ShowsPagesOfBothEncodingsTitledByThemselves) {
+  const TemporaryFolder folder;
+  folder.Write("utf8.html", "<html><head><title>Hilfe für alle</title></head><p>Größe</p></html>");
+  folder.Write("old.html",
+               "<p>Gr\xF6\xDF"
+               "e</p>");
+  const PageWindow page(nullptr, folder.Native("utf8.html"));
+  EXPECT_EQ(page.windowTitle(), QStringLiteral("Hilfe für alle"));
+  EXPECT_EQ(page.findChild<QTextBrowser*>()->toPlainText(), QStringLiteral("Größe"));
+  const PageWindow old(nullptr, folder.Native("old.html"));
+  EXPECT_EQ(old.windowTitle(), QStringLiteral("old.html"));
+  EXPECT_EQ(old.findChild<QTextBrowser*>()->toPlainText(), QStringLiteral("Größe"));
+  const PageWindow none(nullptr, folder.Native("none.html"));
+  EXPECT_EQ(none.findChild<QTextBrowser*>()->toPlainText(), QString());
+}
+
+TEST(PageWindow, ReadsOnlyWhatLiesBesideThePage) {
+  const TemporaryFolder folder;
+  folder.Write("secret.txt", "x");
+  folder.Write("docs/page.html", "<p>a");
+  folder.Write("docs/pic.txt", "picture");
+  const PageWindow page(nullptr, folder.Native("docs/page.html"));
+  auto* browser = page.findChild<QTextBrowser*>();
+  const auto read = [browser](const QString& name) {
+    return browser->loadResource(QTextDocument::ImageResource, QUrl(name)).toByteArray();
+  };
+  EXPECT_EQ(read(QStringLiteral("pic.txt")), QByteArray("picture"));
+  EXPECT_TRUE(read(QStringLiteral("../secret.txt")).isEmpty());
+  EXPECT_TRUE(read(QStringLiteral("/etc/hostname")).isEmpty());
+  EXPECT_TRUE(read(QStringLiteral("file:///etc/hostname")).isEmpty());
+  EXPECT_TRUE(read(QStringLiteral("http://a.example/x")).isEmpty());
+}
+
+TEST(PageWindow, LinksLeadToPlacesOfThePageOnly) {
+  const TemporaryFolder folder;
+  QByteArray page("<p><a href='#end'>x</a>");
+  page += QByteArray("<p>line").repeated(200) + "<p><a name='end'>end</a>";
+  folder.Write("page.html", page.toStdString());
+  PageWindow window(nullptr, folder.Native("page.html"));
+  window.show();
+  auto* browser = window.findChild<QTextBrowser*>();
+  const QString before = browser->toPlainText();
+  Q_EMIT browser->anchorClicked(QUrl(QStringLiteral("http://a.example/")));
+  EXPECT_EQ(browser->verticalScrollBar()->value(), 0);
+  Q_EMIT browser->anchorClicked(QUrl(QStringLiteral("#end")));
+  EXPECT_GT(browser->verticalScrollBar()->value(), 0);
+  EXPECT_EQ(browser->toPlainText(), before);
+  QTest::keyClick(browser, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+}
