@@ -12,7 +12,7 @@ constexpr std::string_view EntitiesHeader = "entities";
 
 // No name that a person wrote is near it. Words whose translations hold other words could
 // otherwise fill the memory.
-constexpr size_t LongestName = 4 * IniOps::LongestValue;
+constexpr size_t LongestName = 4 * ProfileFile::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
   if (by.size() <= part.size())

@@ -10,10 +10,6 @@
 
 namespace {
 
-bool IsBlank(std::string_view name) {
-  return name.find_first_not_of(' ') == std::string_view::npos;
-}
-
 Text WithoutBrackets(std::string_view section) {
   Text name = Windows1252::Decode(section);
   std::erase_if(name, [](char16_t unit) { return unit == u'[' || unit == u']'; });
@@ -30,10 +26,10 @@ std::optional<InvalidLink> EntityCache::CacheEntities(IniOps::Snapshot& files,
   const ProfileFile& data = files.File(region.data);
   if (infoFiles_.empty() || infoFiles_.back() != info)
     infoFiles_.push_back(info);
-  for (const std::string_view section : data.SectionNames()) {
-    if (IsBlank(section))
+  for (const ProfileFile::Section& section : data.Sections()) {
+    if (ProfileLines::IsBlank(section.name))
       continue;
-    if (auto invalid = CacheSection(files, language, *info, data, section))
+    if (auto invalid = CacheSection(files, language, *info, data, section.name))
       return invalid;
   }
   return std::nullopt;

@@ -87,7 +87,7 @@ std::optional<Position> ReadPicked(Snapshot& files, TextView dataFile, TextView 
 
 Found ReadFound(const ProfileFile& dataFile, std::string_view category, std::string_view key) {
   const auto read = [&dataFile, key](std::string_view section) {
-    return Windows1252::Decode(IniOps::IniReadBytes(dataFile, section, key));
+    return Windows1252::Decode(dataFile.Read(section, key));
   };
   Text value = read(category);
   if (IsLink(value)) {

@@ -24,10 +24,9 @@ Text ReadRedirected(IniOps::Snapshot& files, TextView file, TextView key,
 }
 
 std::string_view ReadRedirectedBytes(const ProfileFile& file, std::string_view key) {
-  const std::string_view description = IniOps::IniReadBytes(file, SectionBytes, key);
-  return description.starts_with('#')
-             ? IniOps::IniReadBytes(file, SectionBytes, description.substr(1))
-             : description;
+  const std::string_view description = file.Read(SectionBytes, key);
+  return description.starts_with('#') ? file.Read(SectionBytes, description.substr(1))
+                                      : description;
 }
 
 Text TooltipOf(TextView description) {
