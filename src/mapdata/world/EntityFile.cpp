@@ -16,18 +16,9 @@ constexpr TextView Comma = u",";
 constexpr TextView Mark = u"*";
 constexpr TextView LinkSign = u"#";
 
-bool IsLink(TextView value) {
-  return Trim(GetSplitField(value, 1, Comma)) == LinkSign;
-}
-
-// The section that a link names.
-TextView LinkTarget(TextView value) {
-  return Trim(GetSplitField(value, 2, Comma));
-}
-
 // The value that holds the position: the entity's own, or the one that its link leads to.
 Text PositionValue(Snapshot& files, TextView dataFile, TextView key, Text value) {
-  return IsLink(value) ? files.IniRead(dataFile, LinkTarget(value), key, u"") : std::move(value);
+  return EntityFile::IsLink(value) ? files.IniRead(dataFile, EntityFile::LinkTarget(value), key, u"") : std::move(value);
 }
 
 EntityFile::Marker ReadMarker(Snapshot& files, TextView dataFile, TextView category,
@@ -52,6 +43,14 @@ bool IsDisabled(TextView key) {
 
 bool IsHiddenFromSearch(TextView key) {
   return key.starts_with(u'*');
+}
+
+bool IsLink(TextView value) {
+  return Trim(GetSplitField(value, 1, Comma)) == LinkSign;
+}
+
+TextView LinkTarget(TextView value) {
+  return Trim(GetSplitField(value, 2, Comma));
 }
 
 std::vector<Marker> ReadMarkers(Snapshot& files, TextView dataFile, TextView category,

@@ -45,6 +45,12 @@ struct Found {
 /// A key that begins with "*" is shown but never found by the search.
 [[nodiscard]] bool IsHiddenFromSearch(TextView key);
 
+/// Whether the value is a link to another section.
+[[nodiscard]] bool IsLink(TextView value);
+
+/// The section that a link names; "" if it names none.
+[[nodiscard]] TextView LinkTarget(TextView value);
+
 /// Every line of the category in file order, disabled ones included, with the leading numbers of
 /// the first and second field as position: a field that is none counts 0, and a single field
 /// counts for both. At most `most` lines.

@@ -1,0 +1,137 @@
+#include "check/Index.h"
+
+#include "app/MenuTable.h"
+#include "app/StartUp.h"
+#include "check/Words.h"
+#include "mapdata/files/FileSystem.h"
+#include "perks/PerkCatalogue.h"
+
+#include <algorithm>
+#include <limits>
+
+using Texts::Join;
+
+namespace {
+
+// Regions that have a Perks command stand first.
+constexpr size_t PerkedRegions = 3;
+
+}  // namespace
+
+Index::Index(const Text& folder, PictureOf ofPicture, const std::function<bool(TextView)>& wanted)
+    : files(cache),
+      base(Join(folder, FileSystem::Separator)),
+      paths(StartUp::ComposePaths(files, folder)),
+      pictureOf(std::move(ofPicture)),
+      german_(paths.infoData) {
+  german_.CurrentLanguage = LOCAL::German;
+  settings = &Open(Source::Kind::Settings, paths.settings);
+  for (size_t region = 0; region < Regions; ++region)
+    data[region] = &Open(Source::Kind::Data, paths.regions[region].data);
+  info = &Open(Source::Kind::Info, paths.infoData);
+  portraits = &Open(Source::Kind::Pictures, Join(paths.picturesFolder, u"pic.ini"));
+  AddCategories();
+  for (size_t region = 0; region < Regions; ++region)
+    AddEntities(region);
+  AddNames();
+  AddLanguages(wanted);
+}
+
+const Source& Index::Open(Source::Kind kind, const Text& path) {
+  const auto known = std::ranges::find(sources, path, &Source::path);
+  if (known != sources.end())
+    return *known;
+  const size_t inside = path.starts_with(base) ? base.size() : 0;
+  return sources.emplace_back(kind, path, path.substr(inside), files.Shared(path));
+}
+
+void Index::AddCategories() {
+  for (const MenuRow& row : MenuTable::Rows())
+    if (row.kind == MenuRow::Kind::Category)
+      categories[static_cast<size_t>(row.region)].push_back(
+          {row.category, row.mode == DisplayMode::List, false});
+  for (size_t region = 0; region < PerkedRegions; ++region)
+    for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks)
+      categories[region].push_back({perk.key, false, true});
+}
+
+void Index::AddEntities(size_t region) {
+  const Source& source = *data[region];
+  for (size_t section = 0; section < source.Sections().size(); ++section) {
+    const Source::Section& header = source.Sections()[section];
+    if (!header.plain || !header.listed)
+      continue;
+    size_t number = 0;
+    for (size_t line = header.line + 1; line < header.listEnd; ++line)
+      if (const std::string_view name = source.Lines()[line].listed; !name.empty())
+        entities.push_back({region, section, line, number++, name});
+  }
+  for (const Source::Line& line : source.Lines()) {
+    const std::string_view value = ProfileLines::Unquoted(line.entry.value);
+    if (value.find('#') == std::string_view::npos)
+      continue;
+    if (const Text text = Words::Decoded(value); EntityFile::IsLink(text))
+      linkTargets[region].insert(Words::Folded(Words::Encoded(EntityFile::LinkTarget(text))));
+  }
+}
+
+void Index::AddNames() {
+  for (const Entity& entity : entities) {
+    if (entity.IsDisabled()) {
+      isOn_.emplace(Words::Folded(ProfileLines::Strip(entity.name.substr(1), " ")), false);
+    } else {
+      names_.push_back(entity.name);
+      isOn_[Words::Folded(entity.name)] = true;
+    }
+  }
+  std::ranges::sort(names_);
+  names_.erase(std::unique(names_.begin(), names_.end()), names_.end());
+}
+
+void Index::AddLanguages(const std::function<bool(TextView)>& wanted) {
+  for (const Text& folder : FileSystem::Names(paths.languageRoot)) {
+    const Text path = LOCAL::FileOfLanguage(paths.languageRoot, folder, u".lng");
+    const Text name(Texts::Trim(files.IniRead(path, u"general", u"language", u"")));
+    if (!wanted(folder) && !wanted(name))
+      continue;
+    Language& language = languages.emplace_back();
+    language.folder = folder;
+    language.name = name;
+    if (!FileSystem::FileExists(path))
+      continue;
+    language.file = &Open(Source::Kind::Language, path);
+    language.spoken = std::make_unique<LOCAL::Language>(paths.infoData);
+    language.spoken->StartUp(files, paths.languageRoot, folder);
+    language.spoken->CacheTranslationTable(files);
+    const Text descriptions = language.spoken->InfoFile();
+    if (descriptions != paths.infoData)
+      language.info = &Open(Source::Kind::Info, descriptions);
+  }
+}
+
+bool Index::IsName(std::string_view name) const {
+  const auto found = isOn_.find(Words::Folded(name));
+  return found != isOn_.end() && found->second;
+}
+
+bool Index::IsSwitchedOff(std::string_view name) const {
+  const auto found = isOn_.find(Words::Folded(name));
+  return found != isOn_.end() && !found->second;
+}
+
+const Index::Category* Index::CategoryOf(size_t region, std::string_view section) const {
+  const Text name = Words::Decoded(section);
+  const auto found = std::ranges::find(categories[region], TextView(name), &Category::section);
+  return found == categories[region].end() ? nullptr : &*found;
+}
+
+const std::vector<EntityFile::Marker>& Index::Markers(size_t region, size_t section) {
+  auto& sections = markers_[region];
+  const auto known = sections.find(section);
+  if (known != sections.end())
+    return known->second;
+  const Source& source = *data[region];
+  const Text name = Words::Decoded(source.Sections()[section].name);
+  return sections[section] = EntityFile::ReadMarkers(files, source.path, name, german_,
+                                                     std::numeric_limits<size_t>::max());
+}
