@@ -15,7 +15,7 @@ using Words::Quoted;
 
 namespace {
 
-constexpr std::string_view Section = "info";
+using InfoFile::Section;
 
 class InfoCheck {
  public:
@@ -52,19 +52,19 @@ class InfoCheck {
     finding.message = u"this file has no section \"info\"";
   }
 
-  [[nodiscard]] static bool IsRedirect(std::string_view text) { return text.starts_with('#'); }
-
-  // The key that a redirection leads to, as the search takes it.
-  [[nodiscard]] static std::string_view TargetOf(std::string_view text) {
-    return ProfileLines::Strip(text.substr(1), " ");
+  // A key as look-ups take it.
+  [[nodiscard]] static std::string_view Trimmed(std::string_view key) {
+    return ProfileLines::Strip(key, " ");
   }
 
   void CheckRedirects() {
     for (size_t number = section_->line + 1; number < section_->end; ++number) {
       const Source::Line& line = source_.Lines()[number];
       const std::string_view text = ProfileLines::Unquoted(line.entry.value);
-      if (line.entry.kind == LineKind::KeyWithValue && IsRedirect(text))
-        targets_.insert(Words::Folded(TargetOf(text)));
+      if (line.entry.kind != LineKind::KeyWithValue)
+        continue;
+      if (const auto target = InfoFile::RedirectTarget(text))
+        targets_.insert(Words::Folded(Trimmed(*target)));
     }
   }
 
@@ -75,8 +75,8 @@ class InfoCheck {
       return;
     CheckKey(line);
     CheckQuotes(line);
-    if (IsRedirect(ProfileLines::Unquoted(line.entry.value)))
-      CheckRedirect(line);
+    if (const auto target = InfoFile::RedirectTarget(ProfileLines::Unquoted(line.entry.value)))
+      CheckRedirect(line, Trimmed(*target));
   }
 
   void CheckKey(const Source::Line& line) {
@@ -137,17 +137,15 @@ class InfoCheck {
     const auto keyOf = [this](TextView shown) {
       return language_ ? language_->spoken->Key(shown) : Text(shown);
     };
-    return InfoFile::ReadRedirected(index_.files, source_.path, Decoded(key), keyOf);
+    return InfoFile::ReadRedirected(source_.File(), Decoded(key), keyOf);
   }
 
-  void CheckRedirect(const Source::Line& line) {
-    const std::string_view value = ProfileLines::Unquoted(line.entry.value);
-    const std::string_view target = TargetOf(value);
+  void CheckRedirect(const Source::Line& line, std::string_view target) {
     const Text window = InWindow(std::string(line.entry.key));
-    const std::string_view search = InfoFile::ReadRedirectedBytes(source_.File(), line.entry.key);
+    const std::string_view search = InfoFile::ReadRedirected(source_.File(), line.entry.key);
     if (search.empty())
       TellMissing(line, target, window);
-    else if (IsRedirect(search))
+    else if (InfoFile::RedirectTarget(search))
       TellChain(line, target, window);
   }
 
@@ -169,10 +167,10 @@ class InfoCheck {
     finding.consequence = Join(Quoted(window.substr(0, 80)), u" is shown");
     std::string end(target);
     for (size_t step = 0; step < MostSteps; ++step) {
-      const std::string_view text = source_.File().Read(Section, end);
-      if (!IsRedirect(text))
+      const auto next = InfoFile::RedirectTarget(InfoFile::ReadEntry(source_.File(), end));
+      if (!next)
         return Suggest(finding, target, end);
-      end = TargetOf(text);
+      end = Trimmed(*next);
     }
     finding.message = u"a redirection that leads back to itself";
     finding.advice = u"write the text in one of the entries";
@@ -210,7 +208,7 @@ class InfoCheck {
   }
 
   [[nodiscard]] bool HasText(const Source& source, std::string_view name) const {
-    return !InfoFile::ReadRedirectedBytes(source.File(), name).empty();
+    return !InfoFile::ReadRedirected(source.File(), name).empty();
   }
 
   void CheckCoverage() {

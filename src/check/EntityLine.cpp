@@ -12,8 +12,7 @@ bool EntityLine::IsFound() const {
 }
 
 bool EntityLine::IsSearched() const {
-  const Text name = Decoded(entity_.name);
-  return Section().listed && !EntityFile::IsDisabled(name) && !EntityFile::IsHiddenFromSearch(name);
+  return Section().listed && !entity_.IsDisabled() && !EntityFile::IsHiddenFromSearch(entity_.name);
 }
 
 const Index::Category* EntityLine::Category() const {
@@ -24,20 +23,18 @@ Text EntityLine::SeenOnMap() const {
   const Index::Category* category = Category();
   if (!category)
     return u"no menu shows it";
-  if (category->isList) {
-    const auto picked = EntityFile::ReadPicked(index_.files, source_.path, Decoded(Section().name),
-                                               Decoded(entity_.name));
-    return picked ? Join(u"picked from the list it stands at ", At(*picked))
-                  : Text(u"picked from the list it shows nothing");
-  }
-  const auto& markers = index_.Markers(entity_.region, entity_.section);
-  return Join(u"the marker stands at ", At(markers[entity_.number].position));
+  const EntityFile::Entity read = Read();
+  if (!category->isList)
+    return Join(u"the marker stands at ", At(EntityFile::MarkerPosition(read)));
+  const auto picked = EntityFile::PickedPosition(read);
+  return picked ? Join(u"picked from the list it stands at ", At(*picked))
+                : Text(u"picked from the list it shows nothing");
 }
 
 Text EntityLine::SeenBySearch() const {
-  const auto found = EntityFile::ReadFound(source_.File(), Section().name, entity_.name);
-  return found.invalidLink ? Text(u"the first search ends the program")
-                           : Join(u"the search shows it at ", At(found.position));
+  const auto found = EntityFile::FoundPosition(Read());
+  return found ? Join(u"the search shows it at ", At(*found))
+               : Text(u"the first search ends the program");
 }
 
 Text EntityLine::Seen() const {

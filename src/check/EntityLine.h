@@ -22,6 +22,11 @@ class EntityLine {
     return ProfileLines::Unquoted(Line().entry.value);
   }
 
+  /// What all readers of positions begin with.
+  [[nodiscard]] EntityFile::Entity Read() const {
+    return EntityFile::Read(source_.File(), Section().name, entity_.name);
+  }
+
   /// Whether look-ups of this name in this section find this line.
   [[nodiscard]] bool IsFound() const;
 

@@ -7,7 +7,6 @@
 #include "perks/PerkCatalogue.h"
 
 #include <algorithm>
-#include <limits>
 
 using Texts::Join;
 
@@ -22,9 +21,7 @@ Index::Index(const Text& folder, PictureOf ofPicture, const std::function<bool(T
     : files(cache),
       base(Join(folder, FileSystem::Separator)),
       paths(StartUp::ComposePaths(files, folder)),
-      pictureOf(std::move(ofPicture)),
-      german_(paths.infoData) {
-  german_.CurrentLanguage = LOCAL::German;
+      pictureOf(std::move(ofPicture)) {
   settings = &Open(Source::Kind::Settings, paths.settings);
   for (size_t region = 0; region < Regions; ++region)
     data[region] = &Open(Source::Kind::Data, paths.regions[region].data);
@@ -61,17 +58,17 @@ void Index::AddEntities(size_t region) {
     const Source::Section& header = source.Sections()[section];
     if (!header.plain || !header.listed)
       continue;
-    size_t number = 0;
     for (size_t line = header.line + 1; line < header.listEnd; ++line)
       if (const std::string_view name = source.Lines()[line].listed; !name.empty())
-        entities.push_back({region, section, line, number++, name});
+        entities.push_back({region, section, line, name});
   }
-  for (const Source::Line& line : source.Lines()) {
-    const std::string_view value = ProfileLines::Unquoted(line.entry.value);
-    if (value.find('#') == std::string_view::npos)
+  for (const Entity& entity : entities) {
+    if (entity.region != region || entity.IsDisabled())
       continue;
-    if (const Text text = Words::Decoded(value); EntityFile::IsLink(text))
-      linkTargets[region].insert(Words::Folded(Words::Encoded(EntityFile::LinkTarget(text))));
+    const auto read =
+        EntityFile::Read(source.File(), source.Sections()[entity.section].name, entity.name);
+    if (read.link)
+      linkTargets[region].insert(Words::Folded(*read.link));
   }
 }
 
@@ -103,7 +100,7 @@ void Index::AddLanguages(const std::function<bool(TextView)>& wanted) {
     language.spoken = std::make_unique<LOCAL::Language>(paths.infoData);
     language.spoken->StartUp(files, paths.languageRoot, folder);
     language.spoken->CacheTranslationTable(files);
-    const Text descriptions = language.spoken->InfoFile();
+    const Text descriptions = language.spoken->InfoPath();
     if (descriptions != paths.infoData)
       language.info = &Open(Source::Kind::Info, descriptions);
   }
@@ -123,15 +120,4 @@ const Index::Category* Index::CategoryOf(size_t region, std::string_view section
   const Text name = Words::Decoded(section);
   const auto found = std::ranges::find(categories[region], TextView(name), &Category::section);
   return found == categories[region].end() ? nullptr : &*found;
-}
-
-const std::vector<EntityFile::Marker>& Index::Markers(size_t region, size_t section) {
-  auto& sections = markers_[region];
-  const auto known = sections.find(section);
-  if (known != sections.end())
-    return known->second;
-  const Source& source = *data[region];
-  const Text name = Words::Decoded(source.Sections()[section].name);
-  return sections[section] = EntityFile::ReadMarkers(files, source.path, name, german_,
-                                                     std::numeric_limits<size_t>::max());
 }

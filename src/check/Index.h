@@ -41,8 +41,6 @@ class Index {
     size_t region = 0;
     size_t section = 0;
     size_t line = 0;
-    /// Its number in the section's key list.
-    size_t number = 0;
     std::string_view name;
 
     [[nodiscard]] bool IsDisabled() const { return name.starts_with(';'); }
@@ -77,9 +75,6 @@ class Index {
   /// The category that shows the section of the region; none if no command does.
   [[nodiscard]] const Category* CategoryOf(size_t region, std::string_view section) const;
 
-  /// The markers of a section, in the order of its key list.
-  [[nodiscard]] const std::vector<EntityFile::Marker>& Markers(size_t region, size_t section);
-
   /// A file of the world that several checks look at.
   const Source& Open(Source::Kind kind, const Text& path);
 
@@ -105,8 +100,6 @@ class Index {
   void AddNames();
   void AddLanguages(const std::function<bool(TextView)>& wanted);
 
-  LOCAL::Language german_;
   std::vector<std::string_view> names_;
   std::unordered_map<std::string, bool> isOn_;
-  std::array<std::unordered_map<size_t, std::vector<EntityFile::Marker>>, Regions> markers_;
 };

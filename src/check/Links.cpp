@@ -4,7 +4,6 @@
 #include "check/Nearest.h"
 #include "check/Value.h"
 #include "check/Words.h"
-#include "platform/Windows1252.h"
 
 #include <algorithm>
 
@@ -37,17 +36,15 @@ class LinkCheck {
     const EntityLine line(index_, entity);
     if (entity.IsDisabled() || !line.IsSound() || !line.IsFound())
       return;
-    const Text value = Decoded(line.Value());
-    if (!EntityFile::IsLink(value))
+    const EntityFile::Entity read = line.Read();
+    if (!read.link)
       return;
-    const Text target(EntityFile::LinkTarget(value));
-    const std::string_view there = line.File().File().Read(Encoded(target), entity.name);
-    const auto found = EntityFile::ReadFound(line.File().File(), line.Section().name, entity.name);
-    if (found.invalidLink)
+    const Text target = Decoded(*read.link);
+    if (!EntityFile::FoundPosition(read))
       TellInvalid(entity, line, target);
-    else if (EntityFile::IsLink(Decoded(there)))
+    else if (LinkOf(line, target))
       TellChain(entity, line, target);
-    else if (!Value::IsNumber(Value::Field(there, 1)) || !Value::IsNumber(Value::Field(there, 2)))
+    else if (!EntityFile::PickedPosition(read))
       TellNoNumber(line, target);
   }
 
@@ -131,16 +128,22 @@ class LinkCheck {
     const Source& source = line.File();
     Text next = target;
     for (size_t step = 0; step < LongestChain; ++step) {
-      const std::string_view there = source.File().Read(Encoded(next), entity.name);
-      if (Value::Plain(there)) {
+      const auto there = EntityFile::Read(source.File(), Encoded(next), entity.name);
+      if (!there.link && EntityFile::PickedPosition(there)) {
         finding.advice = Join(u"write #,", next);
         Offer(line, finding, source.FindSection(Encoded(next)));
         return;
       }
-      next = EntityFile::LinkTarget(Decoded(there));
+      next = Decoded(there.link.value_or(""));
     }
     finding.message = u"a link that leads back to itself";
     finding.advice = u"give one of the lines a position";
+  }
+
+  // Whether the line that a link leads to is a link too.
+  [[nodiscard]] static bool LinkOf(const EntityLine& line, const Text& target) {
+    return EntityFile::Read(line.File().File(), Encoded(target), line.Line().listed)
+        .link.has_value();
   }
 
   void TellNoNumber(const EntityLine& line, const Text& target) {

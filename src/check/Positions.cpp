@@ -228,7 +228,7 @@ class LineCheck {
 
   [[nodiscard]] Position Rounded() const {
     const auto number = [this](size_t n) {
-      return StringOps::LeadingNumber(Decoded(Value::Field(value_, n)));
+      return StringOps::LeadingNumber(Value::Field(value_, n));
     };
     return {number(1), number(2)};
   }
@@ -263,7 +263,7 @@ class SectionCheck {
     LineCheck check(line, findings_);
     if (check.CheckForm())
       return;
-    if (entity.name.empty() || EntityFile::IsLink(Decoded(line.Value())))
+    if (entity.name.empty() || line.Read().link)
       return CheckNameless(entity, line);
     const auto at = Value::Plain(line.Value());
     if (!at || !IsMarkPlain(line.Value()))
@@ -299,10 +299,8 @@ class SectionCheck {
   void CheckNameless(const Index::Entity& entity, const EntityLine& line) {
     if (line.Line().entry.key.empty())
       line.Tell(findings_, Id::F16, line.Line().text.raw, u"a position without a name");
-    else if (const auto found =
-                 EntityFile::ReadFound(line.File().File(), line.Section().name, entity.name);
-             !found.invalidLink)
-      CheckPoint(entity, line, found.position);
+    else if (const auto found = EntityFile::FoundPosition(line.Read()))
+      CheckPoint(entity, line, *found);
   }
 
   void CheckPlace(const Index::Entity& entity, const EntityLine& line, const Position& at) {

@@ -1,6 +1,5 @@
 #include "check/Value.h"
 
-#include "check/Words.h"
 #include "mapdata/files/ProfileLines.h"
 #include "mapdata/files/StringOps.h"
 
@@ -126,7 +125,7 @@ std::string_view Field(std::string_view value, size_t n) {
 }
 
 bool IsNumber(std::string_view field) {
-  return StringOps::WholeNumber(Words::Decoded(field)).has_value();
+  return StringOps::WholeNumber(field).has_value();
 }
 
 std::optional<std::string> DigitsAlone(std::string_view value) {

@@ -248,10 +248,10 @@ class WorldCheck {
     };
     check(Join(index_.base, u"orvalis.chm"));
     check(Join(index_.base, u"readme.html"));
-    if (!Settings::IsYes(index_.files, index_.paths.settings, Settings::NoExtras))
+    if (!Settings::IsYes(index_.settings->File(), Settings::NoExtras))
       for (const Extra& extra : ExtrasTable)
         check(Join(index_.paths.extrasFolder, extra.file));
-    if (Settings::IsYes(index_.files, index_.paths.settings, Settings::PlayMusic) &&
+    if (Settings::IsYes(index_.settings->File(), Settings::PlayMusic) &&
         !FileSystem::FileExists(sound))
       Tell(Id::W08, sound, u"the music is missing").consequence = u"the desktop's bell sounds once";
   }
