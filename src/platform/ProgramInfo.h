@@ -7,7 +7,7 @@ namespace ProgramInfo {
 
 inline constexpr TextView Title = u"Orvalis";
 /// As the build names it.
-inline constexpr TextView Version = ORVALIS_VERSION;
+extern const TextView Version;
 inline constexpr TextView Copyright = u"© 2026 Die Orvalis-Kartografen";
 inline constexpr TextView Description =
     u"Interaktive Karten von Duskhold, um NPCs, Orte und Gegenstände einfach zu finden.";

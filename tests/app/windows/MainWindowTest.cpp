@@ -2,6 +2,7 @@
 #include "app/MenuTable.h"
 #include "app/windows/Program.h"
 #include "controls/windows/GridListbox.h"
+#include "platform/ProgramInfo.h"
 #include "platform/windows/QtText.h"
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"

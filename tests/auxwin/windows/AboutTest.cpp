@@ -1,6 +1,8 @@
 #include "auxwin/windows/frmAbout.h"
 
 #include "auxwin/windows/WindowFixture.h"
+#include "platform/ProgramInfo.h"
+#include "platform/windows/QtText.h"
 #include "support/DialogCheck.h"
 
 #include <QLabel>
@@ -83,8 +85,7 @@ TEST_F(About, NamesProgramVersionAndEdition) {
   UseEnglish(EnglishTexts);
   const auto english = Open(u"Web Edition");
   EXPECT_EQ(english->windowTitle(), QStringLiteral("About Orvalis"));
-  EXPECT_EQ(Label(*english, "lblVersion").text(),
-            Version() + QStringLiteral(" Web Edition"));
+  EXPECT_EQ(Label(*english, "lblVersion").text(), Version() + QStringLiteral(" Web Edition"));
   EXPECT_EQ(Label(*english, "lblSources").text(), QStringLiteral("Travellers & books"));
 }
 
