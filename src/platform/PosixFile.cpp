@@ -78,12 +78,19 @@ bool WriteAll(int file, const std::string& bytes) {
   return true;
 }
 
+mode_t ModeOfNewFile() {
+  // It can only be asked for by setting another.
+  const mode_t masked = ::umask(0);
+  ::umask(masked);
+  return mode_t{0666} & ~masked;
+}
+
 // The permissions for the new file: those of the old one; none if that is not to be written.
 std::optional<mode_t> WritableMode(const std::string& path) {
   struct stat status {};
 
   if (::stat(path.c_str(), &status) != 0)
-    return mode_t{0644};
+    return ModeOfNewFile();
   if (!S_ISREG(status.st_mode) || (status.st_mode & WriteBits) == 0)
     return std::nullopt;
   return status.st_mode & mode_t{07777};

@@ -132,7 +132,7 @@ void frmAbout::done(int result) {
 }
 
 void frmAbout::StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  playMusic_ = Settings::IsYes(files, paths.settings, Settings::PlayMusic);
+  playMusic_ = Settings::IsYes(files.File(paths.settings), Settings::PlayMusic);
   if (!playMusic_)
     return;
   const auto music = FileSystem::Resolve(Texts::Join(paths.programFolder, u"orvalis.wav"));

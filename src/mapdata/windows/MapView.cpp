@@ -66,7 +66,7 @@ QStringList Sorted(const std::vector<Text>& names) {
 
 }  // namespace
 
-MapView::MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent)
+MapView::MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent)
     : QWidget(parent), files_(files), names_(names) {
   MapAccess::Install();
   CreateControls();
@@ -182,7 +182,7 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
   btnInfo->show();
   SetCategory(Data, KindX);
   IniOps::Snapshot files(files_);
-  FillItems(EntityFile::ReadNames(files, Data, KindX, names_));
+  FillItems(EntityFile::ReadNames(files.File(Data), KindX, files, names_));
   cboItems_Click();
   cboItems->setFocus(Qt::ShortcutFocusReason);
 }
@@ -203,7 +203,8 @@ void MapView::ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, 
   if (!LoadPicture(Map))
     return;
   IniOps::Snapshot files(files_);
-  const auto markers = EntityFile::ReadMarkers(files, Data, KindX, names_, MarkerSlots::Count);
+  const auto markers =
+      EntityFile::ReadMarkers(files.File(Data), KindX, files, names_, MarkerSlots::Count);
   int slot = 0;
   for (const EntityFile::Marker& marker : markers)
     slots_->Set(slot++, marker, PointAt(marker.position.x, marker.position.y), !LabelsOnHover,
@@ -240,7 +241,8 @@ void MapView::cboItems_Click() {
     return;
   }
   IniOps::Snapshot files(files_);
-  const auto position = EntityFile::ReadPicked(files, dataFile_, categoryKey_, names_.Key(name));
+  const auto position =
+      EntityFile::ReadPicked(files.File(dataFile_), categoryKey_, names_.Key(name));
   lblCaption->setToolTip({});
   View = {{}, dataFile_, categoryKey_, {}, false, name};
   if (!position) {
@@ -340,7 +342,7 @@ void MapView::lblDOT_DblClick(int index) {
 QString MapView::Description(const NameLabel& label) {
   IniOps::Snapshot files(files_);
   const Text key = Texts::Lower(names_.Key(FromQt(label.text())));
-  return ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files, names_.InfoFile(), key)));
+  return ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files.File(names_.InfoPath()), key)));
 }
 
 void MapView::ShowDescription(NameLabel& label) {
