@@ -5,7 +5,6 @@
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
-#include "platform/WaveFile.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -135,9 +134,7 @@ void frmAbout::StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths) {
   if (!playMusic_)
     return;
   const auto music = FileSystem::Resolve(Texts::Join(paths.programFolder, u"orvalis.wav"));
-  if (music && WaveFile::IsPlayable(*music))
-    desktop_.LoopSound(*music);
-  else
+  if (!music || !desktop_.LoopSound(*music))
     desktop_.Beep();
 }
 
