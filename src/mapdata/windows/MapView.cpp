@@ -86,12 +86,12 @@ void MapView::CreateControls() {
   lblCaption = Named(new NameLabel(this, CaptionPoints, ctlLocation::DarkRed, ctlLocation::Gold),
                      QLatin1StringView("lblCaption"));
   ITEM = Named(new ctlLocation(this), QLatin1StringView("ITEM"));
-  slots_ = new MarkerSlots(this, ITEM);
+  lblMultiInfo = Named(new NameLabel(this, HeadingPoints, ctlLocation::Gold, ctlLocation::DarkRed),
+                       QLatin1StringView("lblMultiInfo"));
+  slots_ = new MarkerSlots(this, ITEM, lblMultiInfo);
   focus_->Add(ITEM, lblCaption);
   for (int slot = 0; slot < MarkerSlots::Count; ++slot)
     focus_->Add(&slots_->Dot(slot), &slots_->Label(slot));
-  lblMultiInfo = Named(new NameLabel(this, HeadingPoints, ctlLocation::Gold, ctlLocation::DarkRed),
-                       QLatin1StringView("lblMultiInfo"));
   cboItems = Named(new QComboBox(this), QLatin1StringView("cboItems"));
   cboItems->setMaxVisibleItems(MostVisibleItems);
   SetTwips(*cboItems, {}, {4215, 360});
@@ -102,7 +102,10 @@ void MapView::CreateControls() {
 }
 
 void MapView::ConnectControls() {
-  connect(cboItems, &QComboBox::activated, this, &MapView::cboItems_Click);
+  connect(cboItems, &QComboBox::activated, this, [this] {
+    if (!cboItems->isHidden())
+      cboItems_Click();
+  });
   connect(btnInfo, &QToolButton::clicked, this, &MapView::btnInfo_Click);
   connect(ITEM, &ctlLocation::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::DblClick, this, &MapView::lblCaption_DblClick);
@@ -155,8 +158,11 @@ void MapView::ClearUI() {
   HideItem();
   ITEM->SetDesc({});
   lblCaption->setToolTip({});
-  btnInfo->hide();
-  cboItems->hide();
+  for (QWidget* hidden : {static_cast<QWidget*>(btnInfo), static_cast<QWidget*>(cboItems)}) {
+    hidden->hide();
+    // The toolkit leaves it there, and a menu that closes brings it back.
+    hidden->clearFocus();
+  }
 }
 
 void MapView::ShowNoRegion() {

@@ -52,8 +52,9 @@ void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
                    static_cast<float>(event->position().y()));
 }
 
-void ctlLocation::mouseDoubleClickEvent(QMouseEvent*) {
-  Q_EMIT DblClick();
+void ctlLocation::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton)
+    Q_EMIT DblClick();
 }
 
 void ctlLocation::paintEvent(QPaintEvent*) {

@@ -54,12 +54,9 @@ constexpr DialogDesign WindowDesign = {.name = u"frmFind",
 
 }  // namespace
 
-frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Search::State& state)
+frmFind::frmFind(QWidget* parent, World& world, Search::State& state)
     : Dialog(parent, WindowDesign),
-      paths_(paths),
-      language_(language),
-      files_(files),
+      world_(world),
       state_(state),
       lblFind(Control<QLabel>(u"lblFind")),
       txtFind(Control<QLineEdit>(u"txtFind")),
@@ -75,7 +72,7 @@ frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   connect(rbDescsOnly, &QRadioButton::toggled, this,
           [this](bool chosen) { ChooseMode(Mode::Descriptions, chosen); });
   connect(btnFind, &QPushButton::clicked, this, &frmFind::btnFind_Click);
-  IniOps::Snapshot snapshot(files);
+  IniOps::Snapshot snapshot(world.cache);
   applyTexts(snapshot);
 }
 
@@ -89,7 +86,7 @@ void frmFind::LoadState() {
 
 void frmFind::applyTexts(IniOps::Snapshot& files) {
   const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(language_.Lookup(files, Section, key, english, german));
+    return ToQt(world_.language.Lookup(files, Section, key, english, german));
   };
   setWindowTitle(text(u"caption", u"Find", WindowDesign.caption));
   lblFind->setText(text(u"searchfor", u"Search for:", u"Suchen nach:"));
@@ -114,7 +111,7 @@ void frmFind::ChooseMode(Mode mode, bool chosen) {
 void frmFind::btnFind_Click() {
   btnFind->setEnabled(false);
   Q_EMIT SearchStarted();
-  IniOps::Snapshot files(files_);
-  result_ = Search::FindFirst(state_, files, language_, paths_, FromQt(txtFind->text()));
+  IniOps::Snapshot files(world_.cache);
+  result_ = Search::FindFirst(state_, files, world_, FromQt(txtFind->text()));
   accept();
 }
