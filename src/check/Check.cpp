@@ -38,11 +38,9 @@ std::unique_ptr<Answer> Run(const Question& question) {
     check(answer->index, findings);
   std::erase_if(findings.all,
                 [&question](const Finding& finding) { return !IsWanted(question, finding); });
-  if (question.readIgnores) {
-    const Ignores ignores(answer->index);
-    std::erase_if(findings.all,
-                  [&ignores](const Finding& finding) { return ignores.Covers(finding); });
-  }
+  const Ignores ignores(answer->index);
+  std::erase_if(findings.all,
+                [&ignores](const Finding& finding) { return ignores.Covers(finding); });
   std::ranges::stable_sort(findings.all, {}, [](const Finding& finding) {
     return std::tie(finding.severity, finding.file, finding.offset, finding.rule);
   });

@@ -20,14 +20,14 @@ struct Question {
   std::vector<Text> select;
   /// Numbers of rules, or their first letters, that are not looked for.
   std::vector<Text> ignore;
-  /// Whether the ignores that stand in the world count.
-  bool readIgnores = true;
+  /// Files that are taken for other than they are.
+  std::vector<Index::Assumed> assumed;
 };
 
 /// A world and what was found in it, the worst first.
 struct Answer {
   explicit Answer(const Question& question)
-      : index(question.folder, question.pictureOf, question.wantsLanguage) {}
+      : index(question.folder, question.pictureOf, question.wantsLanguage, question.assumed) {}
 
   Index index;
   std::vector<Finding> findings;

@@ -1,7 +1,6 @@
 #include "check/Index.h"
 
 #include "app/MenuTable.h"
-#include "app/StartUp.h"
 #include "check/Words.h"
 #include "mapdata/files/FileSystem.h"
 #include "perks/PerkCatalogue.h"
@@ -10,25 +9,22 @@
 
 using Texts::Join;
 
-namespace {
-
-// Regions that have a Perks command stand first.
-constexpr size_t PerkedRegions = 3;
-
-}  // namespace
-
-Index::Index(const Text& folder, PictureOf ofPicture, const std::function<bool(TextView)>& wanted)
-    : files(cache),
-      base(Join(folder, FileSystem::Separator)),
-      paths(StartUp::ComposePaths(files, folder)),
+Index::Index(const Text& folder, PictureOf ofPicture, const std::function<bool(TextView)>& wanted,
+             std::span<const Assumed> assumed)
+    : world(folder),
+      files(world.cache),
+      paths(world.paths),
+      base(paths.programFolder),
       pictureOf(std::move(ofPicture)) {
+  for (const Assumed& file : assumed)
+    files.Assume(file.path, std::make_shared<const ProfileFile>(file.bytes));
   settings = &Open(Source::Kind::Settings, paths.settings);
-  for (size_t region = 0; region < Regions; ++region)
+  for (size_t region = 0; region < Regions.size(); ++region)
     data[region] = &Open(Source::Kind::Data, paths.regions[region].data);
   info = &Open(Source::Kind::Info, paths.infoData);
   portraits = &Open(Source::Kind::Pictures, Join(paths.picturesFolder, u"pic.ini"));
   AddCategories();
-  for (size_t region = 0; region < Regions; ++region)
+  for (size_t region = 0; region < Regions.size(); ++region)
     AddEntities(region);
   AddNames();
   AddLanguages(wanted);
@@ -44,12 +40,13 @@ const Source& Index::Open(Source::Kind kind, const Text& path) {
 
 void Index::AddCategories() {
   for (const MenuRow& row : MenuTable::Rows())
-    if (row.kind == MenuRow::Kind::Category)
-      categories[static_cast<size_t>(row.region)].push_back(
+    if (row.kind == MenuRow::Kind::Category && row.region)
+      categories[static_cast<size_t>(*row.region)].push_back(
           {row.category, row.mode == DisplayMode::List, false});
-  for (size_t region = 0; region < PerkedRegions; ++region)
-    for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks)
-      categories[region].push_back({perk.key, false, true});
+  for (const RegionRow& row : Regions)
+    if (row.hasPerks)
+      for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks)
+        categories[static_cast<size_t>(row.region)].push_back({perk.key, false, true});
 }
 
 void Index::AddEntities(size_t region) {
@@ -97,8 +94,8 @@ void Index::AddLanguages(const std::function<bool(TextView)>& wanted) {
     if (!FileSystem::FileExists(path))
       continue;
     language.file = &Open(Source::Kind::Language, path);
-    language.spoken = std::make_unique<LOCAL::Language>(paths.infoData);
-    language.spoken->StartUp(files, paths.languageRoot, folder);
+    language.spoken = std::make_unique<LOCAL::Language>(paths);
+    language.spoken->Start(files, folder);
     language.spoken->CacheTranslationTable(files);
     const Text descriptions = language.spoken->InfoPath();
     if (descriptions != paths.infoData)

@@ -1,15 +1,17 @@
 #pragma once
 
+#include "app/World.h"
 #include "check/Source.h"
 #include "i18n/LOCAL.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityFile.h"
-#include "mapdata/world/ProgramPaths.h"
+#include "mapdata/world/Regions.h"
 
 #include <array>
 #include <deque>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -26,8 +28,6 @@ using PictureOf = std::function<std::optional<PictureSize>(TextView path)>;
 /// What is made once of a world because several checks need it.
 class Index {
  public:
-  static constexpr size_t Regions = 5;
-
   /// A section that a command of the region shows.
   struct Category {
     TextView section;
@@ -58,8 +58,15 @@ class Index {
     std::unique_ptr<LOCAL::Language> spoken;
   };
 
+  /// Other bytes than those of a file that is there.
+  struct Assumed {
+    Text path;
+    std::string bytes;
+  };
+
   /// Opens the world in that folder, with the languages that `wanted` holds for.
-  Index(const Text& folder, PictureOf pictureOf, const std::function<bool(TextView)>& wanted);
+  Index(const Text& folder, PictureOf pictureOf, const std::function<bool(TextView)>& wanted,
+        std::span<const Assumed> assumed);
   Index(const Index&) = delete;
   Index& operator=(const Index&) = delete;
 
@@ -78,20 +85,21 @@ class Index {
   /// A file of the world that several checks look at.
   const Source& Open(Source::Kind kind, const Text& path);
 
-  IniOps::Cache cache;
+  ::World world;
   IniOps::Snapshot files;
-  Text base;
-  ProgramPaths paths;
+  const ProgramPaths& paths;
+  /// The world's folder, with a separator at its end.
+  const Text& base;
   PictureOf pictureOf;
   std::deque<Source> sources;
   const Source* settings = nullptr;
   const Source* info = nullptr;
   const Source* portraits = nullptr;
-  std::array<const Source*, Regions> data{};
-  std::array<std::vector<Category>, Regions> categories;
+  std::array<const Source*, Regions.size()> data{};
+  std::array<std::vector<Category>, Regions.size()> categories;
   std::vector<Entity> entities;
   /// The sections of each region that links name, in lower case.
-  std::array<std::unordered_set<std::string>, Regions> linkTargets;
+  std::array<std::unordered_set<std::string>, Regions.size()> linkTargets;
   std::vector<Language> languages;
 
  private:

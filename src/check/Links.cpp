@@ -29,7 +29,7 @@ using Places = std::unordered_map<std::string, Sections>;
 
 class LinkCheck {
  public:
-  LinkCheck(Index& index, Findings& findings, const std::array<Places, Index::Regions>& places)
+  LinkCheck(Index& index, Findings& findings, const std::array<Places, Regions.size()>& places)
       : index_(index), findings_(findings), places_(places) {}
 
   void Check(const Index::Entity& entity) {
@@ -106,7 +106,7 @@ class LinkCheck {
 
   // The name stands nowhere in this file as it is written.
   void Suggest(const Index::Entity& entity, const Text& target, Finding& finding) {
-    for (size_t region = 0; region < Index::Regions; ++region)
+    for (size_t region = 0; region < Regions.size(); ++region)
       if (const auto found = places_[region].find(Words::Folded(entity.name));
           found != places_[region].end() && !found->second.on.empty()) {
         finding.advice = Join(u"it stands in ", index_.data[region]->name,
@@ -153,11 +153,11 @@ class LinkCheck {
 
   Index& index_;
   Findings& findings_;
-  const std::array<Places, Index::Regions>& places_;
+  const std::array<Places, Regions.size()>& places_;
 };
 
-std::array<Places, Index::Regions> PlacesOf(Index& index) {
-  std::array<Places, Index::Regions> places;
+std::array<Places, Regions.size()> PlacesOf(Index& index) {
+  std::array<Places, Regions.size()> places;
   for (const Index::Entity& entity : index.entities) {
     const EntityLine line(index, entity);
     auto& names = places[entity.region];
@@ -172,7 +172,7 @@ std::array<Places, Index::Regions> PlacesOf(Index& index) {
 
 // Names that stand at two places of one file.
 void CheckPlaces(Index& index, Findings& findings) {
-  std::array<std::unordered_map<std::string, const Index::Entity*>, Index::Regions> first;
+  std::array<std::unordered_map<std::string, const Index::Entity*>, Regions.size()> first;
   for (const Index::Entity& entity : index.entities) {
     const EntityLine line(index, entity);
     if (entity.IsDisabled() || !line.IsSound() || !line.IsFound())

@@ -16,8 +16,6 @@ using Words::Quoted;
 
 namespace {
 
-constexpr std::array<TextView, Index::Regions> RegionNames = {u"Arvenna", u"Skaldor", u"Sarrakh",
-                                                              u"Ostrakh", u"the ancestors' temple"};
 constexpr size_t MostMarkers = 81;
 constexpr TextView PerkWord = u"perk ";
 
@@ -179,7 +177,7 @@ class Header {
     const bool perk = Texts::Lower(name_).starts_with(PerkWord);
     if (meant != name_)
       return TellCase(perk ? Id::S10 : Id::S01, meant);
-    for (size_t other = 0; other < Index::Regions; ++other)
+    for (size_t other = 0; other < Regions.size(); ++other)
       if (index_.CategoryOf(other, section_.name))
         return TellElsewhere();
     if (perk)
@@ -199,11 +197,11 @@ class Header {
 
   void TellElsewhere() {
     Text regions;
-    for (size_t other = 0; other < Index::Regions; ++other)
+    for (size_t other = 0; other < Regions.size(); ++other)
       if (index_.CategoryOf(other, section_.name))
-        regions.append(regions.empty() ? u"" : u", ").append(RegionNames[other]);
-    Finding& finding = Add(Id::S07, section_.header,
-                           Join(RegionNames[region_], u" has no category ", Quoted(name_)));
+        regions.append(regions.empty() ? u"" : u", ").append(index_.data[other]->name);
+    Finding& finding =
+        Add(Id::S07, section_.header, Join(u"this region has no category ", Quoted(name_)));
     finding.consequence = Join(u"no menu shows it; ", SearchOfLines());
     finding.advice = Join(u"it is a category of ", regions);
   }
@@ -290,7 +288,7 @@ void CheckLookedUp(const Source& source, Findings& findings) {
 }  // namespace
 
 void Checks::Sections(Index& index, Findings& findings) {
-  for (size_t region = 0; region < Index::Regions; ++region) {
+  for (size_t region = 0; region < Regions.size(); ++region) {
     const size_t count = index.data[region]->Sections().size();
     for (size_t number = 0; number < count; ++number)
       if (!index.data[region]->Sections()[number].name.empty())

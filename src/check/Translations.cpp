@@ -21,8 +21,6 @@ using Words::Quoted;
 
 namespace {
 
-constexpr std::array<TextView, 5> RegionWords = {u"Arvenna", u"Skaldor", u"Sarrakh", u"Ostrakh",
-                                                 u"Tempel von"};
 constexpr size_t LongestName = 120;
 constexpr std::string_view LineBlanks = "\t\v\f";
 
@@ -46,9 +44,9 @@ class TranslationCheck {
         findings_(findings),
         language_(language),
         source_(*language.file),
-        words_(index.paths.infoData) {
+        words_(index.paths) {
     // Without its table a language replaces the words of the regions and nothing else.
-    words_.StartUp(index.files, index.paths.languageRoot, language.folder);
+    words_.Start(index.files, language.folder);
   }
 
   void Check() {
@@ -144,7 +142,8 @@ class TranslationCheck {
 
   void CheckDead(size_t key) {
     const Text word(keys_[key]);
-    if (std::ranges::find(RegionWords, TextView(word)) != RegionWords.end() || IsSwitchedOff(word))
+    if (std::ranges::find(Regions, TextView(word), &RegionRow::word) != Regions.end() ||
+        IsSwitchedOff(word))
       return;
     const Text replaced = words_.LocalizeEntityName(index_.files, word);
     if (replaced != Trim(word) && NameOf(replaced))

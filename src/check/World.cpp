@@ -1,4 +1,3 @@
-#include "app/StartUp.h"
 #include "auxwin/Documents.h"
 #include "auxwin/ExtrasTable.h"
 #include "check/Checks.h"
@@ -25,14 +24,6 @@ using Words::Quoted;
 
 namespace {
 
-constexpr auto Known = std::to_array<const Settings::Entry*>(
-    {&Settings::Language, &Settings::ExtrasFolder, &Settings::PicturesFolder,
-     &Settings::LanguageRoot, &Settings::NoExtras, &Settings::NoLang, &Settings::LocalizedString,
-     &Settings::PlayMusic, &Settings::Download, &Settings::TranslatorKit, &Settings::GamePatch});
-constexpr auto YesOrNo = std::to_array<const Settings::Entry*>(
-    {&Settings::NoExtras, &Settings::NoLang, &Settings::PlayMusic});
-constexpr auto Folders = std::to_array<const Settings::Entry*>(
-    {&Settings::ExtrasFolder, &Settings::PicturesFolder, &Settings::LanguageRoot});
 constexpr auto MeanYes =
     std::to_array<TextView>({u"1", u"true", u"ja", u"on", u"y", u"j", u"oui", u"wahr"});
 constexpr auto MeanNo = std::to_array<TextView>(
@@ -74,9 +65,9 @@ class WorldCheck {
   }
 
   void CheckRequired() {
-    const auto first = StartUp::MissingFile(index_.paths);
-    for (const auto file : {&ProgramPaths::Region::data, &ProgramPaths::Region::picture})
-      for (const ProgramPaths::Region& region : index_.paths.regions) {
+    const auto first = index_.world.MissingFile();
+    for (const auto file : {&ProgramPaths::RegionFiles::data, &ProgramPaths::RegionFiles::picture})
+      for (const ProgramPaths::RegionFiles& region : index_.paths.regions) {
         const Text& path = region.*file;
         if (FileSystem::FileExists(path))
           continue;
@@ -86,13 +77,13 @@ class WorldCheck {
         finding.consequence = path == first
                                   ? Text(u"the program names it and ends")
                                   : Join(u"the program ends already for ", NameOf(*first));
-        if (file == &ProgramPaths::Region::picture)
+        if (file == &ProgramPaths::RegionFiles::picture)
           finding.advice = u"a picture of 2048 x 1536 pixels";
       }
   }
 
   void CheckPictures() {
-    for (const ProgramPaths::Region& region : index_.paths.regions)
+    for (const ProgramPaths::RegionFiles& region : index_.paths.regions)
       if (FileSystem::FileExists(region.picture))
         CheckPicture(region.picture);
     const Text start = Join(index_.base, u"overview.jpg");
@@ -135,19 +126,14 @@ class WorldCheck {
       if (line.entry.kind != LineKind::KeyWithValue || line.section == Source::None)
         continue;
       const std::string_view section = source.Sections()[line.section].name;
-      const auto known = std::ranges::find_if(Known, [&](const Settings::Entry* entry) {
-        return IsSame(section, entry->section) && IsSame(line.entry.key, entry->key);
+      const auto known = std::ranges::find_if(Settings::All, [&](const Settings::Entry& entry) {
+        return IsSame(section, entry.section) && IsSame(line.entry.key, entry.key);
       });
-      if (known == Known.end())
+      if (known == Settings::All.end())
         TellUnknown(line, section);
-      else if (Holds(YesOrNo, *known))
-        CheckYes(line, **known);
+      else if (known->kind == Settings::Kind::YesNo)
+        CheckYes(line, *known);
     }
-  }
-
-  template <typename Entries>
-  static bool Holds(const Entries& entries, const Settings::Entry* wanted) {
-    return std::ranges::find(entries, wanted) != entries.end();
   }
 
   void TellUnknown(const Source::Line& line, std::string_view section) {
@@ -159,11 +145,11 @@ class WorldCheck {
                            Quoted(finding.section));
     std::vector<Text> keys;
     std::vector<Text> sections;
-    for (const Settings::Entry* entry : Known) {
-      if (IsSame(section, entry->section))
-        keys.emplace_back(entry->key);
-      if (IsSame(line.entry.key, entry->key))
-        sections.emplace_back(entry->section);
+    for (const Settings::Entry& entry : Settings::All) {
+      if (IsSame(section, entry.section))
+        keys.emplace_back(entry.key);
+      if (IsSame(line.entry.key, entry.key))
+        sections.emplace_back(entry.section);
     }
     if (!keys.empty())
       Offer(finding, line.entry.key, Nearest::Of(finding.key, keys));
@@ -195,24 +181,26 @@ class WorldCheck {
   }
 
   void CheckFolders() {
-    for (const Settings::Entry* entry : Folders) {
+    for (const Settings::Entry& entry : Settings::All) {
+      if (entry.kind != Settings::Kind::Folder)
+        continue;
       const auto value =
-          index_.settings->File().Value(Words::Encoded(entry->section), Words::Encoded(entry->key));
+          index_.settings->File().Value(Words::Encoded(entry.section), Words::Encoded(entry.key));
       if (!value || value->empty() || IsFolder(Join(index_.base, Decoded(*value), u"/")))
         continue;
       Finding& finding = findings_.Add(Id::W07, *index_.settings, *value);
-      finding.section = entry->section;
-      finding.key = entry->key;
+      finding.section = entry.section;
+      finding.key = entry.key;
       finding.message = Join(u"there is no folder ", Quoted(Decoded(*value)));
-      finding.consequence = entry == &Settings::PicturesFolder
-                                ? u"all portraits are the placeholder"
-                            : entry == &Settings::LanguageRoot ? u"German is the only language"
-                                                               : u"no document of the Extras opens";
+      finding.consequence =
+          entry.key == Settings::PicturesFolder.key ? u"all portraits are the placeholder"
+          : entry.key == Settings::LanguageRoot.key ? u"German is the only language"
+                                                    : u"no document of the Extras opens";
     }
   }
 
   void CheckLanguageSetting() {
-    const Text chosen = StartUp::ChosenLanguage(index_.files, index_.paths);
+    const Text chosen = index_.world.ChosenLanguage();
     const auto names = FileSystem::Names(index_.paths.languageRoot);
     for (const Text& name : names)
       if (Lower(name) == Lower(LOCAL::German))
@@ -265,7 +253,7 @@ class WorldCheck {
     };
     for (const Source& source : index_.sources)
       ask(source.path);
-    for (const ProgramPaths::Region& region : index_.paths.regions)
+    for (const ProgramPaths::RegionFiles& region : index_.paths.regions)
       ask(region.picture);
     for (const Source::Line& line : index_.portraits->Lines())
       if (line.entry.kind == LineKind::KeyWithValue)

@@ -19,10 +19,10 @@ struct Likeness {
 };
 
 constexpr auto Likenesses = std::to_array<Likeness>({
-    {u'Ä', "Ae"}, {u'Ö', "Oe"}, {u'Ü', "Ue"}, {u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"},
-    {u'ß', "ss"}, {u'É', "E"},  {u'È', "E"},  {u'À', "A"},  {u'Ç', "C"},  {u'é', "e"},
-    {u'è', "e"},  {u'ê', "e"},  {u'à', "a"},  {u'â', "a"},  {u'ç', "c"},  {u'î', "i"},
-    {u'ï', "i"},  {u'ô', "o"},  {u'û', "u"},  {u'ù', "u"},  {u'œ', "oe"}, {u'’', "'"},
+    {u'Ä', "Ae"}, {u'Ö', "Oe"},  {u'Ü', "Ue"}, {u'ä', "ae"}, {u'ö', "oe"}, {u'ü', "ue"},
+    {u'ß', "ss"}, {u'É', "E"},   {u'È', "E"},  {u'À', "A"},  {u'Ç', "C"},  {u'é', "e"},
+    {u'è', "e"},  {u'ê', "e"},   {u'à', "a"},  {u'â', "a"},  {u'ç', "c"},  {u'î', "i"},
+    {u'ï', "i"},  {u'ô', "o"},   {u'û', "u"},  {u'ù', "u"},  {u'œ', "oe"}, {u'’', "'"},
     {u'–', "-"},  {u'…', "..."}, {u'“', "\""}, {u'”', "\""}, {u'„', "\""},
 });
 
@@ -69,8 +69,7 @@ namespace Console {
 
 Style OfOutput() {
   const bool terminal = ::isatty(STDOUT_FILENO) == 1;
-  const bool colour =
-      terminal && Environment("NO_COLOR").empty() && Environment("TERM") != "dumb";
+  const bool colour = terminal && Environment("NO_COLOR").empty() && Environment("TERM") != "dumb";
   return {colour, !IsUtf8Locale(), terminal ? TerminalWidth() : 0};
 }
 

@@ -27,10 +27,9 @@ QJsonValue FixOf(const Finding& finding) {
   QJsonArray edits;
   for (const Edit& edit : finding.edits)
     edits.append(OfEdit(edit));
-  return QJsonObject{
-      {QStringLiteral("applicability"),
-       finding.isSafe ? QStringLiteral("safe") : QStringLiteral("unsafe")},
-      {QStringLiteral("edits"), edits}};
+  return QJsonObject{{QStringLiteral("applicability"),
+                      finding.isSafe ? QStringLiteral("safe") : QStringLiteral("unsafe")},
+                     {QStringLiteral("edits"), edits}};
 }
 
 void AddPlace(QJsonObject& object, const Finding& finding) {

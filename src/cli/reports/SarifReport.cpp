@@ -123,8 +123,7 @@ std::string Reports::AsSarif(const Check::Answer& answer) {
       {QStringLiteral("columnKind"), QStringLiteral("utf16CodeUnits")},
       {QStringLiteral("results"), results}};
   const QJsonObject report = {
-      {QStringLiteral("$schema"),
-       QStringLiteral("https://json.schemastore.org/sarif-2.1.0.json")},
+      {QStringLiteral("$schema"), QStringLiteral("https://json.schemastore.org/sarif-2.1.0.json")},
       {QStringLiteral("version"), QStringLiteral("2.1.0")},
       {QStringLiteral("runs"), QJsonArray{run}}};
   return QJsonDocument(report).toJson().toStdString();

@@ -53,8 +53,9 @@ std::string Excerpt(const Finding& finding, const Console::Style& style) {
 Text AdviceOf(const Finding& finding) {
   if (finding.edits.empty())
     return finding.advice;
-  return Join(finding.advice, finding.isSafe ? u" (orvalis-world check --fix does it)"
-                                             : u" (orvalis-world check --fix --unsafe-fixes does it)");
+  return Join(finding.advice, finding.isSafe
+                                  ? u" (orvalis-world check --fix does it)"
+                                  : u" (orvalis-world check --fix --unsafe-fixes does it)");
 }
 
 std::string OfFinding(const Finding& finding, const Console::Style& style, bool verbose) {
