@@ -20,6 +20,8 @@ struct InterfaceTexts {
   std::vector<Text> menus;
   /// The first row of the entity list; begins with a blank in every language.
   Text prompt;
+  /// What a screen reader says of that list: the words of its prompt.
+  Text spokenPrompt;
   Text infoToolTip;
   /// What a screen reader says of a highlighted marker.
   Text highlighted;

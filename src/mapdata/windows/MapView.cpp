@@ -116,12 +116,13 @@ void MapView::ConnectControls() {
   btnInfo->installEventFilter(this);
 }
 
-void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted) {
+void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
+                       const Text& spokenPrompt) {
   prompt_ = prompt;
   highlighted_ = highlighted;
   btnInfo->setToolTip(ToQt(infoToolTip));
   btnInfo->setAccessibleName(ToQt(infoToolTip));
-  cboItems->setAccessibleName(ToQt(prompt).remove(u'-').trimmed());
+  cboItems->setAccessibleName(ToQt(spokenPrompt));
 }
 
 int MapView::WindowWidth() const {
@@ -216,6 +217,10 @@ void MapView::ShowHeading(const Text& caption) {
   imgMap->setAccessibleName(ToQt(caption).trimmed());
   PlaceHeading();
   lblMultiInfo->show();
+}
+
+Text MapView::Heading() const {
+  return lblMultiInfo->isHidden() ? Text() : FromQt(lblMultiInfo->text());
 }
 
 void MapView::PlaceHeading() {
