@@ -5,9 +5,7 @@
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/windows/MapView.h"
-#include "platform/windows/QtText.h"
-
-using QtText::ToQt;
+#include "platform/windows/WindowTitle.h"
 
 namespace {
 
@@ -25,7 +23,7 @@ frmMain::frmMain(Context& context)
       map_(new MapView(context.files, context.language, this)),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
-  setWindowTitle(ToQt(StartUp::Caption(context.edition)));
+  WindowTitle::Set(*this, StartUp::Caption(context.edition));
   setMenuBar(menus_);
   setCentralWidget(map_);
   const QSize map = StartSize(*this);
@@ -45,8 +43,9 @@ frmMain::frmMain(Context& context)
 }
 
 void frmMain::ShowTexts(const InterfaceTexts& texts) {
+  toolkitTexts_.Speak(context_.language.CurrentLanguage);
   menus_->SetCaptions(texts.menus);
-  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted);
+  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted, texts.spokenPrompt);
 }
 
 void frmMain::RunCategory(const MenuRow& row) {
