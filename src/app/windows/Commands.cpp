@@ -69,7 +69,8 @@ void Commands::ChooseLanguage() {
 
 void Commands::Print() {
   const Printout printout{[this] { return map_.MapSize(); },
-                          [this](QPainter& painter) { map_.Paint(painter); }};
+                          [this](QPainter& painter) { map_.Paint(painter); },
+                          [this] { return map_.Heading(); }};
   frmPrint(&mainWindow_, context_.language, context_.files, context_.desktop, printout).exec();
 }
 

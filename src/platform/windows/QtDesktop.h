@@ -2,7 +2,9 @@
 
 #include "platform/Desktop.h"
 
+#include <map>
 #include <memory>
+#include <optional>
 
 class QSoundEffect;
 
@@ -21,8 +23,12 @@ class QtDesktop : public Desktop {
   void Beep() override;
   [[nodiscard]] Text UserLanguage() override;
   [[nodiscard]] std::vector<Text> Printers() override;
-  [[nodiscard]] std::string AskFileToWrite(TextView caption, TextView suggestedName) override;
+  [[nodiscard]] std::string AskPdfToWrite(TextView caption, TextView suggestedName) override;
 
  private:
+  [[nodiscard]] static bool AskForViewer(const std::string& mimeType);
+
+  // The answers so far: to ask can take seconds.
+  std::map<std::string, std::optional<bool>> viewers_;
   std::unique_ptr<QSoundEffect> sound_;
 };
