@@ -47,9 +47,8 @@ bool ctlLocation::event(QEvent* event) {
 }
 
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
-  Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event),
-                   static_cast<float>(event->position().x()),
-                   static_cast<float>(event->position().y()));
+  const auto position = EventCodes::PositionOf(*this, *event);
+  Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event), position.x, position.y);
 }
 
 void ctlLocation::mouseDoubleClickEvent(QMouseEvent*) {
