@@ -6,6 +6,7 @@
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
 #include "platform/WaveFile.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -87,16 +88,17 @@ constexpr int BannerFrame = 2;
 constexpr int Gray = 0x808080;
 constexpr int White = 0xFFFFFF;
 
-// The labels that a language file has texts for.
+// The paragraphs that a language file has texts for, shown as they stand.
 struct Translated {
   TextView label;
   TextView key;
 };
 
 constexpr Translated TranslatedLabels[] = {
-    {u"lblDescription", u"description"}, {u"lblEMailLabel", u"email"},
-    {u"lblWebSiteLabel", u"website"},    {u"lblDisclaimer", u"disclaimer"},
-    {u"lblSources", u"sources"},         {u"lblThanksTo", u"thanksto"},
+    {u"lblDescription", u"description"},
+    {u"lblDisclaimer", u"disclaimer"},
+    {u"lblSources", u"sources"},
+    {u"lblThanksTo", u"thanksto"},
 };
 
 void Fill(QWidget& line, int color) {
@@ -160,7 +162,7 @@ void frmAbout::ShowBanner() {
 
 void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
                           const Text& edition) {
-  setWindowTitle(ToQt(Texts::Join(u"Über ", ProgramInfo::Title, u" ", edition)));
+  WindowTitle::Set(*this, Texts::Join(u"Über ", ProgramInfo::Title, u" ", edition));
   Label(u"lblTitle").setText(ToQt(ProgramInfo::Title));
   Label(u"lblVersion")
       .setText(ToQt(Texts::Join(u"Version: ", ProgramInfo::Version, u" ", edition)));
@@ -174,7 +176,9 @@ void frmAbout::ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& l
   const auto text = [&](TextView key) {
     return files.IniRead(language.LanguageFile, u"frmAbout", key, u"");
   };
-  setWindowTitle(ToQt(Texts::Join(text(u"caption"), u" ", ProgramInfo::Title)));
+  WindowTitle::Set(*this, Texts::Join(text(u"caption"), u" ", ProgramInfo::Title));
+  SetCaption(u"lblEMailLabel", text(u"email"));
+  SetCaption(u"lblWebSiteLabel", text(u"website"));
   for (const Translated& translated : TranslatedLabels)
     Label(translated.label).setText(ToQt(text(translated.key)));
 }

@@ -3,12 +3,11 @@
 #include "auxwin/Documents.h"
 #include "auxwin/ExtrasTable.h"
 #include "controls/windows/GridListbox.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
-
-using QtText::ToQt;
 
 namespace {
 
@@ -64,9 +63,9 @@ void frmExtras::applyTexts(IniOps::Snapshot& files) {
   const auto text = [&](TextView key, TextView english, TextView german) {
     return language_.Lookup(files, u"frmExtras", key, english, german);
   };
-  setWindowTitle(ToQt(text(u"caption", u"Extras", u"Extras")));
-  btnSelect->setText(ToQt(text(u"btnSelect", u"Select", u"A&uswählen")));
-  btnAbort->setText(ToQt(text(u"btnCancel", u"Cancel", u"&Abbrechen")));
+  WindowTitle::Set(*this, text(u"caption", u"Extras", u"Extras"));
+  SetCaption(u"btnSelect", text(u"btnSelect", u"Select", u"A&uswählen"));
+  SetCaption(u"btnAbort", text(u"btnCancel", u"Cancel", u"&Abbrechen"));
   for (const Extra& extra : ExtrasTable)
     Add(text(extra.key, extra.english, extra.german), extra.file);
 }

@@ -1,7 +1,10 @@
 #include "auxwin/windows/frmPrint.h"
 
+#include "auxwin/PrintName.h"
+
 #include "controls/windows/WidgetTwips.h"
 #include "platform/ProgramInfo.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -15,14 +18,11 @@
 
 #include <algorithm>
 
-using QtText::FromQt;
 using QtText::ToQt;
 
 namespace {
 
 constexpr TextView PdfEntry = u"PDF";
-constexpr TextView PdfName = u"Orvalis.pdf";
-constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
 constexpr double FadeWidth = 0.1;
 // Pixels of the picture.
@@ -118,14 +118,15 @@ void frmPrint::FillPrinters() {
 
 void frmPrint::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language) {
   const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(language.Lookup(files, u"frmPrint", key, english, german));
+    return language.Lookup(files, u"frmPrint", key, english, german);
   };
-  setWindowTitle(text(u"caption", u"Print", u"Karte Drucken"));
-  lblPrinters->setText(text(u"label", u"Printers", u"Drucker:"));
-  rbQuerformat->setText(text(u"optionlandscape", u"Landscape", u"&Querformat"));
-  rbHochformat->setText(text(u"optionportrait", u"Portrait", u"&Hochformat"));
-  btnPrint->setText(text(u"buttonprint", u"Print", u"&Drucken"));
-  btnCancel->setText(text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
+  caption_ = text(u"caption", u"Print", u"Karte Drucken");
+  WindowTitle::Set(*this, caption_);
+  SetCaption(u"lblPrinters", text(u"label", u"Printers", u"Drucker:"));
+  SetCaption(u"rbQuerformat", text(u"optionlandscape", u"Landscape", u"&Querformat"));
+  SetCaption(u"rbHochformat", text(u"optionportrait", u"Portrait", u"&Hochformat"));
+  SetCaption(u"btnPrint", text(u"buttonprint", u"Print", u"&Drucken"));
+  SetCaption(u"btnCancel", text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
 void frmPrint::btnPrint_Click() {
@@ -142,7 +143,7 @@ bool frmPrint::ChoosePrinter(QPrinter& printer) {
     return printer.outputFormat() == QPrinter::NativeFormat &&
            printer.printerName() == cboPrinters->currentText();
   }
-  const std::string file = desktop_.AskFileToWrite(FromQt(windowTitle()), PdfName);
+  const std::string file = desktop_.AskPdfToWrite(caption_, PrintName::Of(printout_.heading()));
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QFile::decodeName(QByteArray::fromStdString(file)));
   return !file.empty();
@@ -152,7 +153,8 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   const auto screen = WidgetTwips::ScreenOf(*this);
   // Texts and outlines are printed as such, whatever the resolution: with the screen's, points are
   // as many units as on screen, and what was laid out there fits here too.
-  printer.setResolution(Twips2Pixel_Module::Round(TwipsPerInch / screen.twipsPerPixelX));
+  printer.setResolution(
+      Twips2Pixel_Module::Round(Twips2Pixel_Module::TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
   // Queues that say nothing about colour would get a grey map.

@@ -15,11 +15,13 @@ class QPrinter;
 class QPushButton;
 class QRadioButton;
 
-/// What is printed, asked when Print is pressed: its size on screen in twips, and the function that
-/// paints it in pixels of the screen, on a painter whose origin is the left upper corner.
+/// What is printed, asked when Print is pressed: its size on screen in twips, the function that
+/// paints it in pixels of the screen, on a painter whose origin is the left upper corner, and its
+/// heading, which may be empty.
 struct Printout {
   std::function<Twips2Pixel_Module::Twips()> size;
   std::function<void(QPainter&)> paint;
+  std::function<Text()> heading;
 };
 
 /// The print window: a printer, an orientation, and one page in the size that the map has on
@@ -42,6 +44,7 @@ class frmPrint : public Dialog {
 
   Desktop& desktop_;
   Printout printout_;
+  Text caption_;
   bool toFile_ = false;
 
   QLabel* imgBanner;

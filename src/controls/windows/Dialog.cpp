@@ -1,11 +1,15 @@
 #include "controls/windows/Dialog.h"
 
+#include "controls/AccessKey.h"
+#include "controls/windows/DialogLayout.h"
 #include "controls/windows/MakeControl.h"
-#include "controls/windows/TextFit.h"
 #include "controls/windows/WidgetTwips.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QEvent>
+#include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 
 using WidgetTwips::ToPixelsX;
@@ -19,10 +23,6 @@ QRect ToPixels(const QWidget& widget, const TwipsRect& twips) {
           ToPixelsX(screen, twips.width), ToPixelsY(screen, twips.height)};
 }
 
-QString WithoutAccessKey(QString caption) {
-  return caption.remove(u'&');
-}
-
 }  // namespace
 
 Dialog::Dialog(QWidget* parent, const DialogDesign& design)
@@ -31,7 +31,7 @@ Dialog::Dialog(QWidget* parent, const DialogDesign& design)
       design_(design) {
   setModal(true);
   setObjectName(QtText::ToQt(design.name));
-  setWindowTitle(QtText::ToQt(design.caption));
+  WindowTitle::Set(*this, design.caption);
   setFixedSize(ToPixels(*this, {0, 0, design.width, design.height}).size());
   CreateControls();
   SetUpButtons();
@@ -88,24 +88,49 @@ void Dialog::showEvent(QShowEvent* event) {
 }
 
 void Dialog::FitTexts() {
-  for (const Placed& placed : controls_)
-    placed.control->setGeometry(placed.place);
+  std::vector<DialogLayout::Designed> designed;
   for (const Placed& placed : controls_) {
     QFont font = placed.control->font();
     font.setPointSizeF(placed.design->points);
-    const TextFit::Place fit = TextFit::Fit(*placed.control, placed.place, font);
-    placed.control->setGeometry(fit.rectangle);
+    designed.push_back({placed.control, placed.place, font});
+  }
+  const auto places = DialogLayout::Arrange(designed);
+  for (size_t i = 0; i < places.size(); ++i) {
+    QWidget& control = *controls_[i].control;
+    control.setGeometry(places[i].rectangle);
     // Setting a font asks for the next fitting, which must come to an end.
-    if (placed.control->font().pointSizeF() != fit.font.pointSizeF())
-      placed.control->setFont(fit.font);
+    if (control.font().pointSizeF() != places[i].font.pointSizeF())
+      control.setFont(places[i].font);
   }
   NameControls();
 }
 
+void Dialog::SetCaption(TextView name, TextView caption) {
+  auto* control = Control<QWidget>(name);
+  if (auto* label = qobject_cast<QLabel*>(control)) {
+    label->setBuddy(NamedBy(name));
+    label->setText(QtText::ToQt(label->buddy() ? Text(caption) : AccessKey::Without(caption)));
+  } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+    button->setText(QtText::ToQt(caption));
+  } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
+    frame->setTitle(QtText::ToQt(caption));
+  }
+}
+
+QWidget* Dialog::NamedBy(TextView label) const {
+  for (const Placed& placed : controls_)
+    if (placed.design->namedBy == label)
+      return placed.control;
+  return nullptr;
+}
+
 void Dialog::NameControls() {
   for (const Placed& placed : controls_) {
-    if (!placed.design->namedBy.empty())
-      placed.control->setAccessibleName(
-          WithoutAccessKey(TextFit::TextOf(*Control<QWidget>(placed.design->namedBy))).trimmed());
+    if (placed.design->namedBy.empty())
+      continue;
+    const auto* label = Control<QLabel>(placed.design->namedBy);
+    const Text text = QtText::FromQt(label->text());
+    placed.control->setAccessibleName(
+        QtText::ToQt(Texts::Trim(label->buddy() ? AccessKey::Without(text) : text)));
   }
 }

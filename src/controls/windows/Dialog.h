@@ -9,9 +9,7 @@
 
 /// The base of all dialogs: modal, with a client area fixed in twips, made from a design table.
 ///
-/// Texts may be set at any time. A control whose text doesn't fit its designed rectangle grows to
-/// the right, then down, over free space only, and at last takes smaller type; its left and top
-/// edges and every rectangle whose text fits stay as designed.
+/// Texts may be set at any time; what doesn't fit as it was designed is arranged anew.
 class Dialog : public QDialog {
   Q_OBJECT
 
@@ -29,6 +27,10 @@ class Dialog : public QDialog {
     return findChild<Type*>(QtText::ToQt(name));
   }
 
+  /// Sets the caption of a label, button or frame of the design. "&" stands before the letter of
+  /// the access key; a label that names no control has none.
+  void SetCaption(TextView name, TextView caption);
+
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -45,6 +47,7 @@ class Dialog : public QDialog {
   void SetUpButtons();
   void FitTexts();
   void NameControls();
+  [[nodiscard]] QWidget* NamedBy(TextView label) const;
 
   const DialogDesign& design_;
   std::vector<Placed> controls_;

@@ -1,18 +1,15 @@
 #include "i18n/windows/frmLang.h"
 
 #include "auxwin/windows/Hyperlink.h"
-#include "controls/windows/GridListbox.h"
 #include "platform/windows/PictureReader.h"
+#include "platform/windows/WindowTitle.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
 using QtText::ToQt;
 
 namespace {
-
-constexpr int FlagSize = 16;
 
 constexpr ControlDesign Bold(TextView name, TwipsRect place, TextView text) {
   return {.name = name,
@@ -78,11 +75,7 @@ constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
 
 // Null if the file can't be read.
 QPixmap ReadFlag(TextView file) {
-  const QImage flag = PictureReader::Read(file);
-  if (flag.isNull())
-    return {};
-  return QPixmap::fromImage(
-      flag.scaled(FlagSize, FlagSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  return QPixmap::fromImage(PictureReader::Read(file));
 }
 
 }  // namespace
@@ -95,20 +88,15 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
       files_(files),
       menus_(menus),
       glbLang(Control<GridListbox>(u"glbLang")),
-      fraMetaData(Control<QGroupBox>(u"fraMetaData")),
       imgCurrentLang(Control<QLabel>(u"imgCurrentLang")),
       lblCurrentLang(Control<QLabel>(u"lblCurrentLang")),
       lblVersion(Control<QLabel>(u"lblVersion")),
-      lblAuthorCaption(Control<QLabel>(u"lblAuthorCaption")),
       lblAuthor(Control<QLabel>(u"lblAuthor")),
-      lblEMailLabel(Control<QLabel>(u"lblEMailLabel")),
       lblEMail(Control<QLabel>(u"lblEMail")),
-      lblWebSiteLabel(Control<QLabel>(u"lblWebSiteLabel")),
       lblWebSite(Control<QLabel>(u"lblWebSite")),
       imgLangGerman(Control<QLabel>(u"imgLangGerman")),
       imgNoFlag(Control<QLabel>(u"imgNoFlag")),
-      btnSelect(Control<QPushButton>(u"btnSelect")),
-      btnAbort(Control<QPushButton>(u"btnAbort")) {
+      btnSelect(Control<QPushButton>(u"btnSelect")) {
   Hyperlink::CreateAddressLink(*lblEMail, launching, u"mailto:");
   Hyperlink::CreateAddressLink(*lblWebSite, launching, u"http://");
   imgLangGerman->hide();
@@ -120,14 +108,17 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   const bool german = language_.IsGerman();
   ShowDetails(
       LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile));
-  imgCurrentLang->setPixmap(
-      german
-          ? imgLangGerman->pixmap()
-          : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder, u".bmp")));
+  ShowFlag(german ? imgLangGerman->pixmap()
+                  : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder,
+                                               u".bmp")));
   applyTexts(snapshot);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
   connect(glbLang, &GridListbox::DblClick, this, &frmLang::btnSelect_Click);
   connect(btnSelect, &QPushButton::clicked, this, &frmLang::btnSelect_Click);
+}
+
+void frmLang::ShowFlag(const QPixmap& flag) {
+  imgCurrentLang->setPixmap(GridListbox::Sized(flag, devicePixelRatio()));
 }
 
 void frmLang::FillList(IniOps::Snapshot& snapshot) {
@@ -159,24 +150,21 @@ void frmLang::applyTexts(IniOps::Snapshot& snapshot) {
   const auto text = [&](TextView key, TextView english, TextView german) {
     return language_.Lookup(snapshot, u"frmLang", key, english, german);
   };
-  setWindowTitle(ToQt(text(u"caption", u"Choose language", u"Sprache auswählen")));
+  WindowTitle::Set(*this, text(u"caption", u"Choose language", u"Sprache auswählen"));
   glbLang->SetCaption(text(u"availablelangs", u"Available languages", u"Vorhandene Sprachen"));
-  fraMetaData->setTitle(ToQt(text(u"currentlang", u"Current language", u"Aktuelle Sprache")));
-  lblAuthorCaption->setText(ToQt(text(u"author", u"Author", u"Autor:")));
-  lblEMailLabel->setText(ToQt(text(u"email", u"eMail", u"eMail:")));
-  lblWebSiteLabel->setText(ToQt(text(u"website", u"Website", u"WebSite:")));
-  btnSelect->setText(ToQt(text(u"buttonselect", u"Select", u"A&uswählen")));
-  btnAbort->setText(ToQt(text(u"buttoncancel", u"Cancel", u"&Abbrechen")));
+  SetCaption(u"fraMetaData", text(u"currentlang", u"Current language", u"Aktuelle Sprache"));
+  SetCaption(u"lblAuthorCaption", text(u"author", u"Author", u"Autor:"));
+  SetCaption(u"lblEMailLabel", text(u"email", u"eMail", u"eMail:"));
+  SetCaption(u"lblWebSiteLabel", text(u"website", u"Website", u"WebSite:"));
+  SetCaption(u"btnSelect", text(u"buttonselect", u"Select", u"A&uswählen"));
+  SetCaption(u"btnAbort", text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
-void frmLang::glbLang_RowClick(int Item) {
-  const auto row = glbLang->Rows(Item);
-  if (!row)
-    return;
+void frmLang::glbLang_RowClick(const GridListbox::Row& Item) {
   IniOps::Snapshot snapshot(files_);
-  ShowDetails(LanguageList::ReadDetails(snapshot, row->Tag));
-  imgCurrentLang->setPixmap(row->Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
-                                                       : Flag(LanguageList::FlagOf(row->Tag)));
+  ShowDetails(LanguageList::ReadDetails(snapshot, Item.Tag));
+  ShowFlag(Item.Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
+                                      : Flag(LanguageList::FlagOf(Item.Tag)));
 }
 
 void frmLang::btnSelect_Click() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/windows/Dialog.h"
+#include "controls/windows/GridListbox.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
@@ -9,9 +10,7 @@
 
 #include <span>
 
-class GridListbox;
 class Launching;
-class QGroupBox;
 class QLabel;
 class QPixmap;
 class QPushButton;
@@ -32,10 +31,11 @@ class frmLang : public Dialog {
   void LanguageChanged(const InterfaceTexts& texts);
 
  private:
-  void glbLang_RowClick(int Item);
+  void glbLang_RowClick(const GridListbox::Row& Item);
   void btnSelect_Click();
   void FillList(IniOps::Snapshot& snapshot);
   void ShowDetails(const LanguageList::Details& details);
+  void ShowFlag(const QPixmap& flag);
   [[nodiscard]] QPixmap Flag(TextView file) const;
   void applyTexts(IniOps::Snapshot& snapshot);
 
@@ -44,18 +44,13 @@ class frmLang : public Dialog {
   IniOps::Cache& files_;
   std::span<const MenuCaption> menus_;
   GridListbox* glbLang;
-  QGroupBox* fraMetaData;
   QLabel* imgCurrentLang;
   QLabel* lblCurrentLang;
   QLabel* lblVersion;
-  QLabel* lblAuthorCaption;
   QLabel* lblAuthor;
-  QLabel* lblEMailLabel;
   QLabel* lblEMail;
-  QLabel* lblWebSiteLabel;
   QLabel* lblWebSite;
   QLabel* imgLangGerman;
   QLabel* imgNoFlag;
   QPushButton* btnSelect;
-  QPushButton* btnAbort;
 };

@@ -2,6 +2,7 @@
 
 #include "mapdata/world/InfoFile.h"
 #include "platform/windows/PictureReader.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -74,9 +75,9 @@ frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
 
 void frmInfo::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
                          const Text& name) {
-  setWindowTitle(ToQt(name));
-  btnClose->setText(
-      ToQt(language.Lookup(files, u"frmInfo", u"buttonclose", u"Close", u"&Schließen")));
+  WindowTitle::Set(*this, name);
+  SetCaption(u"btnClose",
+             language.Lookup(files, u"frmInfo", u"buttonclose", u"Close", u"&Schließen"));
 }
 
 void frmInfo::ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key) {

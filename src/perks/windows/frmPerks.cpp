@@ -1,5 +1,7 @@
 #include "perks/windows/frmPerks.h"
 
+#include "platform/windows/WindowTitle.h"
+
 #include <QFile>
 #include <QHeaderView>
 #include <QIcon>
@@ -72,10 +74,11 @@ frmPerks::frmPerks(QWidget* parent, const Text& perksData, LOCAL::Language& lang
 }
 
 void frmPerks::applyTexts(const PerkTree::Region& region, const PerkTree::Lookup& lookup) {
-  setWindowTitle(ToQt(PerkTree::WindowCaption(region, lookup)));
-  tvPerks->setAccessibleName(windowTitle());
-  btnShow->setText(ToQt(lookup(u"ButtonShow", u"Show", u"An&zeigen")));
-  btnAbort->setText(ToQt(lookup(u"ButtonCancel", u"Abort", u"&Abbrechen")));
+  const Text caption = PerkTree::WindowCaption(region, lookup);
+  WindowTitle::Set(*this, caption);
+  tvPerks->setAccessibleName(ToQt(caption));
+  SetCaption(u"btnShow", lookup(u"ButtonShow", u"Show", u"An&zeigen"));
+  SetCaption(u"btnAbort", lookup(u"ButtonCancel", u"Abort", u"&Abbrechen"));
 }
 
 void frmPerks::Fill(const std::vector<PerkTree::Node>& nodes) {

@@ -4,6 +4,7 @@
 #include "platform/PosixFile.h"
 #include "platform/TamePage.h"
 #include "platform/windows/QtText.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QTextBrowser>
 #include <QUrl>
@@ -52,10 +53,10 @@ PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(paren
   browser->setHtml(
       QtText::ToQt(TamePage::Of(NativePath::EntryName(page ? page->bytes : std::string()))));
   const QString title = browser->documentTitle();
-  setWindowTitle(title.isEmpty()
-                     ? QtText::ToQt(NativePath::EntryName(path.substr(FolderOf(path).size())))
-                     : title);
-  browser->setAccessibleName(windowTitle());
+  const Text name = NativePath::EntryName(path.substr(FolderOf(path).size()));
+  const Text shown = title.isEmpty() ? name : QtText::FromQt(title);
+  WindowTitle::Set(*this, shown);
+  browser->setAccessibleName(QtText::ToQt(shown));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(browser);

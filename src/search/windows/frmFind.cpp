@@ -1,5 +1,7 @@
 #include "search/windows/frmFind.h"
 
+#include "platform/windows/WindowTitle.h"
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,16 +91,16 @@ void frmFind::LoadState() {
 
 void frmFind::applyTexts(IniOps::Snapshot& files) {
   const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(language_.Lookup(files, Section, key, english, german));
+    return language_.Lookup(files, Section, key, english, german);
   };
-  setWindowTitle(text(u"caption", u"Find", WindowDesign.caption));
-  lblFind->setText(text(u"searchfor", u"Search for:", u"Suchen nach:"));
-  fraOptions->setTitle(text(u"options", u"Options", u"Optionen"));
-  rbNamesOnly->setText(text(u"searchinnames", u"Search in names", u"Suche in den &Namen"));
-  rbDescsOnly->setText(
-      text(u"searchindescriptions", u"Search in descriptions", u"Suche in den &Beschreibungen"));
-  btnFind->setText(text(u"buttonfind", u"Find", u"&Suchen"));
-  btnAbort->setText(text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
+  WindowTitle::Set(*this, text(u"caption", u"Find", WindowDesign.caption));
+  SetCaption(u"lblFind", text(u"searchfor", u"Search for:", u"Suchen nach:"));
+  SetCaption(u"fraOptions", text(u"options", u"Options", u"Optionen"));
+  SetCaption(u"rbNamesOnly", text(u"searchinnames", u"Search in names", u"Suche in den &Namen"));
+  SetCaption(u"rbDescsOnly", text(u"searchindescriptions", u"Search in descriptions",
+                                  u"Suche in den &Beschreibungen"));
+  SetCaption(u"btnFind", text(u"buttonfind", u"Find", u"&Suchen"));
+  SetCaption(u"btnAbort", text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
 void frmFind::txtFind_Change() {

@@ -26,7 +26,8 @@ class Print : public WindowFixture {
                                                [this, size](QPainter& painter) {
                                                  ++painted;
                                                  PaintMap(painter, size);
-                                               }});
+                                               },
+                                               [] { return Text(u" Arvenna: Lehrer "); }});
   }
 
   // Blue all over, a red square in each corner.
@@ -154,7 +155,7 @@ TEST_F(Print, NothingIsPrintedWithoutFileOrPrinter) {
   window->show();
   Press(*window, "btnPrint");
   EXPECT_FALSE(window->isVisible());
-  ExpectCalls({"ask"});
+  ExpectCalls({"ask Arvenna - Lehrer.pdf"});
   desktop.fileToWrite = folder.Native("no/such/folder/map.pdf");
   Press(*Open(), "btnPrint");
   desktop.printers = {u"Gone since"};
