@@ -28,7 +28,7 @@ ProgramPaths ComposePaths(IniOps::Snapshot& files, const Text& programFolder) {
   ProgramPaths paths;
   const Text base = Join(programFolder, Separator);
   const auto folder = [&](const Settings::Entry& entry) {
-    return Join(base, Settings::Read(files, paths.settings, entry), Separator);
+    return Join(base, Settings::Read(files.File(paths.settings), entry), Separator);
   };
   paths.programFolder = base;
   paths.settings = Join(base, u"orvalis.ini");
@@ -43,14 +43,14 @@ ProgramPaths ComposePaths(IniOps::Snapshot& files, const Text& programFolder) {
 
 Edition ReadEdition(IniOps::Snapshot& files, const ProgramPaths& paths) {
   Edition edition;
-  edition.withoutExtras = Settings::IsYes(files, paths.settings, Settings::NoExtras);
-  edition.withoutLanguages = Settings::IsYes(files, paths.settings, Settings::NoLang);
+  edition.withoutExtras = Settings::IsYes(files.File(paths.settings), Settings::NoExtras);
+  edition.withoutLanguages = Settings::IsYes(files.File(paths.settings), Settings::NoLang);
   if (edition.withoutExtras)
     edition.text = u"Lite";
   if (edition.withoutLanguages)
     edition.text =
         Join(edition.text, u" ",
-             Texts::Trim(Settings::Read(files, paths.settings, Settings::LocalizedString)));
+             Texts::Trim(Settings::Read(files.File(paths.settings), Settings::LocalizedString)));
   return edition;
 }
 
@@ -59,7 +59,7 @@ Text Caption(const Edition& edition) {
 }
 
 Text ChosenLanguage(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  const Text setting = Settings::Read(files, paths.settings, Settings::Language);
+  const Text setting = Settings::Read(files.File(paths.settings), Settings::Language);
   const TextView chosen = Texts::Trim(setting);
   return Text(chosen.empty() ? LOCAL::German : chosen);
 }

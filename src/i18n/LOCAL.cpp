@@ -12,7 +12,7 @@ constexpr std::string_view EntitiesHeader = "entities";
 
 // No name that a person wrote is near it. Words whose translations hold other words could
 // otherwise fill the memory.
-constexpr size_t LongestName = 4 * IniOps::LongestValue;
+constexpr size_t LongestName = 4 * ProfileFile::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
   if (by.size() <= part.size())
@@ -86,7 +86,7 @@ void Language::CacheTranslationTable(IniOps::Snapshot& files) {
   file_ = nullptr;
 }
 
-void Language::Refresh(IniOps::Snapshot& files) {
+void Language::Refresh(IniOps::Snapshot& files) const {
   const auto& now = files.Shared(LanguageFile);
   if (file_ == now)
     return;
@@ -99,14 +99,14 @@ void Language::Refresh(IniOps::Snapshot& files) {
   values_.assign(EntityKeys_.size(), std::nullopt);
 }
 
-const Text& Language::ValueOf(size_t key) {
+const Text& Language::ValueOf(size_t key) const {
   auto& value = values_[key];
   if (!value)
     value = IniOps::IniRead(*file_, Entities, EntityKeys_[key], u"");
   return *value;
 }
 
-Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
+Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) const {
   Refresh(files);
   Text replaced;
   TextView shown = Trim(name);
@@ -116,7 +116,7 @@ Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
   return key ? ReplacedKey(shown, EntityKeys_[*key], ValueOf(*key)) : Text(shown);
 }
 
-void Language::IndexTranslations() {
+void Language::IndexTranslations() const {
   std::vector<Text> translations;
   translations.reserve(EntityKeys_.size());
   for (size_t key = 0; key < EntityKeys_.size(); ++key) {
@@ -128,7 +128,7 @@ void Language::IndexTranslations() {
   tableFile_ = nullptr;
 }
 
-Text Language::UnlocalizeEntityName(TextView text) {
+Text Language::UnlocalizeEntityName(TextView text) const {
   if (tableFile_)
     IndexTranslations();
   Text replaced;
@@ -140,15 +140,15 @@ Text Language::UnlocalizeEntityName(TextView text) {
                 : Text(name);
 }
 
-Text Language::Shown(IniOps::Snapshot& files, TextView key) {
+Text Language::Shown(IniOps::Snapshot& files, TextView key) const {
   return IsGerman() ? Text(key) : LocalizeEntityName(files, key);
 }
 
-Text Language::Key(TextView shown) {
+Text Language::Key(TextView shown) const {
   return IsGerman() ? Text(shown) : UnlocalizeEntityName(shown);
 }
 
-Text Language::InfoFile() {
+Text Language::InfoPath() const {
   if (IsGerman())
     return programInfoFile_;
   Text own = Texts::Join(LanguageRoot, CurrentLanguage, FileSystem::Separator, u"info.data");

@@ -64,14 +64,14 @@ class Language : public EntityNames {
   void CacheTranslationTable(IniOps::Snapshot& files);
 
   /// The name shown for an entity key in a language that is not German.
-  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name);
+  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name) const;
 
   /// The entity key behind a name that `LocalizeEntityName` gave.
-  [[nodiscard]] Text UnlocalizeEntityName(TextView text);
+  [[nodiscard]] Text UnlocalizeEntityName(TextView text) const;
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) override;
-  [[nodiscard]] Text Key(TextView shown) override;
-  [[nodiscard]] Text InfoFile() override;
+  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) const override;
+  [[nodiscard]] Text Key(TextView shown) const override;
+  [[nodiscard]] Text InfoPath() const override;
 
  private:
   struct RegionWord {
@@ -80,25 +80,25 @@ class Language : public EntityNames {
     Text translation;
   };
 
-  void Refresh(IniOps::Snapshot& files);
-  const Text& ValueOf(size_t key);
-  void IndexTranslations();
+  void Refresh(IniOps::Snapshot& files) const;
+  const Text& ValueOf(size_t key) const;
+  void IndexTranslations() const;
 
   Text programInfoFile_;
   PrefixIndex EntityKeys_;
-  std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
-                                             {u"Skaldor", {}},
-                                             {u"Sarrakh", {}},
-                                             {u"Ostrakh", {}},
-                                             {u"Tempel von", {}}}};
+  mutable std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
+                                                     {u"Skaldor", {}},
+                                                     {u"Sarrakh", {}},
+                                                     {u"Ostrakh", {}},
+                                                     {u"Tempel von", {}}}};
   // The language file as names were last translated from it: its region words are in use, and
   // the values of keys that were met since.
-  std::shared_ptr<const ProfileFile> file_;
-  std::vector<std::optional<Text>> values_;
+  mutable std::shared_ptr<const ProfileFile> file_;
+  mutable std::vector<std::optional<Text>> values_;
   // The language file as the table was built from it, until the translations are wanted: most
   // events only translate one way.
-  std::shared_ptr<const ProfileFile> tableFile_;
-  PrefixIndex EntityTranslations_;
+  mutable std::shared_ptr<const ProfileFile> tableFile_;
+  mutable PrefixIndex EntityTranslations_;
 };
 
 }  // namespace LOCAL

@@ -52,7 +52,7 @@ class EntityCache {
   /// Appends the entities of one region that the search may find. Stops at the first invalid link
   /// and gives it back.
   [[nodiscard]] std::optional<InvalidLink> CacheEntities(IniOps::Snapshot& files,
-                                                         LOCAL::Language& language,
+                                                         const LOCAL::Language& language,
                                                          const ProgramPaths::Region& region);
 
   /// The record of this index, which must be below `Size`.
@@ -84,7 +84,7 @@ class EntityCache {
     }
   };
 
-  std::optional<InvalidLink> CacheSection(IniOps::Snapshot& files, LOCAL::Language& language,
+  std::optional<InvalidLink> CacheSection(IniOps::Snapshot& files, const LOCAL::Language& language,
                                           const ProfileFile& info, const ProfileFile& data,
                                           std::string_view section);
   [[nodiscard]] std::vector<Section>::const_iterator SectionOf(size_t index) const;

@@ -31,7 +31,7 @@ std::optional<size_t> FindName(const Search::State& state, size_t from) {
 }
 
 std::optional<size_t> FindTranslatedName(const Search::State& state, IniOps::Snapshot& files,
-                                         Language& language) {
+                                         const Language& language) {
   return state.Cache.Find(0, [&](TextView name, const auto&) {
     return language.LocalizeEntityName(files, name).starts_with(state.SearchTerm);
   });
@@ -47,8 +47,10 @@ std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
   });
 }
 
-std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, Language& language,
-                                const ProgramPaths& paths) {
+std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files,
+                                const Language& language, const ProgramPaths& paths) {
+  // A filling that found no record, or an invalid link, may have left regions and sections.
+  cache = EntityCache();
   for (const ProgramPaths::Region& region : paths.regions)
     if (auto invalid = cache.CacheEntities(files, language, region))
       return invalid;
@@ -59,7 +61,7 @@ std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, Lan
 
 namespace Search {
 
-Outcome FindFirst(State& state, IniOps::Snapshot& files, Language& language,
+Outcome FindFirst(State& state, IniOps::Snapshot& files, const Language& language,
                   const ProgramPaths& paths, TextView term) {
   state.SearchTerm = term;
   if (state.Cache.Size() == 0)

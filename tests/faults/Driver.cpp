@@ -1,7 +1,10 @@
 // Linked to the program's own main(): uses its windows at random, as fast as it can, and ends it
 // after ORVALIS_DRIVER_STEPS steps, chosen by ORVALIS_DRIVER_SEED. Writes the memory in use every
-// hundred steps, and exits with 3 where a step takes more than 2 seconds of processor time, or more
+// hundred steps. Exits with 3 where a step takes more than 2 seconds of processor time, or more
 // than 10 by the clock: a program that waits uses none, and one on a loaded machine waits for it.
+// Exits with 4 where the map does not show what it has to.
+
+#include "MapTruth.h"
 
 #include "app/MenuTable.h"
 #include "platform/windows/QtText.h"
@@ -15,9 +18,13 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <array>
 #include <atomic>
@@ -36,6 +43,8 @@ namespace {
 constexpr double MostSeconds = 2;
 constexpr unsigned MostSecondsByClock = 10;
 constexpr int HangCode = 3;
+constexpr int UntrueCode = 4;
+constexpr int MostMenuKeys = 60;
 constexpr int StepsInDialog = 6;
 
 constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSize(1024, 800),
@@ -44,6 +53,9 @@ constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSi
 constexpr std::array<Qt::Key, 12> Keys = {
     Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Up,  Qt::Key_Right, Qt::Key_Left,
     Qt::Key_Return, Qt::Key_Space,   Qt::Key_Home, Qt::Key_End, Qt::Key_F1,    Qt::Key_A};
+// What a program without a focus must not answer.
+constexpr std::array<Qt::Key, 4> IdleKeys = {Qt::Key_Down, Qt::Key_Space, Qt::Key_A,
+                                             Qt::Key_Return};
 constexpr std::array<const char*, 6> Terms = {"a", "Lehrer", "", "\xC3\xA4", "*;#,", "tempel von"};
 
 // What is being tried, for the signal's handler too.
@@ -100,12 +112,41 @@ class Driver : public QObject {
     last_ = now;
     if (++done_ % 100 == 0)
       PrintMemory();
+    auto* window = MainWindow();
+    if (window && !truth_)
+      truth_ = new MapTruth(*window);
     if (auto* popup = QApplication::activePopupWidget())
       popup->close();
     else if (auto* dialog = QApplication::activeModalWidget())
       InDialog(*dialog);
-    else if (auto* window = MainWindow())
+    // A dialog that is closing has not yet done what it was opened for.
+    else if (window && !busy_) {
+      busy_ = true;
+      CheckTruth(*window);
       InWindow(*window);
+      busy_ = false;
+    }
+  }
+
+  void CheckTruth(QMainWindow& window) {
+    const QWidget* focused = window.focusWidget();
+    if (!focused || !focused->isVisible())
+      PressAt(window, Any(IdleKeys));
+    const std::string fault = truth_->Fault();
+    if (fault.empty())
+      return;
+    std::printf("untrue: %s after step %d, %s\n", fault.c_str(), done_, what.load());
+    static_cast<void>(std::fflush(stdout));
+    std::_Exit(UntrueCode);
+  }
+
+  // As the desktop sends it: to a popup, else to what has the focus, seen or not, else the window.
+  static void PressAt(const QWidget& window, Qt::Key key) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      const QString text = key == Qt::Key_A ? QStringLiteral("a") : QString();
+      QKeyEvent event(type, key, Qt::NoModifier, text);
+      QApplication::sendEvent(window.windowHandle(), &event);
+    }
   }
 
   static QMainWindow* MainWindow() {
@@ -164,8 +205,51 @@ class Driver : public QObject {
     command_ = QtText::ToQt(row.name).toLatin1();
     what = command_.constData();
     auto* action = window.findChild<QAction*>(QtText::ToQt(row.name));
-    if (action && action->isEnabled() && action->isVisible())
+    if (!action || !action->isEnabled() || !action->isVisible())
+      return;
+    if (random_() % 2 == 0 || !ChooseByKeys(window, *action))
       action->trigger();
+  }
+
+  // Opens the menus with the keyboard, down to the one that holds the action, and presses Enter on
+  // it; false, and all menus closed, if the keys lead nowhere.
+  static bool ChooseByKeys(QMainWindow& window, QAction& action) {
+    QMenuBar& bar = *window.menuBar();
+    std::vector<QAction*> way = {&action};
+    while (!bar.actions().contains(way.front())) {
+      auto* const menu = qobject_cast<QMenu*>(way.front()->associatedObjects().value(0));
+      if (!menu)
+        return false;
+      way.insert(way.begin(), menu->menuAction());
+    }
+    const QString first = bar.actions().constFirst()->text();
+    const QString key = first.section(u'&', 1).left(1).toUpper();
+    if (key.isEmpty())
+      return false;
+    QWidget* const focused = window.focusWidget();
+    QTest::keyClick(focused ? focused : &window, static_cast<Qt::Key>(key.at(0).unicode()),
+                    Qt::AltModifier);
+    const bool there = Walk(window, bar, way);
+    if (there)
+      PressAt(window, Qt::Key_Return);
+    while (!there && QApplication::activePopupWidget())
+      QApplication::activePopupWidget()->close();
+    return there;
+  }
+
+  static bool Walk(const QWidget& window, const QMenuBar& bar, const std::vector<QAction*>& way) {
+    for (int i = 0; i < MostMenuKeys && bar.activeAction() != way.front(); ++i)
+      PressAt(window, Qt::Key_Right);
+    for (size_t level = 1; level < way.size(); ++level) {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      for (int i = 0; menu && i < MostMenuKeys && menu->activeAction() != way[level]; ++i)
+        PressAt(window, Qt::Key_Down);
+      if (!menu || menu->activeAction() != way[level])
+        return false;
+      if (level + 1 < way.size())
+        PressAt(window, Qt::Key_Right);
+    }
+    return bar.activeAction() == way.front();
   }
 
   void Pick(QComboBox& items) {
@@ -198,8 +282,11 @@ class Driver : public QObject {
   }
 
   void InDialog(QWidget& dialog) {
-    if (dialog_ != &dialog)
+    if (dialog_ != &dialog) {
       stepsHere_ = 0;
+      if (truth_)
+        truth_->Watch(dialog);
+    }
     dialog_ = &dialog;
     if (++stepsHere_ > StepsInDialog || qobject_cast<QFileDialog*>(&dialog)) {
       what = "leaving a dialog";
@@ -238,7 +325,9 @@ class Driver : public QObject {
   int stepsHere_ = 0;
   double last_ = 0;
   QByteArray command_;
-  QWidget* dialog_ = nullptr;
+  QPointer<QWidget> dialog_;
+  MapTruth* truth_ = nullptr;
+  bool busy_ = false;
 };
 
 void Drive() {

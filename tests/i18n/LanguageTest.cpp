@@ -70,9 +70,9 @@ TEST(Language, DescriptionsStandUnderTheDeclaredName) {
   const TemporaryFolder folder;
   folder.Write("LANG/en/en.lng", "[general]\r\nlanguage=English\r\n");
   folder.Write("LANG/en/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoFile(), folder.Path(u"LANG/info.data"));
+  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/info.data"));
   folder.Write("LANG/English/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoFile(), folder.Path(u"LANG/English/info.data"));
+  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/English/info.data"));
 }
 
 TEST(Language, IsOfferedWhereGermanMeetsAnotherSystem) {

@@ -5,7 +5,6 @@
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
-#include "platform/WaveFile.h"
 #include "platform/windows/WindowTitle.h"
 
 #include <QIcon>
@@ -135,13 +134,11 @@ void frmAbout::done(int result) {
 }
 
 void frmAbout::StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  playMusic_ = Settings::IsYes(files, paths.settings, Settings::PlayMusic);
+  playMusic_ = Settings::IsYes(files.File(paths.settings), Settings::PlayMusic);
   if (!playMusic_)
     return;
   const auto music = FileSystem::Resolve(Texts::Join(paths.programFolder, u"orvalis.wav"));
-  if (music && WaveFile::IsPlayable(*music))
-    desktop_.LoopSound(*music);
-  else
+  if (!music || !desktop_.LoopSound(*music))
     desktop_.Beep();
 }
 

@@ -40,11 +40,14 @@ size_t Target(const std::vector<ctlLocation*>& markers, size_t from, int key) {
     return std::min(from + 1, last);
   if (key == Qt::Key_PageUp)
     return from == 0 ? 0 : from - 1;
+  const auto direction = DirectionOf(key);
+  if (!direction)
+    return from;
   std::vector<MarkerWalk::Point> points;
   points.reserve(markers.size());
   for (const ctlLocation* marker : markers)
     points.push_back({marker->x(), marker->y()});
-  return MarkerWalk::Next(points, from, *DirectionOf(key)).value_or(from);
+  return MarkerWalk::Next(points, from, *direction).value_or(from);
 }
 
 }  // namespace

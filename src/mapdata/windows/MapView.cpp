@@ -66,7 +66,7 @@ QStringList Sorted(const std::vector<Text>& names) {
 
 }  // namespace
 
-MapView::MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent)
+MapView::MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent)
     : QWidget(parent), files_(files), names_(names) {
   MapAccess::Install();
   CreateControls();
@@ -86,12 +86,12 @@ void MapView::CreateControls() {
   lblCaption = Named(new NameLabel(this, CaptionPoints, ctlLocation::DarkRed, ctlLocation::Gold),
                      QLatin1StringView("lblCaption"));
   ITEM = Named(new ctlLocation(this), QLatin1StringView("ITEM"));
-  slots_ = new MarkerSlots(this, ITEM);
+  lblMultiInfo = Named(new NameLabel(this, HeadingPoints, ctlLocation::Gold, ctlLocation::DarkRed),
+                       QLatin1StringView("lblMultiInfo"));
+  slots_ = new MarkerSlots(this, ITEM, lblMultiInfo);
   focus_->Add(ITEM, lblCaption);
   for (int slot = 0; slot < MarkerSlots::Count; ++slot)
     focus_->Add(&slots_->Dot(slot), &slots_->Label(slot));
-  lblMultiInfo = Named(new NameLabel(this, HeadingPoints, ctlLocation::Gold, ctlLocation::DarkRed),
-                       QLatin1StringView("lblMultiInfo"));
   cboItems = Named(new QComboBox(this), QLatin1StringView("cboItems"));
   cboItems->setMaxVisibleItems(MostVisibleItems);
   SetTwips(*cboItems, {}, {4215, 360});
@@ -102,7 +102,10 @@ void MapView::CreateControls() {
 }
 
 void MapView::ConnectControls() {
-  connect(cboItems, &QComboBox::activated, this, &MapView::cboItems_Click);
+  connect(cboItems, &QComboBox::activated, this, [this] {
+    if (!cboItems->isHidden())
+      cboItems_Click();
+  });
   connect(btnInfo, &QToolButton::clicked, this, &MapView::btnInfo_Click);
   connect(ITEM, &ctlLocation::DblClick, this, &MapView::btnInfo_Click);
   connect(lblCaption, &NameLabel::DblClick, this, &MapView::lblCaption_DblClick);
@@ -156,8 +159,11 @@ void MapView::ClearUI() {
   HideItem();
   ITEM->SetDesc({});
   lblCaption->setToolTip({});
-  btnInfo->hide();
-  cboItems->hide();
+  for (QWidget* hidden : {static_cast<QWidget*>(btnInfo), static_cast<QWidget*>(cboItems)}) {
+    hidden->hide();
+    // The toolkit leaves it there, and a menu that closes brings it back.
+    hidden->clearFocus();
+  }
 }
 
 void MapView::ShowNoRegion() {
@@ -183,7 +189,7 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
   btnInfo->show();
   SetCategory(Data, KindX);
   IniOps::Snapshot files(files_);
-  FillItems(EntityFile::ReadNames(files, Data, KindX, names_));
+  FillItems(EntityFile::ReadNames(files.File(Data), KindX, files, names_));
   cboItems_Click();
   cboItems->setFocus(Qt::ShortcutFocusReason);
 }
@@ -204,7 +210,8 @@ void MapView::ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, 
   if (!LoadPicture(Map))
     return;
   IniOps::Snapshot files(files_);
-  const auto markers = EntityFile::ReadMarkers(files, Data, KindX, names_, MarkerSlots::Count);
+  const auto markers =
+      EntityFile::ReadMarkers(files.File(Data), KindX, files, names_, MarkerSlots::Count);
   int slot = 0;
   for (const EntityFile::Marker& marker : markers)
     slots_->Set(slot++, marker, PointAt(marker.position.x, marker.position.y), !LabelsOnHover,
@@ -245,7 +252,8 @@ void MapView::cboItems_Click() {
     return;
   }
   IniOps::Snapshot files(files_);
-  const auto position = EntityFile::ReadPicked(files, dataFile_, categoryKey_, names_.Key(name));
+  const auto position =
+      EntityFile::ReadPicked(files.File(dataFile_), categoryKey_, names_.Key(name));
   lblCaption->setToolTip({});
   View = {{}, dataFile_, categoryKey_, {}, false, name};
   if (!position) {
@@ -345,7 +353,7 @@ void MapView::lblDOT_DblClick(int index) {
 QString MapView::Description(const NameLabel& label) {
   IniOps::Snapshot files(files_);
   const Text key = Texts::Lower(names_.Key(FromQt(label.text())));
-  return ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files, names_.InfoFile(), key)));
+  return ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files.File(names_.InfoPath()), key)));
 }
 
 void MapView::ShowDescription(NameLabel& label) {

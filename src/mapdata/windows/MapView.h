@@ -26,7 +26,7 @@ class MapView : public QWidget {
   /// The size of the map area when the program starts, in twips.
   static constexpr Twips2Pixel_Module::Twips StartSize = {15360, 11535};
 
-  MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent = nullptr);
+  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr);
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
   /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
@@ -134,7 +134,7 @@ class MapView : public QWidget {
   void ShowDescription(NameLabel& label);
 
   IniOps::Cache& files_;
-  EntityNames& names_;
+  const EntityNames& names_;
   Text prompt_;
   Text highlighted_;
   Text dataFile_;

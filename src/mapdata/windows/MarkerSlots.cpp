@@ -16,13 +16,15 @@ QString Indexed(QLatin1StringView name, int slot) {
 
 }  // namespace
 
-MarkerSlots::MarkerSlots(QWidget* map, QWidget* between) : QObject(map), between_(between) {
+MarkerSlots::MarkerSlots(QWidget* map, QWidget* between, QWidget* above)
+    : QObject(map), between_(between), above_(above) {
   for (int slot = 0; slot < Count; ++slot) {
     auto* label = new NameLabel(map, LabelPoints, ctlLocation::DarkRed, ctlLocation::Gold);
     auto* dot = new ctlLocation(map);
     label->setObjectName(Indexed(QLatin1StringView("lblDOT"), slot));
     dot->setObjectName(Indexed(QLatin1StringView("DOT"), slot));
     label->stackUnder(between);
+    dot->stackUnder(above);
     label->hide();
     dot->hide();
     connect(dot, &ctlLocation::MouseMove, this, [this, slot] { Q_EMIT DotMoved(slot); });
@@ -35,8 +37,6 @@ MarkerSlots::MarkerSlots(QWidget* map, QWidget* between) : QObject(map), between
 }
 
 void MarkerSlots::Clear() {
-  if (front_ >= 0)
-    Label(front_).stackUnder(between_);
   front_ = -1;
   for (int slot = 0; slot < Count; ++slot) {
     Dot(slot).hide();
@@ -78,9 +78,7 @@ void MarkerSlots::ShowLabel(int slot, bool alone) {
 void MarkerSlots::BringToFront(int slot) {
   if (front_ == slot)
     return;
-  if (front_ >= 0)
-    Label(front_).stackUnder(between_);
   front_ = slot;
-  Label(slot).raise();
-  Dot(slot).raise();
+  Label(slot).stackUnder(between_);
+  Dot(slot).stackUnder(above_);
 }

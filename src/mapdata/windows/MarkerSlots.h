@@ -20,8 +20,8 @@ class MarkerSlots : public QObject {
   static constexpr int Count = 81;
 
   /// Creates all of them on the map, hidden. `between` is a sibling that stays above every label
-  /// and below every marker.
-  MarkerSlots(QWidget* map, QWidget* between);
+  /// and below every marker, `above` one that stays above every marker.
+  MarkerSlots(QWidget* map, QWidget* between, QWidget* above);
 
   /// Hides and resets every slot.
   void Clear();
@@ -34,7 +34,8 @@ class MarkerSlots : public QObject {
   /// Shows the label of this slot and, if the others show on hover only, hides them.
   void ShowLabel(int slot, bool alone);
 
-  /// Brings the slot's marker and label in front of all others.
+  /// Brings the slot's marker in front of the other markers and its label in front of the other
+  /// labels, so that no name covers a marker.
   void BringToFront(int slot);
 
   /// Marker and label of the slot, 0 to 80.
@@ -51,6 +52,7 @@ class MarkerSlots : public QObject {
 
  private:
   QWidget* between_;
+  QWidget* above_;
   std::array<ctlLocation*, Count> dots_{};
   std::array<NameLabel*, Count> labels_{};
   int front_ = -1;

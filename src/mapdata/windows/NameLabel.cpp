@@ -3,6 +3,7 @@
 #include "controls/windows/PlainToolTip.h"
 #include "controls/windows/WidgetTwips.h"
 
+#include <QMouseEvent>
 #include <QToolTip>
 
 NameLabel::NameLabel(QWidget* parent, double points, int textColor, int groundColor)
@@ -48,6 +49,7 @@ void NameLabel::mouseMoveEvent(QMouseEvent*) {
   Q_EMIT MouseMove();
 }
 
-void NameLabel::mouseDoubleClickEvent(QMouseEvent*) {
-  Q_EMIT DblClick();
+void NameLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton)
+    Q_EMIT DblClick();
 }

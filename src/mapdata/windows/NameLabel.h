@@ -17,7 +17,7 @@ class NameLabel : public QLabel {
   void SetTextColor(int color);
 
  Q_SIGNALS:
-  /// The pointer moved over the name, or double-clicked it.
+  /// The pointer moved over the name, or double-clicked it with the left button.
   void MouseMove();
   void DblClick();
 

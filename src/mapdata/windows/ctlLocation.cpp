@@ -51,8 +51,9 @@ void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
   Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event), position.x, position.y);
 }
 
-void ctlLocation::mouseDoubleClickEvent(QMouseEvent*) {
-  Q_EMIT DblClick();
+void ctlLocation::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton)
+    Q_EMIT DblClick();
 }
 
 void ctlLocation::paintEvent(QPaintEvent*) {

@@ -38,7 +38,7 @@ class ctlLocation : public QWidget {
   /// The pointer moved over the marker; x and y are twips from its top left corner. `button` is
   /// the sum of 1 (left), 2 (right) and 4 (middle), `shift` of 1 (Shift), 2 (Ctrl) and 4 (Alt).
   void MouseMove(int button, int shift, float x, float y);
-  /// The marker was double-clicked, or Enter was pressed on it.
+  /// The marker was double-clicked with the left button, or Enter was pressed on it.
   void DblClick();
 
  protected:

@@ -15,7 +15,7 @@ class frmInfo : public Dialog {
 
  public:
   /// Shows the entity of this name as the map shows it; blanks around it don't count.
-  frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
+  frmInfo(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
           IniOps::Cache& files, const Text& infoEntityName);
 
  private:

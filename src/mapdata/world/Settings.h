@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "platform/Text.h"
 
 /// The settings file `orvalis.ini` in the program folder: every key with its default. A missing
@@ -28,9 +28,9 @@ inline constexpr Entry TranslatorKit = {u"urls", u"tranlatorsdk", u""};
 inline constexpr Entry GamePatch = {u"urls", u"duskholdpatch", u""};
 
 /// The setting's value in that settings file.
-[[nodiscard]] Text Read(IniOps::Snapshot& files, TextView settingsFile, const Entry& entry);
+[[nodiscard]] Text Read(const ProfileFile& settings, const Entry& entry);
 
 /// Whether the setting is "yes", whatever its letter case and the spaces around it.
-[[nodiscard]] bool IsYes(IniOps::Snapshot& files, TextView settingsFile, const Entry& entry);
+[[nodiscard]] bool IsYes(const ProfileFile& settings, const Entry& entry);
 
 }  // namespace Settings

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/PosixFile.h"
 
 #include <map>
 #include <memory>
@@ -18,7 +19,7 @@ class QtDesktop : public Desktop {
   [[nodiscard]] bool HasViewer(const std::string& mimeType) override;
   void ShowPage(const std::string& path) override;
   Result StartProgram(const std::string& path, const std::string& folder) override;
-  void LoopSound(const std::string& path) override;
+  bool LoopSound(const std::string& path) override;
   void StopSound() override;
   void Beep() override;
   [[nodiscard]] Text UserLanguage() override;
@@ -30,5 +31,7 @@ class QtDesktop : public Desktop {
 
   // The answers so far: to ask can take seconds.
   std::map<std::string, std::optional<bool>> viewers_;
+  // Open while it is played: the sound library takes it by an alias.
+  std::unique_ptr<PosixFile::OpenFile> soundFile_;
   std::unique_ptr<QSoundEffect> sound_;
 };

@@ -147,7 +147,7 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
   const TemporaryFolder folder;
   folder.Write("LANG/English/English.lng", English);
   Session session(folder, u"Deutsch");
-  EXPECT_EQ(session.LabelText("lblVersion"), "1.0.0 RC-27");
+  EXPECT_EQ(session.LabelText("lblVersion"), QtText::ToQt(ProgramInfo::Version).toStdString());
   EXPECT_EQ(session.LabelText("lblAuthor"), QtText::ToQt(ProgramInfo::Author).toStdString());
   Q_EMIT session.List().RowClick(*session.List().Rows(2));
   EXPECT_EQ(session.LabelText("lblCurrentLang"), "English");

@@ -9,6 +9,9 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
@@ -164,6 +167,37 @@ TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
   EXPECT_EQ(view.InfoEntityName, u"Amsel");
   Press(Qt::Key_Escape);
   EXPECT_EQ(Focus(), "cboItems");
+}
+
+TEST_F(MapFocusTest, AHiddenListHasNoKeyboardWhenAMenuCloses) {
+  QMainWindow window;
+  QMenu menu(QStringLiteral("&Menu"));
+  window.menuBar()->addMenu(&menu);
+  QAction* const list =
+      menu.addAction(QStringLiteral("&List"), [this] { view.Change(map, data, u"t"); });
+  menu.addAction(QStringLiteral("&Markers"), [this] { Multi(); });
+  menu.addAction(QStringLiteral("&Both"), [this, list] {
+    list->trigger();
+    Multi();
+  });
+  auto* const items = view.findChild<QComboBox*>(QStringLiteral("cboItems"));
+  window.setCentralWidget(&view);
+  window.show();
+  QApplication::setActiveWindow(&window);
+  const auto choose = [&](Qt::Key key) {
+    QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_M,
+                    Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), key);
+  };
+  for (const auto& way : {std::vector{Qt::Key_B}, {Qt::Key_L, Qt::Key_M}, {Qt::Key_L, Qt::Key_B}}) {
+    for (const Qt::Key key : way)
+      choose(key);
+    EXPECT_EQ(window.focusWidget(), nullptr);
+    items->setCurrentIndex(1);
+    Q_EMIT items->activated(1);
+    EXPECT_FALSE(IsShown("ITEM"));
+  }
+  view.setParent(nullptr);
 }
 
 TEST_F(MapFocusTest, IsAListOfTheMarkersShown) {

@@ -13,6 +13,8 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <cstring>
+
 #include <gtest/gtest.h>
 
 using QtText::ToQt;
@@ -179,6 +181,8 @@ TEST_F(MapViewTest, AsksForInformationOnTheRightName) {
   EXPECT_EQ(view.InfoEntityName, u" Äpfel ") << "a label hands over its blanks";
   QTest::mouseDClick(&Find<QWidget>("DOT(2)"), Qt::LeftButton);
   EXPECT_EQ(view.InfoEntityName, u"Äpfel");
+  QTest::mouseDClick(&Find<QWidget>("DOT(0)"), Qt::RightButton);
+  QTest::mouseDClick(&Find<QWidget>("lblDOT(0)"), Qt::RightButton);
   List();
   QTest::mouseClick(&Find<QWidget>("btnInfo"), Qt::LeftButton);
   EXPECT_EQ(asked.count(), 2) << "the prompt names nobody";
@@ -204,17 +208,24 @@ TEST_F(MapViewTest, DescribesTheNameUnderThePointer) {
   EXPECT_EQ(label.toolTip(), u"");
 }
 
-TEST_F(MapViewTest, MarkersStayAboveNamesAndTheOneUnderThePointerAboveAll) {
+TEST_F(MapViewTest, TheOneUnderThePointerComesFirstAndNoNameCoversAMarker) {
+  folder.Write("a.data", "[t]\r\nWolf=500,300\r\nZwei=503,300\r\nElch=480,301\r\n");
   Multi();
-  const auto order = [&](const char* name) {
-    return view.children().indexOf(&Find<QWidget>(name));
+  const auto at = [&](const char* name) {
+    const QWidget* found = view.childAt(Find<QWidget>(name).geometry().center());
+    return found->objectName().toStdString();
   };
-  EXPECT_LT(order("lblDOT(80)"), order("DOT(0)"));
-  QTest::mouseMove(&Find<QWidget>("DOT(0)"), {3, 3});
-  EXPECT_GT(order("lblDOT(0)"), order("DOT(80)"));
-  EXPECT_GT(order("DOT(0)"), order("lblDOT(0)"));
-  QTest::mouseMove(&Find<QWidget>("DOT(2)"), {3, 3});
-  EXPECT_LT(order("lblDOT(0)"), order("DOT(4)"));
+  for (const char* hovered : {"DOT(0)", "lblDOT(0)", "DOT(1)", "lblDOT(2)", "DOT(0)"}) {
+    QTest::mouseMove(&Find<QWidget>(hovered), {3, 3});
+    const std::string marker = std::string("DOT") + std::strchr(hovered, '(');
+    EXPECT_EQ(at(marker.c_str()), marker);
+    EXPECT_EQ(at("DOT(2)"), "DOT(2)") << "the name of DOT(0) lies there";
+    const QPoint ofNames = {Find<QWidget>("lblDOT(2)").geometry().right() - 1,
+                            Find<QWidget>("lblDOT(2)").geometry().top() + 1};
+    if (marker != "DOT(1)") {
+      EXPECT_EQ(view.childAt(ofNames)->objectName().toStdString(), "lbl" + marker);
+    }
+  }
 }
 
 TEST(ctlLocation, KeepsItsSizeAndColours) {

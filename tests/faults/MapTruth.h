@@ -1,0 +1,99 @@
+#pragma once
+
+#include "app/StartUp.h"
+#include "i18n/InterfaceTexts.h"
+#include "i18n/LOCAL.h"
+#include "mapdata/world/EntityFile.h"
+#include "search/Search.h"
+
+#include <QObject>
+#include <QPoint>
+#include <QString>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+#include <string>
+
+class QMainWindow;
+class QWidget;
+struct MenuRow;
+
+/// What the map has to show after all that was done to the program, worked out beside it: from the
+/// files as they stand, the commands, picks, hits, hovers and resizes that it hears of, and the
+/// rules. Nothing is asked of the map but the places that its widgets have.
+class MapTruth : public QObject {
+ public:
+  explicit MapTruth(QMainWindow& window);
+
+  /// To be called for each dialog of the program when it opens.
+  void Watch(QWidget& dialog);
+
+  /// What is wrong with what the window shows, or with its focus; "" if nothing is.
+  [[nodiscard]] std::string Fault();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  enum class Kind { Nothing, List, Markers, Hit };
+
+  // A marker and its name as they are to be seen.
+  struct Spot {
+    QPoint at;
+    QString name;
+    QString caption;
+    bool highlighted = false;
+    bool markerShown = true;
+    bool labelShown = true;
+    // -1 for the single marker, whose name stands right of it if it can.
+    int slot = -1;
+  };
+
+  void Connect();
+  void Category(const MenuRow& row);
+  void ShowList(const Text& picture, const Text& data, const Text& category);
+  void ShowMarkers(const Text& picture, const Text& data, const Text& category,
+                   const QString& heading, bool onHover);
+  void Pick(const QString& name);
+  void ShowHit(const Search::Outcome& outcome);
+  void Resized();
+  void SpeakAs(const InterfaceTexts& texts, const Text& file);
+  [[nodiscard]] bool IsReadable(const Text& picture);
+  [[nodiscard]] std::optional<EntityFile::Position> PositionOf(const QString& name);
+  [[nodiscard]] std::vector<Spot> MarkersOfCategory();
+  [[nodiscard]] std::vector<Spot> Spots();
+  [[nodiscard]] QPoint PointOf(int x, int y) const;
+  [[nodiscard]] std::string FaultOf(const Spot& spot) const;
+  [[nodiscard]] std::string FaultOfShown(const std::vector<Spot>& spots) const;
+  [[nodiscard]] std::string FaultOfList() const;
+  [[nodiscard]] std::string FaultOfFocus() const;
+  [[nodiscard]] QWidget& Part(const QString& name) const;
+  [[nodiscard]] int NameLeft(const Spot& spot, int left, int width) const;
+
+  QMainWindow& window_;
+  QWidget& map_;
+  IniOps::Cache cache_;
+  ProgramPaths paths_;
+  LOCAL::Language language_;
+  std::vector<Text> captions_;
+  QString prompt_;
+  Search::State search_;
+  std::map<Text, bool> readable_;
+
+  Kind kind_ = Kind::Nothing;
+  Text picture_;
+  // Of what is shown; of the list also while that is hidden.
+  Text data_;
+  Text category_;
+  QString heading_;
+  bool onHover_ = false;
+  int hovered_ = -1;
+  // The row of the list; "" where none is selected.
+  QString listed_;
+  QStringList rows_;
+  // Where the single marker stands and what its name says; none if there is nothing to see of it.
+  std::optional<Spot> item_;
+  // The entity shown last, which a resize goes by where the list has no row selected.
+  QString found_;
+};
