@@ -1,6 +1,7 @@
 #include "app/StartUp.h"
 
 #include "i18n/LOCAL.h"
+#include "i18n/WindowTexts.h"
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/Settings.h"
 #include "platform/NativePath.h"
@@ -10,15 +11,12 @@
 
 using FileSystem::Separator;
 using Texts::Join;
+using WindowTexts::Row;
 
 namespace {
 
 constexpr std::array<TextView, 5> RegionStems = {u"arvenna", u"skaldor", u"sarrakh", u"ostrakh",
                                                  u"ancestors"};
-
-Text Ui(IniOps::Snapshot& files, const LOCAL::Language& language, TextView key) {
-  return files.IniRead(language.LanguageFile, u"ui", key, u"");
-}
 
 }  // namespace
 
@@ -76,13 +74,10 @@ Message FileNotFound(IniOps::Snapshot& files, const ProgramPaths& paths, const T
                      const Text& missing) {
   LOCAL::Language language(paths.infoData);
   language.StartUp(files, paths.languageRoot, languageFolder);
-  const Text shown = NativePath::ForDisplay(missing);
-  if (language.IsGerman())
-    return {Join(u"Die folgende Datei fehlt: ", shown,
-                 u"\r\nDas Programm kann nicht fortgesetzt werden."),
-            u"Fehler"};
-  const Text text = Texts::ReplaceAll(Ui(files, language, u"FileNotFound"), u"%s", shown);
-  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"), Ui(files, language, u"FileNotFoundCaption")};
+  const Text text = Texts::ReplaceAll(language.Lookup(files, Row(u"ui", u"FileNotFound")),
+                                      TextRow::Placeholder, NativePath::ForDisplay(missing));
+  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"),
+          language.Lookup(files, Row(u"ui", u"FileNotFoundCaption"))};
 }
 
 }  // namespace StartUp

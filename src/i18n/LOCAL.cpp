@@ -49,9 +49,12 @@ Text FileOfLanguage(TextView root, TextView folder, TextView suffix) {
   return Texts::Join(root, folder, FileSystem::Separator, folder, suffix);
 }
 
-Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, TextView english,
-                      TextView german) const {
-  return IsGerman() ? Text(german) : files.IniRead(LanguageFile, section, key, english);
+Text Language::Lookup(IniOps::Snapshot& files, const TextRow& row) const {
+  return IsGerman() ? Text(row.german) : Translated(files, row);
+}
+
+Text Language::Translated(IniOps::Snapshot& files, const TextRow& row) const {
+  return files.IniRead(LanguageFile, row.section, row.key, row.english);
 }
 
 void Language::StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder) {

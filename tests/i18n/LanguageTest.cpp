@@ -9,8 +9,8 @@ using IniOps::Snapshot;
 
 namespace {
 
-constexpr MenuCaption MenuRows[] = {{u"mnuFile", u"File", u"&Datei"},
-                                    {u"miQuit", u"&Quit", u"&Beenden"}};
+constexpr TextRow MenuRows[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
+                                {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
 // Start-up with a folder name in the settings; the files are as the start finds them.
 class Started {

@@ -4,6 +4,7 @@
 #include "app/windows/Commands.h"
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
+#include "i18n/InterfaceTexts.h"
 #include "mapdata/windows/MapView.h"
 #include "platform/windows/WindowTitle.h"
 

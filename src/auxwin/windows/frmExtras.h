@@ -19,7 +19,7 @@ class frmExtras : public Dialog {
             IniOps::Cache& files, Launching& launching);
 
  private:
-  void applyTexts(IniOps::Snapshot& files);
+  void FillList(IniOps::Snapshot& files);
   void Add(TextView name, TextView File);
   void btnSelect_Click();
   [[nodiscard]] Text Copy(TextView File) const;

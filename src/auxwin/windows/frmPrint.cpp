@@ -1,10 +1,10 @@
 #include "auxwin/windows/frmPrint.h"
 
 #include "auxwin/PrintName.h"
+#include "i18n/WindowTexts.h"
 
 #include "controls/windows/WidgetTwips.h"
 #include "platform/ProgramInfo.h"
-#include "platform/windows/WindowTitle.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -19,6 +19,7 @@
 #include <algorithm>
 
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
@@ -33,7 +34,9 @@ constexpr ControlDesign Controls[] = {
      .kind = ControlKind::Picture,
      .place = {0, 0, 2235, 2325},
      .text = ProgramInfo::Title},
-    {.name = u"lblPrinters", .place = {1785, 240, 735, 255}, .text = u"Drucker:"},
+    {.name = u"lblPrinters",
+     .place = {1785, 240, 735, 255},
+     .caption = &Row(u"frmPrint", u"label")},
     {.name = u"cboPrinters",
      .kind = ControlKind::ComboBox,
      .place = {2520, 210, 2775, 315},
@@ -41,23 +44,23 @@ constexpr ControlDesign Controls[] = {
     {.name = u"rbQuerformat",
      .kind = ControlKind::OptionButton,
      .place = {2520, 840, 1335, 375},
-     .text = u"&Querformat"},
+     .caption = &Row(u"frmPrint", u"optionlandscape")},
     {.name = u"rbHochformat",
      .kind = ControlKind::OptionButton,
      .place = {3840, 840, 1335, 375},
-     .text = u"&Hochformat"},
+     .caption = &Row(u"frmPrint", u"optionportrait")},
     {.name = u"btnPrint",
      .kind = ControlKind::Button,
      .place = {2520, 1920, 1335, 375},
-     .text = u"&Drucken"},
+     .caption = &Row(u"frmPrint", u"buttonprint")},
     {.name = u"btnCancel",
      .kind = ControlKind::Button,
      .place = {4080, 1920, 1335, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmPrint", u"buttoncancel")},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
-                                       .caption = u"Karte Drucken",
+                                       .caption = &Row(u"frmPrint", u"caption"),
                                        .width = 5475,
                                        .height = 2415,
                                        .defaultButton = {},
@@ -82,7 +85,8 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
   FillPrinters();
   rbQuerformat->setChecked(true);
   IniOps::Snapshot snapshot(files);
-  applyTexts(snapshot, language);
+  ApplyTexts(snapshot, language);
+  caption_ = language.Lookup(snapshot, *Design().caption);
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 
@@ -114,19 +118,6 @@ void frmPrint::FillPrinters() {
   if (toFile_)
     cboPrinters->addItem(ToQt(PdfEntry));
   cboPrinters->setCurrentIndex(0);
-}
-
-void frmPrint::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return language.Lookup(files, u"frmPrint", key, english, german);
-  };
-  caption_ = text(u"caption", u"Print", u"Karte Drucken");
-  WindowTitle::Set(*this, caption_);
-  SetCaption(u"lblPrinters", text(u"label", u"Printers", u"Drucker:"));
-  SetCaption(u"rbQuerformat", text(u"optionlandscape", u"Landscape", u"&Querformat"));
-  SetCaption(u"rbHochformat", text(u"optionportrait", u"Portrait", u"&Hochformat"));
-  SetCaption(u"btnPrint", text(u"buttonprint", u"Print", u"&Drucken"));
-  SetCaption(u"btnCancel", text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
 void frmPrint::btnPrint_Click() {

@@ -21,7 +21,7 @@ class QRadioButton;
 struct Printout {
   std::function<Twips2Pixel_Module::Twips()> size;
   std::function<void(QPainter&)> paint;
-  std::function<Text()> heading;
+  std::function<Text()> heading = [] { return Text(); };
 };
 
 /// The print window: a printer, an orientation, and one page in the size that the map has on
@@ -37,7 +37,6 @@ class frmPrint : public Dialog {
  private:
   void FillPrinters();
   void ShowBanner();
-  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language);
   void btnPrint_Click();
   [[nodiscard]] bool ChoosePrinter(QPrinter& printer);
   void PrintOn(QPrinter& printer) const;

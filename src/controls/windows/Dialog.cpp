@@ -2,6 +2,7 @@
 
 #include "controls/AccessKey.h"
 #include "controls/windows/DialogLayout.h"
+#include "controls/windows/GridListbox.h"
 #include "controls/windows/MakeControl.h"
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/WindowTitle.h"
@@ -31,7 +32,6 @@ Dialog::Dialog(QWidget* parent, const DialogDesign& design)
       design_(design) {
   setModal(true);
   setObjectName(QtText::ToQt(design.name));
-  WindowTitle::Set(*this, design.caption);
   setFixedSize(ToPixels(*this, {0, 0, design.width, design.height}).size());
   CreateControls();
   SetUpButtons();
@@ -48,13 +48,18 @@ void Dialog::CreateControls() {
   }
 }
 
+void Dialog::EndWithout(TextView control) const {
+  qFatal("%s has no such control: %s", qUtf8Printable(objectName()),
+         qUtf8Printable(QtText::ToQt(control)));
+}
+
 void Dialog::SetUpButtons() {
-  const auto* byEnter = Control<QPushButton>(design_.defaultButton);
-  for (auto* button : findChildren<QPushButton*>()) {
-    // Without a default button, Enter in a list would press the first one that is left so.
-    button->setAutoDefault(!design_.defaultButton.empty());
-    button->setDefault(button == byEnter && !design_.defaultButton.empty());
-  }
+  const bool hasDefault = !design_.defaultButton.empty();
+  // Without a default button, Enter in a list would press the first one that is left so.
+  for (auto* button : findChildren<QPushButton*>())
+    button->setAutoDefault(hasDefault);
+  if (hasDefault)
+    Control<QPushButton>(design_.defaultButton)->setDefault(true);
   if (!design_.cancelButton.empty())
     connect(Control<QPushButton>(design_.cancelButton), &QPushButton::clicked, this,
             &Dialog::reject);
@@ -105,6 +110,14 @@ void Dialog::FitTexts() {
   NameControls();
 }
 
+void Dialog::ApplyTexts(IniOps::Snapshot& files, const LOCAL::Language& language) {
+  if (design_.caption)
+    WindowTitle::Set(*this, language.Lookup(files, *design_.caption));
+  for (const Placed& placed : controls_)
+    if (placed.design->caption)
+      SetCaption(placed.design->name, language.Lookup(files, *placed.design->caption));
+}
+
 void Dialog::SetCaption(TextView name, TextView caption) {
   auto* control = Control<QWidget>(name);
   if (auto* label = qobject_cast<QLabel*>(control)) {
@@ -114,6 +127,8 @@ void Dialog::SetCaption(TextView name, TextView caption) {
     button->setText(QtText::ToQt(caption));
   } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
     frame->setTitle(QtText::ToQt(caption));
+  } else if (auto* list = qobject_cast<GridListbox*>(control)) {
+    list->SetCaption(caption);
   }
 }
 

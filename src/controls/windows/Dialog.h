@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/DialogDesign.h"
+#include "i18n/LOCAL.h"
 #include "platform/windows/QtText.h"
 
 #include <QDialog>
@@ -21,14 +22,21 @@ class Dialog : public QDialog {
   [[nodiscard]] const DialogDesign& Design() const { return design_; }
 
  protected:
-  /// The control of that name in the design; its kind must be that of `Type`.
+  /// The control of that name in the design, which must be there and of the kind of `Type`: the
+  /// program ends with a message if it isn't.
   template <typename Type>
   [[nodiscard]] Type* Control(TextView name) const {
-    return findChild<Type*>(QtText::ToQt(name));
+    auto* const control = findChild<Type*>(QtText::ToQt(name));
+    if (!control)
+      EndWithout(name);
+    return control;
   }
 
-  /// Sets the caption of a label, button or frame of the design. "&" stands before the letter of
-  /// the access key; a label that names no control has none.
+  /// Shows the captions of the design in that language.
+  void ApplyTexts(IniOps::Snapshot& files, const LOCAL::Language& language);
+
+  /// Sets the caption of a label, button, frame or grid list of the design. "&" stands before the
+  /// letter of the access key; a label that names no control has none.
   void SetCaption(TextView name, TextView caption);
 
   bool event(QEvent* event) override;
@@ -37,6 +45,8 @@ class Dialog : public QDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
+  [[noreturn]] void EndWithout(TextView control) const;
+
   struct Placed {
     QWidget* control = nullptr;
     const ControlDesign* design = nullptr;

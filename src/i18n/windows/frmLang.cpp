@@ -1,19 +1,22 @@
 #include "i18n/windows/frmLang.h"
 
 #include "auxwin/windows/Hyperlink.h"
+#include "i18n/WindowTexts.h"
 #include "platform/windows/PictureReader.h"
-#include "platform/windows/WindowTitle.h"
 
 #include <QLabel>
 #include <QPushButton>
 
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
-constexpr ControlDesign Bold(TextView name, TwipsRect place, TextView text) {
+constexpr ControlDesign Bold(TextView name, TwipsRect place, const TextRow* caption,
+                             TextView text = {}) {
   return {.name = name,
           .place = place,
+          .caption = caption,
           .text = text,
           .points = 9.75,
           .bold = true,
@@ -28,20 +31,20 @@ constexpr ControlDesign Controls[] = {
     {.name = u"glbLang",
      .kind = ControlKind::GridList,
      .place = {120, 120, 4335, 4575},
-     .text = u"Vorhandene Sprachen",
+     .caption = &Row(u"frmLang", u"availablelangs"),
      .points = 9.75},
     {.name = u"btnSelect",
      .kind = ControlKind::Button,
      .place = {2040, 7200, 1095, 375},
-     .text = u"A&uswählen"},
+     .caption = &Row(u"frmLang", u"buttonselect")},
     {.name = u"btnAbort",
      .kind = ControlKind::Button,
      .place = {3360, 7200, 1095, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmLang", u"buttoncancel")},
     {.name = u"fraMetaData",
      .kind = ControlKind::Frame,
      .place = {120, 4800, 4335, 2295},
-     .text = u"Aktuelle Sprache"},
+     .caption = &Row(u"frmLang", u"currentlang")},
     {.name = u"imgCurrentLang",
      .kind = ControlKind::Picture,
      .place = {120, 360, 240, 240},
@@ -53,20 +56,20 @@ constexpr ControlDesign Controls[] = {
      .points = 12,
      .bold = true,
      .frame = u"fraMetaData"},
-    Bold(u"lblVersionCaption", {120, 840, 960, 240}, u"Version:"),
+    Bold(u"lblVersionCaption", {120, 840, 960, 240}, nullptr, u"Version:"),
     Regular(u"lblVersion", {1200, 840, 0, 240}, u"<version>"),
-    Bold(u"lblAuthorCaption", {120, 1200, 960, 240}, u"Autor:"),
+    Bold(u"lblAuthorCaption", {120, 1200, 960, 240}, &Row(u"frmLang", u"author")),
     Regular(u"lblAuthor", {1200, 1200, 0, 240}, u"<author>"),
-    Bold(u"lblEMailLabel", {120, 1560, 960, 240}, u"eMail:"),
+    Bold(u"lblEMailLabel", {120, 1560, 960, 240}, &Row(u"frmLang", u"email")),
     Regular(u"lblEMail", {1200, 1560, 0, 240}, u"<email>"),
-    Bold(u"lblWebSiteLabel", {120, 1890, 960, 240}, u"WebSite:"),
+    Bold(u"lblWebSiteLabel", {120, 1890, 960, 240}, &Row(u"frmLang", u"website")),
     Regular(u"lblWebSite", {1200, 1890, 0, 240}, u"<url>"),
     {.name = u"imgLangGerman", .kind = ControlKind::Picture, .place = {120, 7200, 240, 240}},
     {.name = u"imgNoFlag", .kind = ControlKind::Picture, .place = {480, 7200, 240, 240}},
 };
 
 constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
-                                         .caption = u"Sprache auswählen",
+                                         .caption = &Row(u"frmLang", u"caption"),
                                          .width = 4590,
                                          .height = 7695,
                                          .defaultButton = u"btnSelect",
@@ -81,7 +84,7 @@ QPixmap ReadFlag(TextView file) {
 }  // namespace
 
 frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Launching& launching, std::span<const MenuCaption> menus)
+                 IniOps::Cache& files, Launching& launching, std::span<const TextRow> menus)
     : Dialog(parent, LanguageDesign),
       paths_(paths),
       language_(language),
@@ -111,7 +114,7 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   ShowFlag(german ? imgLangGerman->pixmap()
                   : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder,
                                                u".bmp")));
-  applyTexts(snapshot);
+  ApplyTexts(snapshot, language_);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
   connect(glbLang, &GridListbox::DblClick, this, &frmLang::btnSelect_Click);
   connect(btnSelect, &QPushButton::clicked, this, &frmLang::btnSelect_Click);
@@ -144,20 +147,6 @@ void frmLang::ShowDetails(const LanguageList::Details& details) {
 QPixmap frmLang::Flag(TextView file) const {
   const QPixmap flag = ReadFlag(file);
   return flag.isNull() ? imgNoFlag->pixmap() : flag;
-}
-
-void frmLang::applyTexts(IniOps::Snapshot& snapshot) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return language_.Lookup(snapshot, u"frmLang", key, english, german);
-  };
-  WindowTitle::Set(*this, text(u"caption", u"Choose language", u"Sprache auswählen"));
-  glbLang->SetCaption(text(u"availablelangs", u"Available languages", u"Vorhandene Sprachen"));
-  SetCaption(u"fraMetaData", text(u"currentlang", u"Current language", u"Aktuelle Sprache"));
-  SetCaption(u"lblAuthorCaption", text(u"author", u"Author", u"Autor:"));
-  SetCaption(u"lblEMailLabel", text(u"email", u"eMail", u"eMail:"));
-  SetCaption(u"lblWebSiteLabel", text(u"website", u"Website", u"WebSite:"));
-  SetCaption(u"btnSelect", text(u"buttonselect", u"Select", u"A&uswählen"));
-  SetCaption(u"btnAbort", text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
 void frmLang::glbLang_RowClick(const GridListbox::Row& Item) {

@@ -23,7 +23,7 @@ class frmLang : public Dialog {
  public:
   /// `menus` are the menus of the main window, whose texts go with `LanguageChanged`.
   frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-          IniOps::Cache& files, Launching& launching, std::span<const MenuCaption> menus);
+          IniOps::Cache& files, Launching& launching, std::span<const TextRow> menus);
 
  Q_SIGNALS:
   /// Another language is current and stored in the settings; these are its texts. What the map
@@ -37,12 +37,11 @@ class frmLang : public Dialog {
   void ShowDetails(const LanguageList::Details& details);
   void ShowFlag(const QPixmap& flag);
   [[nodiscard]] QPixmap Flag(TextView file) const;
-  void applyTexts(IniOps::Snapshot& snapshot);
 
   const ProgramPaths& paths_;
   LOCAL::Language& language_;
   IniOps::Cache& files_;
-  std::span<const MenuCaption> menus_;
+  std::span<const TextRow> menus_;
   GridListbox* glbLang;
   QLabel* imgCurrentLang;
   QLabel* lblCurrentLang;

@@ -112,7 +112,6 @@ class MapView : public QWidget {
   void InfoRequested();
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

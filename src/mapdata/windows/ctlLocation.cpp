@@ -1,7 +1,6 @@
 #include "mapdata/windows/ctlLocation.h"
 
 #include "controls/windows/EventCodes.h"
-#include "controls/windows/PlainToolTip.h"
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/display/Placement.h"
 
@@ -40,10 +39,6 @@ void ctlLocation::SetBorderColor(int color) {
 void ctlLocation::SetBackColor(int color) {
   backColor_ = color;
   update();
-}
-
-bool ctlLocation::event(QEvent* event) {
-  return PlainToolTip::Show(*this, *event) || QWidget::event(event);
 }
 
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {

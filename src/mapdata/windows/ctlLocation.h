@@ -42,7 +42,6 @@ class ctlLocation : public QWidget {
   void DblClick();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

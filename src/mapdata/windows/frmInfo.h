@@ -19,7 +19,6 @@ class frmInfo : public Dialog {
           IniOps::Cache& files, const Text& infoEntityName);
 
  private:
-  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& name);
   void ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key);
 
   QLabel* lblName;

@@ -2,8 +2,8 @@
 
 #include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
+#include "platform/PageLimits.h"
 #include "platform/PosixFile.h"
-#include "platform/TamePage.h"
 #include "platform/windows/QtText.h"
 #include "platform/windows/WindowTitle.h"
 
@@ -52,8 +52,11 @@ PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(paren
   auto* browser = new Browser(this, FolderOf(path));
   const auto page = PosixFile::Read(path, LargestFile);
   // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
-  browser->setHtml(
-      QtText::ToQt(TamePage::Of(NativePath::EntryName(page ? page->bytes : std::string()))));
+  const Text text = NativePath::EntryName(page ? page->bytes : std::string());
+  if (PageLimits::Hold(text))
+    browser->setHtml(QtText::ToQt(text));
+  else
+    browser->setPlainText(QtText::ToQt(text.substr(0, PageLimits::Characters)));
   const QString title = browser->documentTitle();
   const Text name = NativePath::EntryName(path.substr(FolderOf(path).size()));
   const Text shown = title.isEmpty() ? name : QtText::FromQt(title);

@@ -7,7 +7,7 @@
 
 SearchCommands::SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
                                IniOps::Cache& files, Search::State& state)
-    : QObject(&map), map_(map), paths_(paths), language_(language), files_(files), state_(state) {}
+    : map_(map), paths_(paths), language_(language), files_(files), state_(state) {}
 
 void SearchCommands::miFind_Click() {
   frmFind dialog(map_.window(), paths_, language_, files_, state_);

@@ -70,7 +70,7 @@ class Windows {
                             [](QPainter&) {}, [] { return Text(); }};
     std::vector<std::unique_ptr<Dialog>> windows;
     windows.push_back(std::make_unique<frmLang>(nullptr, paths_, language_, files_, launching_,
-                                                std::span<const MenuCaption>()));
+                                                std::span<const TextRow>()));
     windows.push_back(std::make_unique<frmFind>(nullptr, paths_, language_, files_, search_));
     windows.push_back(std::make_unique<frmAbout>(nullptr, paths_, language_, files_, desktop_,
                                                  launching_, Text()));

@@ -187,5 +187,5 @@ TEST_F(Print, KeepsWhatEveryDialogPromises) {
   UseEnglish(
       u"[frmPrint]\r\ncaption=Imprimer\r\nlabel=Imprimantes\r\noptionlandscape=Pa&ysage\r\n"
       u"buttonprint=&Imprimer la carte\r\nbuttoncancel=&Annuler\r\n");
-  CheckDialog(*Open());
+  CheckTexts(*Open());
 }

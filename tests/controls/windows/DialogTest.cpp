@@ -36,7 +36,6 @@ constexpr ControlDesign Controls[] = {
 };
 
 constexpr DialogDesign Design = {.name = u"frmSample",
-                                 .caption = u"Beispiel",
                                  .width = 4335,
                                  .height = 3500,
                                  .defaultButton = u"btnSelect",
@@ -44,7 +43,6 @@ constexpr DialogDesign Design = {.name = u"frmSample",
                                  .controls = Controls};
 
 constexpr DialogDesign WithoutDefault = {.name = u"frmSample",
-                                         .caption = u"Beispiel",
                                          .width = 4335,
                                          .height = 3500,
                                          .defaultButton = {},
@@ -76,6 +74,7 @@ bool Fits(const QWidget& control) {
 
 TEST(Dialog, PassesItsOwnChecks) {
   Dialog dialog(nullptr, Design);
+  dialog.setWindowTitle(QStringLiteral("Beispiel"));
   EXPECT_TRUE(dialog.isModal());
   EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMinMaxButtonsHint);
   CheckDialog(dialog);
@@ -151,7 +150,7 @@ TEST(Dialog, ARowOfButtonsTakesItsFreeSpaceBeforeTheTypeGetsSmaller) {
 }
 
 TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
-  constexpr ControlDesign controls[] = {
+  static constexpr ControlDesign controls[] = {
       {.name = u"lblName", .place = {120, 120, 600, 240}},
       {.name = u"txtName",
        .kind = ControlKind::TextField,
@@ -161,8 +160,8 @@ TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
       {.name = u"lblValue", .place = {800, 400, 0, 240}},
       {.name = u"lblBelow", .place = {120, 700, 600, 240}},
   };
-  constexpr DialogDesign design = {
-      .name = u"frmColumn", .caption = u"x", .width = 4000, .height = 1500, .controls = controls};
+  static constexpr DialogDesign design = {
+      .name = u"frmColumn", .width = 4000, .height = 1500, .controls = controls};
   Captioned dialog(nullptr, design);
   dialog.SetCaption(u"lblName", u"Name:");
   dialog.SetCaption(u"lblPlace", u"Wohnort:");
@@ -185,12 +184,12 @@ TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
 }
 
 TEST(Dialog, AWordThatFitsNoLineIsBroken) {
-  constexpr ControlDesign controls[] = {
+  static constexpr ControlDesign controls[] = {
       {.name = u"lblMail", .place = {120, 120, 0, 240}},
       {.name = u"lblSite", .place = {120, 480, 0, 240}},
   };
-  constexpr DialogDesign design = {
-      .name = u"frmWords", .caption = u"x", .width = 2500, .height = 900, .controls = controls};
+  static constexpr DialogDesign design = {
+      .name = u"frmWords", .width = 2500, .height = 900, .controls = controls};
   Dialog dialog(nullptr, design);
   Find<QLabel>(dialog, "lblMail")
       ->setText(QStringLiteral("a.very.long.name.of.somebody@%1.example")

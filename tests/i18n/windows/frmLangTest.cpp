@@ -20,8 +20,8 @@ using IniOps::Snapshot;
 
 namespace {
 
-constexpr MenuCaption Menus[] = {{u"mnuFile", u"File", u"&Datei"},
-                                 {u"miQuit", u"&Quit", u"&Beenden"}};
+constexpr TextRow Menus[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
+                             {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
 // A program folder with languages, and a start with one of them.
 class Session {
