@@ -11,12 +11,12 @@ const CellSize = 44;
 const TouchRadius = 22;
 const HoverRadius = 13;
 const RowsAtOnce = 100;
-const PrintWidth = 690;
 
-const world = JSON.parse(document.getElementById('world').textContent);
+const ui = Object.fromEntries([...document.querySelectorAll('[id]')].map((each) => [each.id, each]));
+const world = JSON.parse(ui.world.textContent);
 const words = world.words;
-const element = (id) => document.getElementById(id);
-const say = (text) => { element('message').textContent = text; };
+const on = (target, type, act) => target.addEventListener(type, act);
+const say = (text) => { ui.message.textContent = text; };
 
 function fill(word, ...values) {
   return values.reduce((text, value) => text.replace('%s', () => value), words[word]);
@@ -46,6 +46,7 @@ let visible = [];       // the entities of the chosen categories, each tick once
 let current = null;     // where the keys on the map stand
 let opened = null;      // whose description is open
 
+const chosenCategories = () => region.categories.filter(({chosen}) => chosen);
 const collator = new Intl.Collator(world.language || undefined, {numeric: true});
 
 function* allEntities() {
@@ -103,8 +104,6 @@ function recallAll() {
   }
 }
 
-const keepView = () => keep(ViewKey, JSON.stringify(view));
-
 function keepTicks() {
   keep(TicksKey, ticksAsText());
   if (!stored)
@@ -122,15 +121,16 @@ function setFound(entity, isFound) {
 
 // ---- The map
 
-const calm = matchMedia('(prefers-reduced-motion: reduce)').matches;
+const motion = {animate: !matchMedia('(prefers-reduced-motion: reduce)').matches};
 const map = L.map('map', {
   crs: L.CRS.Simple, attributionControl: false, keyboard: false, tap: false,
-  zoomControl: false, zoomSnap: 0, zoomDelta: 0.5, maxBoundsViscosity: 1,
-  zoomAnimation: !calm, fadeAnimation: false, inertia: !calm,
+  zoomControl: false, zoomSnap: 0, zoomDelta: 0.5,
+  maxBounds: L.latLngBounds(FrameBounds).pad(0.4), maxBoundsViscosity: 1,
+  zoomAnimation: motion.animate, inertia: motion.animate, fadeAnimation: false,
 });
 L.control.zoom({zoomInTitle: words.zoomIn, zoomOutTitle: words.zoomOut}).addTo(map);
 // The keys + and - do the same: the map is one stop for Tab.
-for (const button of map.getContainer().querySelectorAll('.leaflet-control-zoom a'))
+for (const button of ui.map.querySelectorAll('.leaflet-control-zoom a'))
   button.tabIndex = -1;
 
 const drawn = new Map();  // entity, or the cell of a crowd -> its marker on the map
@@ -138,18 +138,17 @@ let picture = null;
 
 const placeOf = ({x, y}) => L.latLng(-y, x);
 
+/** Shows the whole picture; what lies much farther away can't be reached. */
 function fitMap() {
-  map.invalidateSize(false);
-  map.setMinZoom(-10).setMaxZoom(10).setMaxBounds(null);
+  map.setMinZoom(-10).setMaxZoom(10);
   const whole = map.getBoundsZoom(FrameBounds);
   map.setView([-FrameHeight / 2, FrameWidth / 2], whole, {animate: false});
   map.setMinZoom(whole).setMaxZoom(whole + 4);
-  map.setMaxBounds(L.latLngBounds(FrameBounds).pad(0.4));
 }
 
 /** Hands over a picture's address once the page has been read that far; it is not decoded before. */
 function whenPicture(number, use) {
-  const source = element(`picture-${number}`);
+  const source = document.getElementById(`picture-${number}`);
   const read = document.readyState !== 'loading';
   if (source && (read || source.nextElementSibling))
     use(source.textContent.trim());
@@ -161,18 +160,21 @@ function whenPicture(number, use) {
 
 function showPicture() {
   const shown = region;
-  const missing = () => { element('noPicture').hidden = region !== shown; };
-  element('noPicture').hidden = true;
-  if (picture)
-    picture.remove();
-  picture = L.rectangle(FrameBounds, {className: 'frame', interactive: false}).addTo(map);
-  if (shown.picture === undefined)
-    return missing();
-  whenPicture(shown.picture, (address) => {
+  picture?.remove();
+  ui.noPicture.hidden = true;
+  const without = () => {
     if (region !== shown)
       return;
-    picture.remove();
-    picture = L.imageOverlay(address, FrameBounds).on('error', missing).addTo(map);
+    ui.noPicture.hidden = false;
+    picture?.remove();
+    picture = L.rectangle(FrameBounds, {className: 'frame', interactive: false}).addTo(map);
+    picture.getElement().closest('svg').ariaHidden = 'true';
+  };
+  if (shown.picture === undefined)
+    return without();
+  whenPicture(shown.picture, (address) => {
+    if (region === shown)
+      picture = L.imageOverlay(address, FrameBounds).on('error', without).addTo(map);
   });
 }
 
@@ -182,52 +184,44 @@ function markersInView() {
   const [west, east] = [bounds.getWest(), bounds.getEast()];
   const [top, bottom] = [-bounds.getNorth(), -bounds.getSouth()];
   const inView = visible.filter(({x, y}) => x >= west && x <= east && y >= top && y <= bottom);
-  const markers = new Map();
-  if (inView.length <= MarkersAtMost) {
-    for (const entity of inView)
-      markers.set(entity, {entity, count: 1});
-  } else {
-    const cell = CellSize / map.getZoomScale(map.getZoom(), 0);
-    const cells = new Map();
-    for (const entity of inView) {
-      const key = `${Math.floor(entity.x / cell)},${Math.floor(entity.y / cell)}`;
-      const crowd = cells.get(key);
-      if (crowd)
-        crowd.count += 1;
-      else
-        cells.set(key, {entity, count: 1});
-    }
-    for (const [key, crowd] of cells)
-      markers.set(crowd.count > 1 ? `${key} ${crowd.count} ${cell}` : crowd.entity, crowd);
+  const cell = inView.length > MarkersAtMost && CellSize / map.getZoomScale(map.getZoom(), 0);
+  const crowds = new Map();
+  for (const entity of inView) {
+    const key = cell ? `${Math.floor(entity.x / cell)},${Math.floor(entity.y / cell)}` : entity;
+    const crowd = crowds.get(key) || {entity, count: 0, x: 0, y: 0};
+    crowd.count += 1;
+    crowd.x += (entity.x - crowd.x) / crowd.count;
+    crowd.y += (entity.y - crowd.y) / crowd.count;
+    crowds.set(key, crowd);
   }
-  if (current && visible.includes(current))
-    markers.set(current, {entity: current, count: 1});
+  const markers = new Map([...crowds].map(([key, crowd]) =>
+    [crowd.count > 1 ? `${key} ${crowd.count} ${cell}` : crowd.entity, crowd]));
+  if (visible.includes(current))
+    markers.set(current, {...current, entity: current, count: 1});
   return markers;
 }
 
-function makeMarker({entity, count}) {
-  const name = make('span', {className: 'name', textContent: entity.name});
+function makeMarker({entity, count, x, y}) {
+  const crowd = count > 1;
   const icon = L.divIcon({
-    className: count > 1 ? 'crowd' : `marker${entity.mark ? ' mark' : ''}`,
-    html: count > 1 ? String(count) : name, iconSize: count > 1 ? [32, 32] : [16, 16],
+    className: crowd ? 'crowd' : `marker${entity.mark ? ' mark' : ''}`,
+    html: make('span', {className: 'name', textContent: crowd ? count : entity.name, ariaHidden: 'true'}),
+    iconSize: crowd ? [32, 32] : [16, 16],
   });
-  const marker = L.marker(placeOf(entity), {icon, interactive: false, keyboard: false}).addTo(map);
+  const marker = L.marker([-y, x], {icon, interactive: false, keyboard: false}).addTo(map);
   const shown = marker.getElement();
-  Object.assign(marker, {entity, count, shown});
-  name.setAttribute('aria-hidden', 'true');
-  if (count > 1) {
-    shown.setAttribute('aria-hidden', 'true');
-  } else {
-    shown.setAttribute('role', 'button');
-    shown.tabIndex = -1;
-    shown.addEventListener('focus', () => setCurrent(entity));
-    shown.addEventListener('click', (event) => {
+  if (!crowd) {
+    Object.assign(shown, {role: 'button', tabIndex: -1});
+    on(shown, 'focus', () => setCurrent(entity));
+    on(shown, 'click', (event) => {
       event.stopPropagation();
       openEntity(entity);
     });
   }
-  return marker;
+  return Object.assign(marker, {entity, crowd, shown});
 }
+
+const single = () => [...drawn.values()].filter(({crowd}) => !crowd);
 
 function drawMarkers() {
   const wanted = markersInView();
@@ -247,53 +241,51 @@ function drawMarkers() {
 }
 
 function markFound() {
-  for (const {entity, count, shown} of drawn.values()) {
-    if (count > 1)
-      continue;
+  for (const {entity, shown} of single()) {
     const isFound = found.has(entity.tick);
     shown.classList.toggle('found', isFound);
-    shown.setAttribute('aria-label', isFound ? `${entity.name}, ${words.found}` : entity.name);
+    shown.classList.toggle('opened', entity.tick === opened?.tick);
+    shown.ariaLabel = isFound ? `${entity.name}, ${words.found}` : entity.name;
   }
 }
 
 /** The one element of the map that Tab reaches: the current marker, else the first, else the map. */
 function setTabStop() {
-  const single = [...drawn.values()].filter(({count}) => count === 1);
-  const stop = single.find(({entity}) => entity === current) || single[0];
-  for (const marker of single)
+  const markers = single();
+  const stop = markers.find(({entity}) => entity === current) || markers[0];
+  for (const marker of markers)
     marker.shown.tabIndex = marker === stop ? 0 : -1;
-  map.getContainer().tabIndex = stop ? -1 : 0;
+  ui.map.tabIndex = stop ? -1 : 0;
 }
 
 const pen = document.createElement('canvas').getContext('2d');
 pen.font = getComputedStyle(document.documentElement).getPropertyValue('--name-font');
-const NameSides = {
-  right: (x, y, width) => [x + 11, y - 11, width, 22],
-  left: (x, y, width) => [x - 11 - width, y - 11, width, 22],
-  below: (x, y, width) => [x - width / 2, y + 11, width, 22],
-  above: (x, y, width) => [x - width / 2, y - 33, width, 22],
-};
+// Where a name begins: in widths of it and in pixels from the middle of its marker.
+const NameSides = {right: [0, 11, -11], left: [-1, -11, -11], below: [-0.5, 0, 11], above: [-0.5, 0, -33]};
 
 /** Puts each name on a side where it covers no other name; one that finds none waits for a hover. */
 function placeNames() {
-  const taken = [];
-  const size = map.getSize();
-  const meets = ([x, y, width, height]) => taken.some(([left, top, wide, high]) =>
+  const right = map.getSize().x;
+  const names = [];
+  const meets = (taken, [x, y, width, height]) => taken.some(([left, top, wide, high]) =>
     x < left + wide && left < x + width && y < top + high && top < y + height);
-  for (const {entity, count, shown} of drawn.values()) {
-    if (count > 1)
-      continue;
-    const {x, y} = map.latLngToContainerPoint(placeOf(entity));
+  const markers = single().map(({entity, shown}) =>
+    ({entity, shown, at: map.latLngToContainerPoint(placeOf(entity))}));
+  const dots = markers.map(({at}) => [at.x - 7, at.y - 7, 14, 14]);
+  for (const {entity, shown, at} of markers) {
     const width = Math.min(260, (entity.nameWidth ??= pen.measureText(entity.name).width + 12));
-    const inside = Object.keys(NameSides).filter((side) => {
-      const [left, , wide] = NameSides[side](x, y, width);
-      return left >= 0 && left + wide <= size.x;
-    });
-    const free = view.names && inside.find((side) => !meets(NameSides[side](x, y, width)));
-    if (free)
-      taken.push(NameSides[free](x, y, width));
-    shown.dataset.side = free || inside[0] || 'right';
-    shown.classList.toggle('named', Boolean(free));
+    const box = (side) => {
+      const [widths, x, y] = NameSides[side];
+      return [at.x + widths * width + x, at.y + y, width, 22];
+    };
+    const inside = Object.keys(NameSides).filter((side) =>
+      box(side)[0] >= 0 && box(side)[0] + width <= right);
+    const free = view.names ? inside.filter((side) => !meets(names, box(side))) : [];
+    const best = free.find((side) => !meets(dots, box(side))) || free[0];
+    if (best)
+      names.push(box(best));
+    shown.dataset.side = best || inside[0] || 'right';
+    shown.classList.toggle('named', Boolean(best));
   }
 }
 
@@ -301,7 +293,7 @@ function nearestMarker(point, radius) {
   let nearest = null;
   let best = radius;
   for (const marker of drawn.values()) {
-    const away = point.distanceTo(map.latLngToContainerPoint(placeOf(marker.entity)));
+    const away = point.distanceTo(map.latLngToContainerPoint(marker.getLatLng()));
     if (away <= best)
       [nearest, best] = [marker, away];
   }
@@ -312,34 +304,42 @@ function hover(point) {
   const over = point && nearestMarker(point, HoverRadius);
   for (const marker of drawn.values())
     marker.shown.classList.toggle('hovered', marker === over);
-  map.getContainer().classList.toggle('over', Boolean(over));
+  ui.map.classList.toggle('over', Boolean(over));
 }
 
 function pickAt(point) {
   const marker = nearestMarker(point, TouchRadius);
   if (!marker)
     closeEntity();
-  else if (marker.count > 1 && map.getZoom() < map.getMaxZoom())
-    map.setView(placeOf(marker.entity), map.getZoom() + 1.5);
+  else if (marker.crowd && map.getZoom() < map.getMaxZoom())
+    map.setView(marker.getLatLng(), map.getZoom() + 1.5);
   else
     openEntity(marker.entity);
 }
 
 function setCurrent(entity) {
   current = entity;
-  for (const row of element('list').children)
-    row.classList.toggle('current', row.entity === entity);
+  for (const row of ui.list.children) {
+    if (row.classList.toggle('current', row.entity.tick === entity.tick))
+      row.scrollIntoView({block: 'nearest'});
+  }
   setTabStop();
 }
 
-/** Moves the map as far as needed for the entity to be seen beside an open description. */
-function bringIntoView(entity) {
-  const box = map.getContainer().getBoundingClientRect();
-  const panel = element('entity').getBoundingClientRect();
-  const beside = panel.left >= box.right || panel.width === 0;
-  const covered = beside ? 0 : Math.max(0, box.bottom - panel.top);
-  map.panInside(placeOf(entity), {padding: [40, 40], paddingBottomRight: [40, 40 + covered],
-    animate: !calm});
+/** Shows the entity beside an open description; one that was chosen elsewhere, in the middle. */
+function bringIntoView(entity, centred) {
+  const box = ui.map.getBoundingClientRect();
+  const panel = ui.entity.getBoundingClientRect();
+  const covered = panel.width < box.width ? [Math.max(0, box.right - panel.left), 0]
+    : [0, box.bottom - panel.top];
+  if (centred) {
+    const zoom = Math.max(map.getZoom(), map.getMinZoom() + 1);
+    const middle = map.project(placeOf(entity), zoom).add([covered[0] / 2, covered[1] / 2]);
+    map.setView(map.unproject(middle, zoom), zoom, motion);
+  } else {
+    map.panInside(placeOf(entity), {paddingTopLeft: [40, 40],
+      paddingBottomRight: [40 + covered[0], 40 + covered[1]], ...motion});
+  }
 }
 
 function focusMarker(entity) {
@@ -378,7 +378,7 @@ function mapKey(event) {
   if (event.ctrlKey || event.altKey || event.metaKey)
     return;
   if (key in Arrows && event.shiftKey)
-    map.panBy(Arrows[key].map((way) => way * 100), {animate: !calm});
+    map.panBy(Arrows[key].map((way) => way * 100), motion);
   else if (key in Arrows || ['Home', 'End', 'PageUp', 'PageDown'].includes(key))
     walk(key);
   else if (key === '+' || key === '-')
@@ -396,68 +396,51 @@ function mapKey(event) {
 
 // ---- The list
 
-let rows = [];
+let rows = [];    // the entities that the list holds, however far it has been filled
+let sought = '';
 
-/** Marks, parts and hits: what the list holds, with a note where a name alone says too little. */
 function fillList() {
-  const typed = element('search').value.trim();
-  const several = region.categories.filter(({chosen}) => chosen).length > 1;
-  rows = typed ? search(typed) : visible.map((entity) =>
-    ({entity, note: several ? entity.category.caption : ''}));
-  element('list').replaceChildren();
-  element('list').scrollTop = 0;
+  sought = ui.search.value.trim();
+  rows = sought ? search(sought) : visible;
+  ui.list.replaceChildren();
+  ui.list.scrollTop = 0;
   addRows(RowsAtOnce);
+  setStop(ui.list, ui.list.querySelector('input'));
   refreshTicks();
 }
 
+/** What a row says below the name, where the name alone says too little. */
+function noteOf(entity) {
+  if (!sought)
+    return chosenCategories().length > 1 ? entity.category.caption : '';
+  const terms = fold(sought).split(/\s+/);
+  return terms.every((term) => entity.foldedName.includes(term))
+    ? placeText(entity) : excerpt(entity, terms);
+}
+
+function makeRow(entity, index) {
+  const tick = make('input', {type: 'checkbox', tabIndex: -1, checked: found.has(entity.tick)});
+  tick.ariaLabel = `${words.found}: ${entity.name}`;
+  const row = make('li', {entity}, make('label', {className: 'tick'}, tick),
+    make('button', {tabIndex: -1},
+      make('span', {className: 'entity', textContent: entity.name}),
+      make('small', {textContent: noteOf(entity)})));
+  Object.assign(row, {ariaSetSize: rows.length, ariaPosInSet: index + 1});
+  row.classList.toggle('current', entity.tick === current?.tick);
+  return row;
+}
+
 function addRows(end) {
-  const list = element('list');
-  for (const {entity, note} of rows.slice(list.children.length, end)) {
-    const tick = make('input', {type: 'checkbox', tabIndex: -1});
-    tick.setAttribute('aria-label', `${words.found}: ${entity.name}`);
-    const button = make('button', {type: 'button', tabIndex: -1},
-      make('span', {className: 'entity', textContent: entity.name}));
-    if (note)
-      button.append(make('small', {textContent: note}));
-    const row = make('li', {entity}, make('label', {className: 'tick'}, tick), button);
-    row.setAttribute('aria-setsize', rows.length);
-    row.setAttribute('aria-posinset', list.children.length + 1);
-    row.classList.toggle('current', entity === current);
-    tick.checked = found.has(entity.tick);
-    list.append(row);
-  }
-  if (list.firstChild && !list.querySelector('[tabindex="0"]'))
-    setRowStop(list.firstChild);
-}
-
-function setRowStop(row) {
-  for (const stop of element('list').querySelectorAll('[tabindex="0"]'))
-    stop.tabIndex = -1;
-  for (const stop of row.querySelectorAll('input, button'))
-    stop.tabIndex = 0;
-}
-
-function listKey(event) {
-  const list = element('list');
-  const row = event.target.closest('li');
-  const here = [...list.children].indexOf(row);
-  const target = {ArrowUp: here - 1, ArrowDown: here + 1, Home: 0, End: rows.length - 1}[event.key];
-  if (!row || target === undefined)
-    return;
-  event.preventDefault();
-  addRows(target + 2);
-  if (target < 0)
-    return element('search').focus();
-  list.children[target]?.querySelector(event.target.localName).focus();
+  const start = ui.list.children.length;
+  ui.list.append(...rows.slice(start, end).map((entity, index) => makeRow(entity, start + index)));
 }
 
 // ---- Categories
 
 function chooseCategory(category, chosen) {
   category.chosen = chosen;
-  view.chosen[region.key] = region.categories.filter((each) => each.chosen)
-    .map(({section}) => section);
-  keepView();
+  view.chosen[region.key] = chosenCategories().map(({section}) => section);
+  keep(ViewKey, JSON.stringify(view));
   refresh();
 }
 
@@ -476,15 +459,15 @@ function fillCategories() {
       groups.set(category.group, []);
     groups.get(category.group).push(category);
   }
-  element('groups').replaceChildren(...[...groups].map(([caption, categories]) =>
+  ui.groups.replaceChildren(...[...groups].map(([caption, categories]) =>
     make('details', {open: groups.size < 2 || categories.length < 25},
       make('summary', {textContent: caption}), ...categories.map(makeCategory))));
-  setStop(element('groups'), element('groups').querySelector('summary'));
+  setStop(ui.groups, ui.groups.querySelector('summary'));
 }
 
 function makeCategory(category) {
   category.box = make('input', {type: 'checkbox', checked: category.chosen});
-  category.box.addEventListener('change', () => chooseCategory(category, category.box.checked));
+  on(category.box, 'change', () => chooseCategory(category, category.box.checked));
   category.count = make('span', {className: 'count'});
   return make('label', {className: 'category'}, category.box,
     make('span', {className: 'caption', textContent: category.caption}), ' ', category.count);
@@ -493,8 +476,7 @@ function makeCategory(category) {
 // ---- What a change shows
 
 function refresh() {
-  const chosen = region.categories.filter((category) => category.chosen);
-  visible = once(chosen.flatMap(({entities}) => entities))
+  visible = once(chosenCategories().flatMap(({entities}) => entities))
     .sort((one, other) => collator.compare(one.name, other.name));
   for (const category of region.categories)
     category.box.checked = category.chosen;
@@ -504,18 +486,19 @@ function refresh() {
 
 function refreshTicks() {
   markFound();
-  for (const row of element('list').children)
+  for (const row of ui.list.children)
     row.querySelector('input').checked = found.has(row.entity.tick);
   for (const {entities, count} of region.categories) {
     const done = entities.filter(({tick}) => found.has(tick)).length;
     count.textContent = done ? `${done}/${entities.length}` : entities.length;
     count.parentNode.classList.toggle('done', done > 0 && done === entities.length);
   }
-  const done = rows.filter(({entity}) => found.has(entity.tick)).length;
-  element('listTitle').textContent = element('search').value.trim()
-    ? fill('hits', rows.length) : fill('foundOf', done, rows.length);
+  const done = rows.filter(({tick}) => found.has(tick)).length;
+  const captions = chosenCategories().map(({caption}) => caption).join(', ');
+  ui.listTitle.textContent = sought ? fill('hits', rows.length)
+    : `${captions}: ${fill('foundOf', done, rows.length)}`;
   if (opened)
-    element('entityFound').checked = found.has(opened.tick);
+    ui.entityFound.checked = found.has(opened.tick);
 }
 
 function showRegion(next) {
@@ -524,15 +507,12 @@ function showRegion(next) {
   region = next;
   current = null;
   closeEntity();
-  for (const tab of element('regions').children) {
-    tab.setAttribute('aria-selected', tab.region === region);
-    tab.tabIndex = tab.region === region ? 0 : -1;
-    if (tab.region === region) {
-      element('region').setAttribute('aria-labelledby', tab.id);
-      tab.scrollIntoView?.({block: 'nearest', inline: 'nearest'});
-    }
-  }
-  map.getContainer().setAttribute('aria-label', fill('mapOf', region.caption));
+  const shown = world.regions.indexOf(region);
+  [...ui.regions.children].forEach((tab, index) => { tab.ariaSelected = index === shown; });
+  setStop(ui.regions, ui.regions.children[shown]);
+  ui.regions.children[shown].scrollIntoView({block: 'nearest', inline: 'nearest'});
+  ui.parts.setAttribute('aria-labelledby', `tab-${shown}`);
+  ui.map.ariaLabel = fill('mapOf', region.caption);
   recallCategories();
   fillCategories();
   visible = [];
@@ -551,39 +531,27 @@ function fold(text) {
     .replace(/[ßæœøðþ’‘]/g, (letter) => Letters[letter]);
 }
 
+/** Names that begin with what was typed, other names, then descriptions. */
 function search(typed) {
   const terms = fold(typed).split(/\s+/);
   const hits = [[], [], []];
   for (const entity of allEntities()) {
     const name = (entity.foldedName ??= fold(entity.name));
-    if (terms.every((term) => name.includes(term))) {
-      hits[name.startsWith(terms[0]) ? 0 : 1].push({entity, note: placeText(entity)});
-    } else if (entity.text) {
-      const text = (entity.foldedText ??= fold(entity.text));
-      if (terms.every((term) => name.includes(term) || text.includes(term)))
-        hits[2].push({entity, terms});
-    }
+    const text = (entity.foldedText ??= fold(entity.text || ''));
+    if (terms.every((term) => name.includes(term)))
+      hits[name.startsWith(terms[0]) ? 0 : 1].push(entity);
+    else if (terms.every((term) => name.includes(term) || text.includes(term)))
+      hits[2].push(entity);
   }
-  const kept = new Set(once(hits.flat().map(({entity}) => entity)));
-  return hits.flat().filter(({entity}) => kept.has(entity)).map(({entity, note, terms: sought}) =>
-    ({entity, get note() { return note || excerpt(entity.text, sought); }}));
+  return once(hits.flat());
 }
 
 const placeText = ({category}) => `${category.region.caption}: ${category.caption}`;
 
-/** The part of a text around the first of the terms in it, found letter by letter as it was folded. */
-function excerpt(text, terms) {
-  const origin = [];
-  let folded = '';
-  [...text].reduce((at, letter) => {
-    const plain = fold(letter);
-    folded += plain;
-    origin.push(...Array(plain.length).fill(at));
-    return at + letter.length;
-  }, 0);
-  const places = terms.map((term) => folded.indexOf(term)).filter((at) => at >= 0);
-  const from = Math.max(0, origin[Math.min(...places)] - 30) || 0;
-  return `${from ? '…' : ''}${text.slice(from, from + 90).replace(/\s+/g, ' ')}…`;
+/** The part of a text around a term; folding moved the term by a letter or two at most. */
+function excerpt({text, foldedText}, terms) {
+  const from = Math.max(0, Math.max(...terms.map((term) => foldedText.indexOf(term))) - 35);
+  return `${from ? '…' : ''}${text.slice(from, from + 90)}…`;
 }
 
 // ---- One entity
@@ -602,43 +570,44 @@ function setAddress(link) {
   }
 }
 
-function openEntity(entity) {
+function openEntity(entity, centred = false) {
   opener = document.activeElement;
   opened = entity;
   say('');
   showPart('');
-  element('entityName').textContent = entity.name;
-  element('entityPlace').textContent = placeText(entity);
-  element('entityText').textContent = entity.text || words.noText;
-  element('entityLink').href = linkOf(entity);
-  element('portrait').hidden = entity.portrait === undefined;
-  element('portrait').removeAttribute('src');
+  ui.entityName.textContent = entity.name;
+  ui.entityPlace.textContent = placeText(entity);
+  ui.entityText.textContent = entity.text || words.noText;
+  ui.entityLink.href = linkOf(entity);
+  ui.portrait.hidden = entity.portrait === undefined;
+  ui.portrait.removeAttribute('src');
   if (entity.portrait !== undefined) {
     whenPicture(entity.portrait, (address) => {
       if (opened === entity)
-        element('portrait').src = address;
+        ui.portrait.src = address;
     });
   }
-  element('entity').hidden = false;
-  element('entity').scrollTop = 0;
+  ui.entity.hidden = false;
+  ui.entity.scrollTop = 0;
   setAddress(linkOf(entity));
-  setCurrent(entity);
+  setCurrent(visible.find(({tick}) => tick === entity.tick));
   refreshTicks();
-  bringIntoView(entity);
+  bringIntoView(entity, centred);
   drawMarkers();
-  element('entityName').focus({preventScroll: true});
+  ui.entityName.focus({preventScroll: true});
 }
 
 function closeEntity() {
   if (!opened)
     return;
-  const marker = drawn.get(opened);
-  const inside = element('entity').contains(document.activeElement);
-  element('entity').hidden = true;
+  const marker = drawn.get(current);
+  const inside = ui.entity.contains(document.activeElement);
+  ui.entity.hidden = true;
   opened = null;
   setAddress(`#${encodeURIComponent(region.key)}`);
   if (inside)
     (opener?.isConnected && opener.offsetParent ? opener : marker?.shown)?.focus();
+  markFound();
 }
 
 /** Opens an entity wherever it is: its region, its category, its place on the map. */
@@ -646,7 +615,7 @@ function goTo(entity) {
   showRegion(entity.category.region);
   if (!visible.some(({tick}) => tick === entity.tick))
     chooseCategory(entity.category, true);
-  openEntity(visible.find(({tick}) => tick === entity.tick));
+  openEntity(entity, true);
 }
 
 function followLink() {
@@ -671,160 +640,154 @@ function followLink() {
 // ---- Ticks as a text
 
 function openTicks() {
-  element('ticksText').value = ticksAsText();
-  element('ticksState').textContent = stored ? '' : words.noStorage;
-  element('ticksDialog').showModal();
+  ui.ticksText.value = ticksAsText();
+  ui.ticksState.textContent = stored ? '' : words.noStorage;
+  ui.ticksDialog.showModal();
 }
 
 function takeTicks() {
-  const {ticks, strange} = ticksFromText(element('ticksText').value);
+  const {ticks, strange} = ticksFromText(ui.ticksText.value);
   const before = found.size;
   ticks.forEach((tick) => found.add(tick));
   keepTicks();
-  element('ticksState').textContent = fill('taken', found.size - before, strange);
+  ui.ticksState.textContent = fill('taken', found.size - before, strange);
 }
 
 function removeTicks() {
-  element('ticksText').value = ticksAsText();
+  ui.ticksText.value = ticksAsText();
   found.clear();
   keepTicks();
-  element('ticksState').textContent = words.removed;
+  ui.ticksState.textContent = words.removed;
 }
 
 function copyTicks() {
-  element('ticksText').select();
+  ui.ticksText.select();
   document.execCommand('copy');
-  element('ticksState').textContent = words.copied;
+  ui.ticksState.textContent = words.copied;
 }
 
 // ---- Keys, parts of a small screen, paper
 
-const Stops = {regions: '[role=tab]', groups: 'summary, input'};
+const Stops = {regions: '[role=tab]', groups: 'summary, input', list: 'input, button'};
+const StopHome = '[role=tab], summary, .category, li';
 
-/** One stop for Tab in a part; the arrow keys move it. */
+/** One stop for Tab in a part, in the list two; the arrow keys move it. */
 function setStop(part, stop) {
+  const home = stop?.closest(StopHome);
   for (const item of part.querySelectorAll(Stops[part.id]))
-    item.tabIndex = item === stop ? 0 : -1;
+    item.tabIndex = item.closest(StopHome) === home ? 0 : -1;
 }
 
 function rove(part, before, after) {
-  part.addEventListener('focusin', ({target}) => setStop(part, target));
-  part.addEventListener('keydown', (event) => {
-    const items = [...part.querySelectorAll(Stops[part.id])].filter((item) => item.offsetParent);
-    const here = items.indexOf(event.target);
-    const target = {[before]: here - 1, [after]: here + 1, Home: 0, End: items.length - 1}[event.key];
-    if (here < 0 || !items[target])
+  on(part, 'focusin', ({target}) => setStop(part, target));
+  on(part, 'keydown', (event) => {
+    const {key, target} = event;
+    const items = [...part.querySelectorAll(Stops[part.id])].filter((item) =>
+      item.offsetParent && (part !== ui.list || item.localName === target.localName));
+    const here = items.indexOf(target);
+    const next = items[{[before]: here - 1, [after]: here + 1, Home: 0, End: items.length - 1}[key]];
+    if (here < 0 || !next)
       return;
     event.preventDefault();
-    items[target].focus();
+    next.focus();
   });
 }
 
 function showPart(part) {
   document.body.dataset.part = part;
-  for (const button of element('bar').children)
-    button.setAttribute('aria-expanded', button.dataset.part === part);
+  for (const button of ui.bar.children)
+    button.ariaExpanded = button.dataset.part === part;
 }
 
 function preparePaper() {
   addRows(rows.length);
-  document.body.classList.add('paper');
-  map.getContainer().style.width = `${PrintWidth}px`;
-  map.getContainer().style.height = `${PrintWidth * FrameHeight / FrameWidth}px`;
-  fitMap();
-  visible.forEach((entity, index) => {
-    const marker = drawn.get(entity);
-    if (marker)
-      marker.shown.dataset.number = index + 1;
-  });
+  Object.assign(ui.map.style, {width: '690px', height: '518px'});
+  map.invalidateSize(false);
+  rows.forEach((entity, index) => drawn.get(entity)?.shown.setAttribute('data-number', index + 1));
 }
 
 function leavePaper() {
-  document.body.classList.remove('paper');
-  map.getContainer().style.width = map.getContainer().style.height = '';
-  fitMap();
+  Object.assign(ui.map.style, {width: '', height: ''});
+  map.invalidateSize(false);
 }
 
 function fillWords() {
   for (const each of document.querySelectorAll('[data-word]'))
     each.textContent = words[each.dataset.word];
   for (const each of document.querySelectorAll('[data-label]'))
-    each.setAttribute('aria-label', words[each.dataset.label]);
+    each.ariaLabel = words[each.dataset.label];
   for (const each of document.querySelectorAll('[data-placeholder]'))
     each.placeholder = words[each.dataset.placeholder];
 }
 
 function fillTabs() {
   world.regions.forEach((each, index) => {
-    const tab = make('button', {type: 'button', id: `tab-${index}`, region: each,
-      textContent: each.caption});
-    tab.setAttribute('role', 'tab');
-    tab.setAttribute('aria-controls', 'region');
-    tab.addEventListener('click', () => showRegion(each));
-    tab.addEventListener('focus', () => tab.matches(':focus-visible') && showRegion(each));
-    element('regions').append(tab);
+    const tab = make('button', {id: `tab-${index}`, role: 'tab', textContent: each.caption});
+    tab.setAttribute('aria-controls', 'parts');
+    on(tab, 'click', () => showRegion(each));
+    on(tab, 'focus', () => showRegion(each));
+    ui.regions.append(tab);
   });
 }
 
 function listenToMap() {
   map.on('moveend', drawMarkers);
+  map.on('resize', fitMap);
   map.on('click', ({containerPoint}) => pickAt(containerPoint));
   map.on('mousemove', ({containerPoint}) => hover(containerPoint));
   map.on('mouseout', () => hover(null));
-  map.getContainer().addEventListener('keydown', mapKey);
-  new ResizeObserver(() => map.invalidateSize(false)).observe(map.getContainer());
+  on(ui.map, 'keydown', mapKey);
+  new ResizeObserver(() => map.invalidateSize(false)).observe(ui.map);
 }
 
 function listenToList() {
-  const list = element('list');
+  const {list} = ui;
   let waiting = 0;
-  element('search').addEventListener('input', () => {
+  on(ui.search, 'input', () => {
     clearTimeout(waiting);
     waiting = setTimeout(fillList, 120);
   });
-  element('search').addEventListener('keydown', (event) => {
+  on(ui.search, 'keydown', (event) => {
     if (event.key === 'ArrowDown')
       list.querySelector('button')?.focus();
   });
-  list.addEventListener('scroll', () => {
+  on(list, 'scroll', () => {
     if (list.scrollTop + 2 * list.clientHeight > list.scrollHeight)
       addRows(list.children.length + RowsAtOnce);
   });
-  list.addEventListener('keydown', listKey);
-  list.addEventListener('focusin', (event) => setRowStop(event.target.closest('li')));
-  list.addEventListener('change', (event) =>
+  on(list, 'change', (event) =>
     setFound(event.target.closest('li').entity, event.target.checked));
-  list.addEventListener('click', (event) => {
+  on(list, 'click', (event) => {
     if (event.target.closest('button'))
       goTo(event.target.closest('li').entity);
   });
 }
 
 function listenToParts() {
-  element('names').checked = view.names;
-  element('names').addEventListener('change', () => {
-    view.names = element('names').checked;
-    keepView();
+  ui.names.checked = view.names;
+  on(ui.names, 'change', () => {
+    view.names = ui.names.checked;
+    keep(ViewKey, JSON.stringify(view));
     placeNames();
   });
-  element('none').addEventListener('click', () => {
+  on(ui.none, 'click', () => {
     region.categories.forEach((category) => { category.chosen = false; });
     chooseCategory(region.categories[0] || {}, false);
   });
-  element('close').addEventListener('click', closeEntity);
-  element('entityFound').addEventListener('change', () =>
-    setFound(opened, element('entityFound').checked));
-  element('entityLink').addEventListener('click', () =>
-    navigator.clipboard?.writeText(element('entityLink').href)
+  on(ui.close, 'click', closeEntity);
+  on(ui.entityFound, 'change', () =>
+    setFound(opened, ui.entityFound.checked));
+  on(ui.entityLink, 'click', () =>
+    navigator.clipboard?.writeText(ui.entityLink.href)
       .then(() => say(words.copied), () => {}));
-  for (const button of element('bar').children) {
-    button.addEventListener('click', () => {
+  for (const button of ui.bar.children) {
+    on(button, 'click', () => {
       closeEntity();
       showPart(document.body.dataset.part === button.dataset.part ? '' : button.dataset.part);
     });
   }
-  document.addEventListener('keydown', (event) => {
-    if (event.key !== 'Escape' || element('ticksDialog').open)
+  on(document, 'keydown', (event) => {
+    if (event.key !== 'Escape' || ui.ticksDialog.open)
       return;
     if (opened)
       closeEntity();
@@ -834,12 +797,12 @@ function listenToParts() {
 }
 
 function listenToTicks() {
-  element('ticks').addEventListener('click', openTicks);
-  element('ticksCopy').addEventListener('click', copyTicks);
-  element('ticksTake').addEventListener('click', takeTicks);
-  element('ticksRemove').addEventListener('click', removeTicks);
-  element('ticksClose').addEventListener('click', () => element('ticksDialog').close());
-  addEventListener('storage', (event) => {
+  on(ui.ticks, 'click', openTicks);
+  on(ui.ticksCopy, 'click', copyTicks);
+  on(ui.ticksTake, 'click', takeTicks);
+  on(ui.ticksRemove, 'click', removeTicks);
+  on(ui.ticksClose, 'click', () => ui.ticksDialog.close());
+  on(window, 'storage', (event) => {
     if (event.key === TicksKey) {
       found = new Set(ticksFromText(event.newValue || '').ticks);
       refreshTicks();
@@ -850,16 +813,16 @@ function listenToTicks() {
 fillWords();
 fillTabs();
 recallAll();
-rove(element('regions'), 'ArrowLeft', 'ArrowRight');
-rove(element('groups'), 'ArrowUp', 'ArrowDown');
+rove(ui.regions, 'ArrowLeft', 'ArrowRight');
+rove(ui.groups, 'ArrowUp', 'ArrowDown');
+rove(ui.list, 'ArrowUp', 'ArrowDown');
 listenToMap();
 listenToList();
 listenToParts();
 listenToTicks();
-if (world.regions.length)
-  followLink();
+followLink();
 if (!stored)
   say(words.noStorage);
-addEventListener('hashchange', followLink);
-addEventListener('beforeprint', preparePaper);
-addEventListener('afterprint', leavePaper);
+on(window, 'hashchange', followLink);
+on(window, 'beforeprint', preparePaper);
+on(window, 'afterprint', leavePaper);
