@@ -125,7 +125,7 @@ const motion = {animate: !matchMedia('(prefers-reduced-motion: reduce)').matches
 const map = L.map('map', {
   crs: L.CRS.Simple, attributionControl: false, keyboard: false, tap: false,
   zoomControl: false, zoomSnap: 0, zoomDelta: 0.5,
-  maxBounds: L.latLngBounds(FrameBounds).pad(0.4), maxBoundsViscosity: 1,
+  maxBounds: L.latLngBounds(FrameBounds).pad(0.75), maxBoundsViscosity: 1,
   zoomAnimation: motion.animate, inertia: motion.animate, fadeAnimation: false,
 });
 L.control.zoom({zoomInTitle: words.zoomIn, zoomOutTitle: words.zoomOut}).addTo(map);
@@ -138,7 +138,7 @@ let picture = null;
 
 const placeOf = ({x, y}) => L.latLng(-y, x);
 
-/** Shows the whole picture; what lies much farther away can't be reached. */
+/** Shows the whole picture, the farthest that one can step back. */
 function fitMap() {
   map.setMinZoom(-10).setMaxZoom(10);
   const whole = map.getBoundsZoom(FrameBounds);
