@@ -77,7 +77,7 @@ def opened_after(browser, page):
 
 
 def main():
-    times = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+    times = int(sys.argv[2]) if len(sys.argv) > 2 else 20
     exported = with_81_markers(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
     with tempfile.TemporaryDirectory() as folder, Browser() as browser:
         pages = {"page": exported, "bare": bare(exported)}
@@ -90,10 +90,12 @@ def main():
             for name, file in files.items():
                 taken[name].append(opened_after(browser, file))
         assert not browser.complaints()
-        # The first round fills the caches of the system.
+        # The first round fills the caches of the system; what else runs can only add to a time.
+        least = {name: min(values[1:]) for name, values in taken.items()}
         middle = {name: statistics.median(values[1:]) for name, values in taken.items()}
-    ratio = middle["page"] / middle["bare"]
-    print(f"page {middle['page']:.0f} ms, bare Leaflet {middle['bare']:.0f} ms, ratio {ratio:.2f} (at most 1.3)")
+    ratio = least["page"] / least["bare"]
+    print(f"page {least['page']:.0f} ms (median {middle['page']:.0f}), "
+          f"bare Leaflet {least['bare']:.0f} ms (median {middle['bare']:.0f}), ratio {ratio:.2f} (at most 1.3)")
     sys.exit(ratio > 1.3)
 
 

@@ -10,7 +10,7 @@ const MarkersAtMost = 300;
 const CellSize = 44;
 const TouchRadius = 22;
 const HoverRadius = 13;
-const RowsAtOnce = 100;
+const RowsAtOnce = 60;
 
 const ui = Object.fromEntries([...document.querySelectorAll('[id]')].map((each) => [each.id, each]));
 const world = JSON.parse(ui.world.textContent);
