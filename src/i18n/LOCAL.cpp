@@ -49,30 +49,35 @@ Text FileOfLanguage(TextView root, TextView folder, TextView suffix) {
   return Texts::Join(root, folder, FileSystem::Separator, folder, suffix);
 }
 
+Language::Language(const ProgramPaths& paths)
+    : germanInfoPath_(paths.infoData), languageRoot_(paths.languageRoot) {
+  for (const RegionRow& row : Regions)
+    RegionWords_[static_cast<size_t>(row.region)].word = row.word;
+}
+
 Text Language::Lookup(IniOps::Snapshot& files, const TextRow& row) const {
   return IsGerman() ? Text(row.german) : Translated(files, row);
 }
 
 Text Language::Translated(IniOps::Snapshot& files, const TextRow& row) const {
-  return files.IniRead(LanguageFile, row.section, row.key, row.english);
+  return files.IniRead(languageFile_, row.section, row.key, row.english);
 }
 
-void Language::StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder) {
-  LanguageRoot = root;
-  LanguageFile = FileOfLanguage(root, folder, u".lng");
-  LanguageFolder = folder;
-  CurrentLanguage = files.IniRead(LanguageFile, u"general", u"language", German);
+void Language::Start(IniOps::Snapshot& files, const Text& folder) {
+  languageFile_ = FileOfLanguage(languageRoot_, folder, u".lng");
+  languageFolder_ = folder;
+  currentLanguage_ = files.IniRead(languageFile_, u"general", u"language", German);
 }
 
 void Language::Choose(IniOps::Snapshot& files, const Text& file) {
-  LanguageFile = file;
+  languageFile_ = file;
   if (file == BuiltIn) {
-    CurrentLanguage = German;
-    LanguageFolder = German;
+    currentLanguage_ = German;
+    languageFolder_ = German;
     return;
   }
-  CurrentLanguage = Trim(files.IniRead(file, u"general", u"language", u""));
-  LanguageFolder = Trim(FileSystem::GetBaseName(file));
+  currentLanguage_ = Trim(files.IniRead(file, u"general", u"language", u""));
+  languageFolder_ = Trim(FileSystem::GetBaseName(file));
 }
 
 bool Language::IsToBeOffered(TextView systemLanguage) const {
@@ -80,17 +85,17 @@ bool Language::IsToBeOffered(TextView systemLanguage) const {
 }
 
 void Language::CacheTranslationTable(IniOps::Snapshot& files) {
-  if (CurrentLanguage.empty())
-    CurrentLanguage = German;
+  if (currentLanguage_.empty())
+    currentLanguage_ = German;
   if (IsGerman())
     return;
-  tableFile_ = files.Shared(LanguageFile);
+  tableFile_ = files.Shared(languageFile_);
   EntityKeys_ = PrefixIndex(tableFile_->KeyNames(EntitiesHeader));
   file_ = nullptr;
 }
 
 void Language::Refresh(IniOps::Snapshot& files) const {
-  const auto& now = files.Shared(LanguageFile);
+  const auto& now = files.Shared(languageFile_);
   if (file_ == now)
     return;
   file_ = now;
@@ -153,9 +158,9 @@ Text Language::Key(TextView shown) const {
 
 Text Language::InfoPath() const {
   if (IsGerman())
-    return programInfoFile_;
-  Text own = Texts::Join(LanguageRoot, CurrentLanguage, FileSystem::Separator, u"info.data");
-  return FileSystem::FileExists(own) ? own : programInfoFile_;
+    return germanInfoPath_;
+  Text own = Texts::Join(languageRoot_, currentLanguage_, FileSystem::Separator, u"info.data");
+  return FileSystem::FileExists(own) ? own : germanInfoPath_;
 }
 
 }  // namespace LOCAL

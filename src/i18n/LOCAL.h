@@ -4,6 +4,7 @@
 #include "i18n/TextRow.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityNames.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
 #include <array>
@@ -30,19 +31,22 @@ inline constexpr TextView BuiltIn = u"*";
 /// descriptions, `LanguageFolder` documents and flag, `LanguageFile` the look-ups.
 class Language : public EntityNames {
  public:
-  /// `programInfoFile` is the path of the German descriptions.
-  explicit Language(Text programInfoFile) : programInfoFile_(std::move(programInfoFile)) {}
+  /// German, until another language is chosen.
+  explicit Language(const ProgramPaths& paths);
 
   /// The declared name of the active language.
-  Text CurrentLanguage;
-  /// The chosen language's folder name.
-  Text LanguageFolder;
-  /// The folder of all languages, with a separator at its end.
-  Text LanguageRoot;
-  /// The active language's file; "*" after German was chosen.
-  Text LanguageFile;
+  [[nodiscard]] const Text& CurrentLanguage() const { return currentLanguage_; }
 
-  [[nodiscard]] bool IsGerman() const { return CurrentLanguage == German; }
+  /// The chosen language's folder name.
+  [[nodiscard]] const Text& LanguageFolder() const { return languageFolder_; }
+
+  /// The folder of all languages, with a separator at its end.
+  [[nodiscard]] const Text& LanguageRoot() const { return languageRoot_; }
+
+  /// The active language's file; "*" after German was chosen.
+  [[nodiscard]] const Text& LanguageFile() const { return languageFile_; }
+
+  [[nodiscard]] bool IsGerman() const { return currentLanguage_ == German; }
 
   /// The text that a window shows: the German one while German is active, else `Translated`.
   [[nodiscard]] Text Lookup(IniOps::Snapshot& files, const TextRow& row) const;
@@ -50,9 +54,9 @@ class Language : public EntityNames {
   /// The entry of the language file, the English default where that is missing or empty.
   [[nodiscard]] Text Translated(IniOps::Snapshot& files, const TextRow& row) const;
 
-  /// Chooses the language of the folder `folder` under the language root `root`; German if that
-  /// holds no language file which declares its name.
-  void StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder);
+  /// Chooses the language of a folder under the language root; German if that holds no language
+  /// file which declares its name.
+  void Start(IniOps::Snapshot& files, const Text& folder);
 
   /// Chooses the language of a language file, or German with `BuiltIn`. The name it declares may
   /// be empty until the table of entity names is built.
@@ -86,13 +90,13 @@ class Language : public EntityNames {
   const Text& ValueOf(size_t key) const;
   void IndexTranslations() const;
 
-  Text programInfoFile_;
+  Text germanInfoPath_;
+  Text currentLanguage_{German};
+  Text languageFolder_{German};
+  Text languageRoot_;
+  Text languageFile_{BuiltIn};
   PrefixIndex EntityKeys_;
-  mutable std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
-                                                     {u"Skaldor", {}},
-                                                     {u"Sarrakh", {}},
-                                                     {u"Ostrakh", {}},
-                                                     {u"Tempel von", {}}}};
+  mutable std::array<RegionWord, Regions.size()> RegionWords_;
   // The language file as names were last translated from it: its region words are in use, and
   // the values of keys that were met since.
   mutable std::shared_ptr<const ProfileFile> file_;

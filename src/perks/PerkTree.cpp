@@ -2,6 +2,7 @@
 
 #include "i18n/WindowTexts.h"
 #include "mapdata/files/StringOps.h"
+#include "mapdata/world/Regions.h"
 #include "perks/PerkCatalogue.h"
 
 #include <algorithm>
@@ -19,29 +20,22 @@ constexpr const TextRow& RootRow = WindowTexts::Row(u"frmPerks", u"root");
 constexpr TextView PictureExtension = u"jpg";
 
 struct PerkedRegion {
-  TextView dataFile;
-  TextView name;
+  Region region;
+  TextRow heading;
 };
 
 constexpr std::array<PerkedRegion, 3> PerkedRegions = {{
-    {u"arvenna.data", u"Arvenna"},
-    {u"skaldor.data", u"Skaldor"},
-    {u"sarrakh.data", u"Sarrakh"},
-}};
-
-// In the same order.
-constexpr std::array<TextRow, 3> RegionHeadings = {{
-    PerkCatalogue::Named(u"ArvennaTeachersFor", u"", u"Arvenna: Lehrer für"),
-    PerkCatalogue::Named(u"SkaldorTeachersFor", u"", u"Skaldor: Lehrer für"),
-    PerkCatalogue::Named(u"SarrakhTeachersFor", u"", u"Sarrakh: Lehrer für"),
+    {Region::Arvenna, PerkCatalogue::Named(u"ArvennaTeachersFor", u"", u"Arvenna: Lehrer für")},
+    {Region::Skaldor, PerkCatalogue::Named(u"SkaldorTeachersFor", u"", u"Skaldor: Lehrer für")},
+    {Region::Sarrakh, PerkCatalogue::Named(u"SarrakhTeachersFor", u"", u"Sarrakh: Lehrer für")},
 }};
 
 // The last one that the path names: a folder may be called like a data file.
 const PerkedRegion* RegionOf(TextView perksData) {
-  const auto found = std::find_if(PerkedRegions.rbegin(), PerkedRegions.rend(),
-                                  [perksData](const PerkedRegion& region) {
-                                    return StringOps::StrContains(perksData, region.dataFile);
-                                  });
+  const auto found = std::find_if(
+      PerkedRegions.rbegin(), PerkedRegions.rend(), [perksData](const PerkedRegion& region) {
+        return StringOps::StrContains(perksData, Join(RowOf(region.region).stem, u".data"));
+      });
   return found == PerkedRegions.rend() ? nullptr : &*found;
 }
 
@@ -54,13 +48,16 @@ PerkTree::Node PerkNode(const Perk& perk, const PerkTree::Lookup& lookup) {
 
 namespace PerkTree {
 
-std::span<const TextRow> Headings() {
-  return RegionHeadings;
+std::vector<TextRow> Headings() {
+  std::vector<TextRow> headings;
+  for (const PerkedRegion& region : PerkedRegions)
+    headings.push_back(region.heading);
+  return headings;
 }
 
 Text PerkRegion(TextView perksData) {
   const PerkedRegion* region = RegionOf(perksData);
-  return Text(region ? region->name : TextView());
+  return Text(region ? RowOf(region->region).word : TextView());
 }
 
 Text WindowCaption(const Region& region, const Lookup& lookup) {
@@ -97,8 +94,7 @@ Text MapHeading(TextView perksData, TextView perkCaption, const Lookup& lookup) 
   const PerkedRegion* region = RegionOf(perksData);
   if (!region)
     return {};
-  const auto number = static_cast<size_t>(region - PerkedRegions.data());
-  return Join(lookup(RegionHeadings[number]), u" ", perkCaption);
+  return Join(lookup(region->heading), u" ", perkCaption);
 }
 
 Text PicturePath(TextView perksData) {

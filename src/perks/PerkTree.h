@@ -40,7 +40,7 @@ struct Region {
 using Lookup = std::function<Text(const TextRow& row)>;
 
 /// The headings of the map over the teachers of a perk, for the regions that have perks.
-[[nodiscard]] std::span<const TextRow> Headings();
+[[nodiscard]] std::vector<TextRow> Headings();
 
 /// The name of the region whose data file this is; "" if none of the three that have perks.
 [[nodiscard]] Text PerkRegion(TextView perksData);

@@ -20,7 +20,7 @@ Text WithoutBrackets(std::string_view section) {
 
 std::optional<InvalidLink> EntityCache::CacheEntities(IniOps::Snapshot& files,
                                                       const LOCAL::Language& language,
-                                                      const ProgramPaths::Region& region) {
+                                                      const ProgramPaths::RegionFiles& region) {
   regions_.push_back(region);
   auto info = files.Shared(language.InfoPath());
   const ProfileFile& data = files.File(region.data);
@@ -72,7 +72,7 @@ CachedEntity EntityCache::At(size_t index) const {
   const Section& section = *SectionOf(index);
   const size_t number = index - section.firstIndex;
   const Record& record = section.records[number];
-  const ProgramPaths::Region& region = regions_[section.region];
+  const ProgramPaths::RegionFiles& region = regions_[section.region];
   return {region.data,
           region.picture,
           section.name,

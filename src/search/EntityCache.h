@@ -53,7 +53,7 @@ class EntityCache {
   /// and gives it back.
   [[nodiscard]] std::optional<InvalidLink> CacheEntities(IniOps::Snapshot& files,
                                                          const LOCAL::Language& language,
-                                                         const ProgramPaths::Region& region);
+                                                         const ProgramPaths::RegionFiles& region);
 
   /// The record of this index, which must be below `Size`.
   [[nodiscard]] CachedEntity At(size_t index) const;
@@ -89,7 +89,7 @@ class EntityCache {
                                           std::string_view section);
   [[nodiscard]] std::vector<Section>::const_iterator SectionOf(size_t index) const;
 
-  std::vector<ProgramPaths::Region> regions_;
+  std::vector<ProgramPaths::RegionFiles> regions_;
   std::vector<Section> sections_;
   size_t size_ = 0;
   std::vector<std::shared_ptr<const ProfileFile>> infoFiles_;

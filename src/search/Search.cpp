@@ -1,6 +1,5 @@
 #include "search/Search.h"
 
-#include "i18n/LOCAL.h"
 #include "i18n/WindowTexts.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
@@ -47,12 +46,11 @@ std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
   });
 }
 
-std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files,
-                                const Language& language, const ProgramPaths& paths) {
+std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, const World& world) {
   // A filling that found no record, or an invalid link, may have left regions and sections.
   cache = EntityCache();
-  for (const ProgramPaths::Region& region : paths.regions)
-    if (auto invalid = cache.CacheEntities(files, language, region))
+  for (const ProgramPaths::RegionFiles& region : world.paths.regions)
+    if (auto invalid = cache.CacheEntities(files, world.language, region))
       return invalid;
   return std::nullopt;
 }
@@ -61,16 +59,16 @@ std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files,
 
 namespace Search {
 
-Outcome FindFirst(State& state, IniOps::Snapshot& files, const Language& language,
-                  const ProgramPaths& paths, TextView term) {
+Outcome FindFirst(State& state, IniOps::Snapshot& files, const World& world, TextView term) {
   state.SearchTerm = term;
   if (state.Cache.Size() == 0)
-    if (auto invalid = Fill(state.Cache, files, language, paths))
+    if (auto invalid = Fill(state.Cache, files, world))
       return *std::move(invalid);
   if (state.SearchMode == Mode::Descriptions)
     return OutcomeOf(state, FindDescription(state, 0));
-  return OutcomeOf(
-      state, language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, language));
+  return OutcomeOf(state, world.language.IsGerman()
+                              ? FindName(state, 0)
+                              : FindTranslatedName(state, files, world.language));
 }
 
 Outcome FindNext(State& state) {

@@ -27,13 +27,13 @@ class Documented : public testing::Test {
     paths.programFolder = folder.Path(u"");
     paths.settings = folder.Path(u"orvalis.ini");
     paths.languageRoot = folder.Path(u"LANG/");
-    language.LanguageRoot = paths.languageRoot;
+    language.LanguageRoot() = paths.languageRoot;
     Choose(u"Deutsch");
   }
 
   void Choose(TextView languageFolder) {
-    language.CurrentLanguage = languageFolder;
-    language.LanguageFolder = languageFolder;
+    language.CurrentLanguage() = languageFolder;
+    language.LanguageFolder() = languageFolder;
   }
 
   void ExpectCalls(const std::vector<std::string>& calls) {

@@ -109,7 +109,7 @@ class Program {
 
   std::string LanguageOf(const Text& folder) {
     language_.StartUp(files_, paths_.languageRoot, folder);
-    return Narrow(language_.CurrentLanguage);
+    return Narrow(language_.CurrentLanguage());
   }
 
   std::string MenuCaptionOf(const Text& key) {

@@ -116,8 +116,8 @@ TEST_F(WorldTest, DescribesAndPicturesWhatIsThere) {
 TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
   for (const TextView folder : Languages) {
     StartedLanguage language(files, LanguageRoot, Text(folder));
-    const Text& file = language.LanguageFile;
-    ASSERT_EQ(language.CurrentLanguage, folder);
+    const Text& file = language.LanguageFile();
+    ASSERT_EQ(language.CurrentLanguage(), folder);
     for (const Text& key : names) {
       const Text shown = language.Shown(files, key);
       const bool temple = key.starts_with(Temple);

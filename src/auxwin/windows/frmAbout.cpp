@@ -97,18 +97,16 @@ void Fill(QWidget& line, int color) {
 
 }  // namespace
 
-frmAbout::frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                   IniOps::Cache& files, Desktop& desktop, Launching& launching,
-                   const Text& edition)
+frmAbout::frmAbout(QWidget* parent, World& world, Desktop& desktop, Launching& launching)
     : Dialog(parent, WindowDesign), desktop_(desktop) {
-  IniOps::Snapshot snapshot(files);
-  StartMusic(snapshot, paths);
+  IniOps::Snapshot snapshot(world.cache);
+  StartMusic(snapshot, world.paths);
   Hyperlink::CreateAddressLink(Label(u"lblEMail"), launching, u"mailto:");
   Hyperlink::CreateAddressLink(Label(u"lblWebSite"), launching, u"");
   ShowBanner();
   Fill(*Control<QWidget>(u"LineGray"), Gray);
   Fill(*Control<QWidget>(u"linWhite"), White);
-  ShowTexts(snapshot, language, edition);
+  ShowTexts(snapshot, world.language, world.edition.text);
   // Not the first link, which Enter would open.
   Control<QPushButton>(u"btnOK")->setFocus();
 }

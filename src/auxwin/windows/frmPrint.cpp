@@ -69,8 +69,7 @@ constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
 
 }  // namespace
 
-frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cache& files,
-                   Desktop& desktop, Printout printout)
+frmPrint::frmPrint(QWidget* parent, World& world, Desktop& desktop, Printout printout)
     : Dialog(parent, WindowDesign),
       desktop_(desktop),
       printout_(std::move(printout)),
@@ -84,9 +83,9 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
   ShowBanner();
   FillPrinters();
   rbQuerformat->setChecked(true);
-  IniOps::Snapshot snapshot(files);
-  ApplyTexts(snapshot, language);
-  caption_ = language.Lookup(snapshot, *Design().caption);
+  IniOps::Snapshot snapshot(world.cache);
+  ApplyTexts(snapshot, world.language);
+  caption_ = world.language.Lookup(snapshot, *Design().caption);
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 

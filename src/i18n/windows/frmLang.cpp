@@ -83,12 +83,12 @@ QPixmap ReadFlag(TextView file) {
 
 }  // namespace
 
-frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Launching& launching, std::span<const TextRow> menus)
+frmLang::frmLang(QWidget* parent, World& world, Launching& launching,
+                 std::span<const TextRow> menus)
     : Dialog(parent, LanguageDesign),
-      paths_(paths),
-      language_(language),
-      files_(files),
+      paths_(world.paths),
+      language_(world.language),
+      cache_(world.cache),
       menus_(menus),
       glbLang(Control<GridListbox>(u"glbLang")),
       imgCurrentLang(Control<QLabel>(u"imgCurrentLang")),
@@ -106,13 +106,13 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   imgLangGerman->setPixmap(ReadFlag(u":/builtin/flag-de.png"));
   imgNoFlag->hide();
   imgNoFlag->setPixmap(ReadFlag(u":/builtin/flag-none.png"));
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   FillList(snapshot);
   const bool german = language_.IsGerman();
-  ShowDetails(
-      LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile));
+  ShowDetails(LanguageList::ReadDetails(snapshot,
+                                        german ? Text(LOCAL::BuiltIn) : language_.LanguageFile()));
   ShowFlag(german ? imgLangGerman->pixmap()
-                  : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder,
+                  : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot(), language_.LanguageFolder(),
                                                u".bmp")));
   ApplyTexts(snapshot, language_);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
@@ -128,10 +128,10 @@ void frmLang::FillList(IniOps::Snapshot& snapshot) {
   glbLang->SetNoHeader(false);
   glbLang->SetSorted(true);
   glbLang->AddItem(Texts::Join(u" ", LOCAL::German), imgLangGerman->pixmap(), LOCAL::BuiltIn);
-  for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot))
+  for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot()))
     glbLang->AddItem(Texts::Join(u" ", entry.name), Flag(entry.flag), entry.file);
   for (int row = 1; row <= glbLang->ListCount(); ++row)
-    if (Texts::Trim(glbLang->List(row)) == language_.CurrentLanguage)
+    if (Texts::Trim(glbLang->List(row)) == language_.CurrentLanguage())
       glbLang->Select(row);
 }
 
@@ -150,7 +150,7 @@ QPixmap frmLang::Flag(TextView file) const {
 }
 
 void frmLang::glbLang_RowClick(const GridListbox::Row& Item) {
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   ShowDetails(LanguageList::ReadDetails(snapshot, Item.Tag));
   ShowFlag(Item.Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
                                       : Flag(LanguageList::FlagOf(Item.Tag)));
@@ -160,7 +160,7 @@ void frmLang::btnSelect_Click() {
   const auto row = glbLang->Rows(glbLang->ListIndex());
   if (!row)
     return;
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   const InterfaceTexts texts =
       LanguageList::Select(snapshot, language_, paths_.settings, row->Tag, menus_);
   Q_EMIT LanguageChanged(texts);

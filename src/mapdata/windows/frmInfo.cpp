@@ -49,15 +49,15 @@ constexpr DialogDesign WindowDesign = {.name = u"frmInfo",
 
 }  // namespace
 
-frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                 IniOps::Cache& files, const Text& infoEntityName)
+frmInfo::frmInfo(QWidget* parent, World& world, const Text& infoEntityName)
     : Dialog(parent, WindowDesign),
       lblName(Control<QLabel>(u"lblName")),
       picPortrait(Control<QLabel>(u"picPortrait")),
       txtInfo(Control<QPlainTextEdit>(u"txtInfo")),
       btnClose(Control<QPushButton>(u"btnClose")),
       imgBackup(Control<QLabel>(u"imgBackup")) {
-  IniOps::Snapshot snapshot(files);
+  const LOCAL::Language& language = world.language;
+  IniOps::Snapshot snapshot(world.cache);
   const Text name(Texts::Trim(infoEntityName));
   const Text key = language.Key(name);
   const auto keyOf = [&language](TextView shown) { return language.Key(shown); };
@@ -70,7 +70,7 @@ frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, const LOCAL::Langua
   buttonFace.setColor(QPalette::Base, buttonFace.color(QPalette::Button));
   txtInfo->setPalette(buttonFace);
   txtInfo->setPlainText(ToQt(Texts::ReplaceAll(description, u"\\n", u"\n")));
-  ShowPortrait(snapshot, paths, key);
+  ShowPortrait(snapshot, world.paths, key);
   lblName->setText(ToQt(infoEntityName));
   WindowTitle::Set(*this, name);
   ApplyTexts(snapshot, language);

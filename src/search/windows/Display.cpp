@@ -27,11 +27,10 @@ void SelectInList(MapView& map, const CachedEntity& entity) {
 
 namespace SearchResult {
 
-void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Language& language,
-             IniOps::Cache& files) {
+void Display(size_t index, const Search::State& state, MapView& map, World& world) {
   const CachedEntity entity = state.Cache.At(index);
-  IniOps::Snapshot snapshot(files);
-  const Text name = language.Shown(snapshot, entity.Name);
+  IniOps::Snapshot snapshot(world.cache);
+  const Text name = world.language.Shown(snapshot, entity.Name);
   Q_EMIT map.Displayed();
   map.ClearUI();
   map.View = {};
@@ -43,7 +42,7 @@ void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Lang
   SelectInList(map, entity);
   // What the list's handler left is what stands on the map: its marker, and its name with blanks.
   map.PlaceCaption(Texts::Padded(FromQt(map.Caption().text())));
-  map.ShowHeading(Search::ResultHeading(state, snapshot, language));
+  map.ShowHeading(Search::ResultHeading(state, snapshot, world.language));
   map.InfoEntityName = entity.Name;
   map.View = {{}, entity.Database, entity.Section, {}, false, name};
 }

@@ -55,12 +55,9 @@ constexpr DialogDesign WindowDesign = {.name = u"frmFind",
 
 }  // namespace
 
-frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Search::State& state)
+frmFind::frmFind(QWidget* parent, World& world, Search::State& state)
     : Dialog(parent, WindowDesign),
-      paths_(paths),
-      language_(language),
-      files_(files),
+      world_(world),
       state_(state),
       lblFind(Control<QLabel>(u"lblFind")),
       txtFind(Control<QLineEdit>(u"txtFind")),
@@ -76,8 +73,8 @@ frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   connect(rbDescsOnly, &QRadioButton::toggled, this,
           [this](bool chosen) { ChooseMode(Mode::Descriptions, chosen); });
   connect(btnFind, &QPushButton::clicked, this, &frmFind::btnFind_Click);
-  IniOps::Snapshot snapshot(files);
-  ApplyTexts(snapshot, language);
+  IniOps::Snapshot snapshot(world.cache);
+  ApplyTexts(snapshot, world.language);
 }
 
 void frmFind::LoadState() {
@@ -101,7 +98,7 @@ void frmFind::ChooseMode(Mode mode, bool chosen) {
 void frmFind::btnFind_Click() {
   btnFind->setEnabled(false);
   Q_EMIT SearchStarted();
-  IniOps::Snapshot files(files_);
-  result_ = Search::FindFirst(state_, files, language_, paths_, FromQt(txtFind->text()));
+  IniOps::Snapshot files(world_.cache);
+  result_ = Search::FindFirst(state_, files, world_, FromQt(txtFind->text()));
   accept();
 }

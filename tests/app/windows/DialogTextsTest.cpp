@@ -1,5 +1,5 @@
 // Every dialog with the built-in texts, the shipped languages, and one that says all at length.
-#include "app/StartUp.h"
+#include "app/World.h"
 #include "auxwin/Launching.h"
 #include "auxwin/windows/frmAbout.h"
 #include "auxwin/windows/frmExtras.h"
@@ -57,28 +57,23 @@ constexpr TextView Lungo =
 // The windows over a program folder, whose languages lie in `LANG`.
 class Windows {
  public:
-  Windows(const Text& programFolder, const Text& languageName)
-      : paths_(StartUp::ComposePaths(snapshot_, programFolder)), language_(paths_.infoData) {
-    language_.StartUp(snapshot_, paths_.languageRoot, languageName);
-    language_.CacheTranslationTable(snapshot_);
+  Windows(const Text& programFolder, const Text& languageName) : world_(programFolder) {
+    IniOps::Snapshot files(world_.cache);
+    world_.language.Start(files, languageName);
+    world_.language.CacheTranslationTable(files);
   }
 
   void Check(void (*check)(Dialog&)) {
-    const Printout printout{[] {
-                              return Twips2Pixel_Module::Twips{9000, 6000};
-                            },
-                            [](QPainter&) {}, [] { return Text(); }};
+    const Printout printout{[] { return Twips2Pixel_Module::Twips{9000, 6000}; }, [](QPainter&) {}};
     std::vector<std::unique_ptr<Dialog>> windows;
-    windows.push_back(std::make_unique<frmLang>(nullptr, paths_, language_, files_, launching_,
-                                                std::span<const TextRow>()));
-    windows.push_back(std::make_unique<frmFind>(nullptr, paths_, language_, files_, search_));
-    windows.push_back(std::make_unique<frmAbout>(nullptr, paths_, language_, files_, desktop_,
-                                                 launching_, Text()));
-    windows.push_back(std::make_unique<frmPrint>(nullptr, language_, files_, desktop_, printout));
-    windows.push_back(std::make_unique<frmInfo>(nullptr, paths_, language_, files_, u"Wolf"));
-    windows.push_back(std::make_unique<frmExtras>(nullptr, paths_, language_, files_, launching_));
     windows.push_back(
-        std::make_unique<frmPerks>(nullptr, paths_.regions[0].data, language_, files_));
+        std::make_unique<frmLang>(nullptr, world_, launching_, std::span<const TextRow>()));
+    windows.push_back(std::make_unique<frmFind>(nullptr, world_, search_));
+    windows.push_back(std::make_unique<frmAbout>(nullptr, world_, desktop_, launching_));
+    windows.push_back(std::make_unique<frmPrint>(nullptr, world_, desktop_, printout));
+    windows.push_back(std::make_unique<frmInfo>(nullptr, world_, u"Wolf"));
+    windows.push_back(std::make_unique<frmExtras>(nullptr, world_, launching_));
+    windows.push_back(std::make_unique<frmPerks>(nullptr, world_.paths.regions[0].data, world_));
     for (const auto& window : windows) {
       const testing::ScopedTrace trace(__FILE__, __LINE__, window->objectName().toStdString());
       check(*window);
@@ -87,16 +82,13 @@ class Windows {
   }
 
  private:
-  IniOps::Cache files_;
-  IniOps::Snapshot snapshot_{files_};
-  ProgramPaths paths_;
-  LOCAL::Language language_;
+  World world_;
   RecordingDesktop desktop_;
-  Launching launching_{paths_, desktop_};
+  Launching launching_{world_.paths, desktop_};
   Search::State search_;
 };
 
-Text World() {
+Text ShippedWorld() {
   return NativePath::FromBytes(ORVALIS_SOURCES "/world");
 }
 
@@ -105,13 +97,13 @@ Text World() {
 class ShippedTexts : public testing::TestWithParam<const char16_t*> {};
 
 TEST_P(ShippedTexts, MoveNothing) {
-  Windows(World(), GetParam()).Check(CheckDialog);
+  Windows(ShippedWorld(), GetParam()).Check(CheckDialog);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, ShippedTexts, testing::Values(u"Deutsch", u"English"));
 
 TEST(DialogTexts, FrenchOnesAreSeenWhole) {
-  Windows(World(), u"Français").Check(CheckTexts);
+  Windows(ShippedWorld(), u"Français").Check(CheckTexts);
 }
 
 TEST(DialogTexts, TheEnglishDefaultsMoveNothing) {
