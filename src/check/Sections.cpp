@@ -58,7 +58,7 @@ class Header {
   [[nodiscard]] size_t Lines() const {
     size_t count = 0;
     for (size_t line = section_.line + 1; line < section_.end; ++line)
-      count += source_.Lines()[line].listed.empty() ? 0 : 1;
+      count += source_.Lines()[line].isListed ? 1 : 0;
     return count;
   }
 
@@ -175,6 +175,9 @@ class Header {
   void TellUnknown() {
     const TextView meant = Meant();
     const bool perk = Texts::Lower(name_).starts_with(PerkWord);
+    // What stands below this one tells of both.
+    if (meant != name_ && source_.FindListed(Words::Encoded(meant)) != Source::None)
+      return;
     if (meant != name_)
       return TellCase(perk ? Id::S10 : Id::S01, meant);
     for (size_t other = 0; other < Regions.size(); ++other)
@@ -191,7 +194,6 @@ class Header {
     finding.consequence =
         rule == Id::S10 ? Join(u"the perk is not listed, ", SearchOfLines()) : EmptyCategory(meant);
     finding.advice = Join(u"write [", meant, u"]");
-    // Two sections of that name would be another mistake.
     finding.edits = {Edits::Replaced(source_, section_.header, Plain())};
   }
 
