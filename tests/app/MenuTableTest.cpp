@@ -43,7 +43,7 @@ TEST(MenuTable, CaptionsEveryMenuUnderAKeyOfItsOwn) {
   const auto captions = MenuTable::Captions();
   EXPECT_EQ(captions.size(), 180U);
   std::set<TextView> keys;
-  for (const MenuCaption& caption : captions) {
+  for (const TextRow& caption : captions) {
     EXPECT_TRUE(keys.insert(caption.key).second);
     EXPECT_FALSE(caption.english.empty());
     EXPECT_FALSE(caption.german.empty());

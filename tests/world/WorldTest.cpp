@@ -1,3 +1,4 @@
+#include "app/AllTexts.h"
 #include "app/MenuTable.h"
 #include "auxwin/ExtrasTable.h"
 #include "mapdata/world/EntityFile.h"
@@ -123,12 +124,8 @@ TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
       EXPECT_EQ(language.Key(shown), key) << Bytes(key) << " as " << Bytes(shown);
       EXPECT_EQ(language.Shown(files, shown), shown) << Bytes(shown);
     }
-    for (const MenuCaption& caption : MenuTable::Captions())
-      ExpectEntry(file, u"menus", caption.key);
-    for (const auto& category : PerkCatalogue::Categories)
-      ExpectEntry(file, u"frmPerks", category.languageKey);
-    for (const auto& perk : PerkCatalogue::Perks)
-      ExpectEntry(file, u"frmPerks", PerkCatalogue::LanguageKey(perk));
+    for (const TextRow& row : AllTexts())
+      ExpectEntry(file, Text(row.section), Text(row.key));
 
     const auto keyOf = [&](TextView shown) { return language.Key(shown); };
     for (const Text& key : files.IniReadFile(German, u"info")) {

@@ -73,7 +73,7 @@ TEST(MenuBar, HeadingFollowsTheCaptionsShown) {
   });
   EXPECT_EQ(bar.Heading(teachers), u"&Skaldor: &Lehrer");
   std::vector<Text> english;
-  for (const MenuCaption& caption : MenuTable::Captions())
+  for (const TextRow& caption : MenuTable::Captions())
     english.emplace_back(caption.english);
   bar.SetCaptions(english);
   EXPECT_EQ(bar.Heading(teachers), u"Skaldor: Teachers");

@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr MenuCaption Menus[] = {{u"mnuFile", u"File", u"&Datei"},
-                                 {u"miQuit", u"&Quit", u"&Beenden"}};
+constexpr TextRow Menus[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
+                             {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
 // A program folder with languages, and a start with one of them.
 class Session {
@@ -142,7 +142,7 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
   Session session(folder, u"Deutsch");
   EXPECT_EQ(session.LabelText("lblVersion"), QtText::ToQt(ProgramInfo::Version).toStdString());
   EXPECT_EQ(session.LabelText("lblAuthor"), QtText::ToQt(ProgramInfo::Author).toStdString());
-  Q_EMIT session.List().RowClick(2);
+  Q_EMIT session.List().RowClick(*session.List().Rows(2));
   EXPECT_EQ(session.LabelText("lblCurrentLang"), "English");
   EXPECT_EQ(session.LabelText("lblVersion"), "2");
   EXPECT_EQ(session.LabelText("lblAuthor"), "A. Writer");
@@ -254,8 +254,8 @@ TEST(frmLang, FlagsThatCantBeReadAreNoFlags) {
     return !flag.isNull() && flag.pixelColor(8, 8) == QColor(Qt::red);
   };
   EXPECT_FALSE(shown());
-  Q_EMIT session.List().RowClick(2);
+  Q_EMIT session.List().RowClick(*session.List().Rows(2));
   EXPECT_TRUE(shown());
-  Q_EMIT session.List().RowClick(3);
+  Q_EMIT session.List().RowClick(*session.List().Rows(3));
   EXPECT_FALSE(shown());
 }

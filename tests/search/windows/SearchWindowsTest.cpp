@@ -39,7 +39,7 @@ class SearchWindows : public testing::Test {
     world_.Write("skaldor.data", u"[NPC]\r\nWolf=900,700\r\nRand=1023,50\r\nUnklar=a,b\r\n");
     world_.Write("sarrakh.data", u"[NPC]\r\nOhne Bild=1,1\r\n");
     world_.Write("info.data", u"[info]\r\nWolf=Ein <b>Wolf</b>\\nallein\r\n");
-    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked");
+    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked", u"Prompt");
     map_.resize(1000, 700);
     map_.show();
   }
