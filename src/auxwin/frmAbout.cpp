@@ -26,8 +26,8 @@ constexpr TextView Sources =
     u"ihrem Können gefragt haben. Ihnen allen gebührt Dank.";
 
 constexpr TextView ThanksTo =
-    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Halm, Jorin Kesselbach, Mathis "
-    u"Ohlendorf, Svea Brandlechner und Tilda Wiesengrund.";
+    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Lindhag, Jorin Kesselried, Mathis "
+    u"Ohlengrund, Svea Brandlechner und Tilda Wiesenhag.";
 
 constexpr ControlDesign Controls[] = {
     {.name = u"picBanner",

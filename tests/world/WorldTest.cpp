@@ -74,6 +74,15 @@ std::set<Text> RunsOf(TextView text) {
   return runs;
 }
 
+// What stands in the second column of a page's tables, each text once.
+std::set<std::string> SecondColumn(const std::string& page) {
+  static const std::regex Row("\n<tr><td valign=\"top\">.*?</td><td valign=\"top\">([^<]+)</td>");
+  std::set<std::string> cells;
+  for (std::sregex_iterator row(page.begin(), page.end(), Row), end; row != end; ++row)
+    cells.insert((*row)[1]);
+  return cells;
+}
+
 struct Line {
   Text dataFile;
   Text section;
@@ -228,5 +237,25 @@ TEST_F(WorldTest, ListsPlantsStonesAndTeachersInEveryLanguage) {
         EXPECT_NE(page.find(Bytes(name)), std::string::npos) << Bytes(folder) << Bytes(name);
       }
     }
+    const auto isPlant = [](const Line& line) {
+      return std::ranges::count(PlantSections, line.section) > 0;
+    };
+    EXPECT_EQ(SecondColumn(perks).size(), PerkCatalogue::Perks.size()) << "what each perk does";
+    EXPECT_EQ(SecondColumn(plants).size(), std::ranges::count_if(lines, isPlant))
+        << "where to look";
+  }
+}
+
+TEST_F(WorldTest, SetsFrenchPagesAsFrenchIsSet) {
+  const std::regex tag("<b>[^<]*</b>|<[^>]*>");
+  const std::regex breakable(" [:;!?»]|« ");
+  const Text own = LanguageRoot + u"Français/";
+  std::vector<TextView> pages = {u"orvalis.html", u"readme.html"};
+  for (const Extra& extra : ExtrasTable)
+    pages.push_back(extra.file);
+  for (const TextView page : pages) {
+    const std::string text = std::regex_replace(PageOf(own, page), tag, "");
+    std::smatch found;
+    EXPECT_FALSE(std::regex_search(text, found, breakable)) << Bytes(page) << found.prefix();
   }
 }
