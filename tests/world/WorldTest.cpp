@@ -36,6 +36,24 @@ constexpr TextView NameSign = u"¤";
 // Begins names that are put together from this word and another entry.
 constexpr TextView Temple = u"Tempel von";
 
+// What is told of a person, in their name or in their description, and the mark that the name of
+// their portrait then has.
+struct Look {
+  const char* told;
+  const char* mark;
+  bool onlyIfTold;
+};
+
+const Look Looks[] = {
+    {"^(Hirtenjunge|Laufjunge|Novizin?|Verirrter Novize) |ist vierzehn", "young", false},
+    {"^(Alter|Dorfälteste|Dorfältester) | der Alte=|ist so alt, |vierzig Jahre gehütet", "old",
+     false},
+    {"bart=", "beard", false},
+    {" Narbe=| Schorf=", "scar", true},
+    {"hat nur ein Auge", "patch", true},
+    {"Einohr=", "oneear", true},
+    {"trägt seit zwei Jahren denselben Hut", "hat", true}};
+
 std::string Bytes(TextView text) {
   return NativePath::ToBytes(text);
 }
@@ -188,6 +206,22 @@ TEST_F(WorldTest, NeverSaysTheSameTwice) {
   }
 }
 
+TEST_F(WorldTest, PaintsPeopleAsTheyAreTold) {
+  const Text pictures = World + u"PICS/pic.ini";
+  for (const Text& key : files.IniReadFile(pictures, u"pics")) {
+    const std::string picture = Bytes(files.IniRead(pictures, u"pics", key, u""));
+    const std::string told = Bytes(key + u"=" + files.IniRead(German, u"info", key, u""));
+    for (const Look& look : Looks) {
+      const bool marked =
+          std::regex_search(picture, std::regex(std::string("-") + look.mark + "[-.]"));
+      const bool expected = std::regex_search(told, std::regex(look.told));
+      if (picture.starts_with("person-") && (expected || look.onlyIfTold)) {
+        EXPECT_EQ(marked, expected) << Bytes(key) << ": " << picture << ", " << look.mark;
+      }
+    }
+  }
+}
+
 TEST_F(WorldTest, SetsFrenchAsItIsPrinted) {
   // Windows-1252: a blank where a no-break space belongs, or a typewriter's apostrophe.
   const std::regex wrong(" [:;!?\xBB]|\xAB |'");
@@ -259,7 +293,7 @@ TEST_F(WorldTest, ListsPlantsStonesAndTeachersInEveryLanguage) {
 
 TEST_F(WorldTest, SetsFrenchPagesAsFrenchIsSet) {
   const std::regex tag("<b>[^<]*</b>|<[^>]*>");
-  const std::regex breakable(" [:;!?»]|« ");
+  const std::regex breakable(" [:;!?]| »|« ");
   const Text own = LanguageRoot + u"Français/";
   std::vector<TextView> pages = {u"orvalis.html", u"readme.html"};
   for (const Extra& extra : ExtrasTable)
