@@ -7,8 +7,10 @@
 #include "support/StartedLanguage.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <regex>
 #include <set>
 
@@ -24,7 +26,13 @@ const Text German = World + u"info.data";
 constexpr TextView Languages[] = {u"English", u"Français"};
 constexpr TextView Regions[] = {u"arvenna", u"skaldor", u"sarrakh", u"ostrakh", u"ancestors"};
 constexpr TextView PlantSections[] = {u"dragonroots", u"goblinberries", u"kings sorrels"};
+constexpr TextView AskedFor[] = {u"teachers", u"merchants", u"quest npcs", u"friendsX"};
 constexpr size_t MostMarkers = 81;
+constexpr size_t FewestDescriptions = 400;
+// A run of this many words in two descriptions reads as if one had been copied, unless it holds
+// the name of an entity.
+constexpr size_t CopiedRun = 6;
+constexpr TextView NameSign = u"¤";
 // Begins names that are put together from this word and another entry.
 constexpr TextView Temple = u"Tempel von";
 
@@ -55,6 +63,37 @@ std::string PageOf(TextView folder, TextView document) {
   const Text path = Texts::Join(folder, document.substr(0, document.rfind(u'.')), u".html");
   std::ifstream page(Bytes(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(page), {}};
+}
+
+Text InfoOf(TextView folder) {
+  return folder == LOCAL::German ? German : Texts::Join(LanguageRoot, folder, u"/info.data");
+}
+
+bool IsLetter(char16_t unit) {
+  const bool ascii = unit < 0x80 && std::isalnum(unit) != 0;
+  return ascii || (unit >= u'À' && unit < u'\u2000') || unit == NameSign.front();
+}
+
+// Every run of words without a name in the text, in lower case.
+std::set<Text> RunsOf(TextView text) {
+  std::vector<Text> words(1);
+  for (const char16_t unit : Texts::Lower(Texts::ReplaceAll(text, u"\\n", u" ")))
+    if (IsLetter(unit))
+      words.back() += unit;
+    else if (!words.back().empty())
+      words.emplace_back();
+  if (words.back().empty())
+    words.pop_back();
+
+  std::set<Text> runs;
+  for (size_t first = 0; first + CopiedRun <= words.size(); ++first) {
+    Text run;
+    for (size_t word = first; word < first + CopiedRun; ++word)
+      run += Texts::Join(u" ", words[word]);
+    if (run.find(NameSign) == Text::npos)
+      runs.insert(run);
+  }
+  return runs;
 }
 
 // What stands in the second column of a page's tables, each text once.
@@ -139,6 +178,35 @@ TEST_F(WorldTest, DescribesAndPicturesWhatIsThere) {
   }
 }
 
+TEST_F(WorldTest, TellsOfEveryoneWhoIsAskedAndOfWhatStandsOut) {
+  for (const Line& line : lines) {
+    const bool standsOut =
+        files.IniRead(line.dataFile, line.section, line.key, u"").ends_with(u'*');
+    if (standsOut || std::ranges::count(AskedFor, line.section) > 0)
+      ExpectEntry(German, u"info", line.key);
+  }
+  EXPECT_GE(files.IniReadFile(German, u"info").size(), FewestDescriptions);
+}
+
+TEST_F(WorldTest, NeverSaysTheSameTwice) {
+  for (const TextView folder : {LOCAL::German, Languages[0], Languages[1]}) {
+    StartedLanguage language(files, LanguageRoot, Text(folder));
+    std::vector<Text> shown;
+    for (const Text& name : names)
+      shown.push_back(language.IsGerman() ? name : language.Shown(files, name));
+    std::map<Text, Text> owners;
+    for (const Text& key : files.IniReadFile(InfoOf(folder), u"info")) {
+      Text text = InfoFile::ReadEntry(files, InfoOf(folder), key);
+      for (const Text& name : shown)
+        text = Texts::ReplaceAll(text, name, NameSign);
+      for (const Text& run : RunsOf(text)) {
+        const Text& owner = owners.try_emplace(run, key).first->second;
+        EXPECT_EQ(owner, key) << Bytes(folder) << ": " << Bytes(key) << " has" << Bytes(run);
+      }
+    }
+  }
+}
+
 TEST_F(WorldTest, PaintsPeopleAsTheyAreTold) {
   const Text pictures = World + u"PICS/pic.ini";
   for (const Text& key : files.IniReadFile(pictures, u"pics")) {
@@ -151,6 +219,16 @@ TEST_F(WorldTest, PaintsPeopleAsTheyAreTold) {
         EXPECT_EQ(marked, expected) << Bytes(key) << ": " << picture << " but " << told;
       }
     }
+  }
+}
+
+TEST_F(WorldTest, SetsFrenchAsItIsPrinted) {
+  // Windows-1252: a blank where a no-break space belongs, or a typewriter's apostrophe.
+  const std::regex wrong(" [:;!?\xBB]|\xAB |'");
+  for (const TextView file : {u"Français/info.data", u"Français/Français.lng"}) {
+    std::ifstream text(Bytes(LanguageRoot + Text(file)));
+    for (std::string line; std::getline(text, line);)
+      EXPECT_TRUE(line.starts_with(';') || !std::regex_search(line, wrong)) << line;
   }
 }
 
