@@ -77,7 +77,7 @@ Tone Ground::water(double depth, double x, double y) const {
   return tone.towards(style_.ink, 0.75 * (1 - SmoothStep(0.5, 1.3, units)));
 }
 
-// Pale ice, with cracks and drifts of snow.
+// Clear ice, with white cracks and drifts of snow.
 Tone Ground::frozen(const Tone& water, double depth, double x, double y) const {
   if (Terrain::DiscDepth(field_.shape->ice, {x, y}) <= 0) {
     return water;
@@ -86,8 +86,9 @@ Tone Ground::frozen(const Tone& water, double depth, double x, double y) const {
   const double crack = std::abs(Terrain::GradientNoise(seed, x / 15, y / 11));
   const double drift = FractalNoise(seed + 50, x / 22, y / 14, 4);
   const double cover = SmoothStep(0.6, 1.6, depth * DepthUnits);
-  return water.towards(style_.snow, cover * (0.72 + 0.24 * SmoothStep(-0.1, 0.3, drift)))
-      .towards(style_.deep, 0.4 * cover * (1 - SmoothStep(0.015, 0.05, crack)));
+  const Tone ice = style_.shallows.towards(style_.snow, 0.3 + 0.6 * SmoothStep(0.1, 0.45, drift));
+  return water.towards(ice, cover)
+      .towards(style_.snow, 0.85 * cover * (1 - SmoothStep(0.015, 0.05, crack)));
 }
 
 // Flagstones, worn and sunken in places.

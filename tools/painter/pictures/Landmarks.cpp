@@ -240,12 +240,24 @@ void Arena(Canvas& canvas, Random& random) {
   Gate(canvas, {50, 71}, 4, 9);
 }
 
+// Eight pillars in two rows.
 void Hall(Canvas& canvas, Random& random) {
   canvas.backdrop({126, 130, 150}, {30, 32, 44});
-  canvas.body(Angular({{0, 76}, {100, 76}, {110, 110}, {-10, 110}}), Rock.lit(0.9), 0);
-  canvas.body(Angular({{-4, 0}, {104, 0}, {92, 12}, {8, 12}}), Rock.lit(0.8));
-  Columns(canvas, 12, 82, 6, false, random);
-  canvas.glow({50, 70}, 40, Tone{160, 210, 255}.color(110));
+  canvas.body(Angular({{36, 70}, {64, 70}, {110, 110}, {-10, 110}}), Rock.lit(0.9), 0);
+  canvas.glow({50, 60}, 30, Tone{160, 210, 255}.color(150));
+  for (int pillar = 3; pillar >= 0; --pillar) {
+    const double x = 14 + pillar * 8.6;
+    const double half = 4.6 - pillar * 0.8;
+    const double top = 4 + pillar * 7.0 + random.between(0, 0.5);
+    const double bottom = 92 - pillar * 6.0;
+    canvas.pair(Angular({{x - half, top}, {x + half, top}, {x + half, bottom}, {x - half, bottom}}),
+                Masonry.lit(1.15 - pillar * 0.14));
+    canvas.pair(Angular({{x - half - 1, top - 3},
+                         {x + half + 1, top - 3},
+                         {x + half, top + 1},
+                         {x - half, top + 1}}),
+                Masonry.lit(0.9 - pillar * 0.1), 0.5);
+  }
 }
 
 void Obelisk(Canvas& canvas, Random& random) {
