@@ -1,5 +1,5 @@
 #!/bin/sh
-# Paints a region and some pictures twice, side by side: the same world gives the same pixels, and
+# Paints a region and some pictures twice, side by side: the same world gives the same pixels,
 # different names give different people, and every mark shows in a face.
 # usage: painter-repeats.sh PAINTER WORLD_DIR
 set -eu
@@ -12,9 +12,9 @@ paint() {
   mkdir "$1"
   "$painter" --region ostrakh "$world" "$1/ostrakh.png"
   for name in person-f-druid-edda person-m-druid-bram person-m-druid-sten creature-troll \
-    person-m-peasant-bram person-m-peasant-bram-young person-m-peasant-bram-old \
-    person-m-peasant-bram-beard person-m-peasant-bram-scar person-m-peasant-bram-patch \
-    person-m-peasant-bram-oneear person-m-peasant-bram-hat \
+    person-m-peasant-tarik person-m-peasant-tarik-young person-m-peasant-tarik-old \
+    person-m-peasant-tarik-beard person-m-peasant-tarik-scar person-m-peasant-tarik-patch \
+    person-m-peasant-tarik-oneear person-m-peasant-tarik-hat \
     place-ruin-edda place-wreck object-key object-crown nothing-known; do
     "$painter" --picture "$name.jpg" "$1/$name.png"
   done

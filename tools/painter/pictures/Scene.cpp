@@ -1,7 +1,6 @@
 #include "pictures/Scene.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "pictures/Landmarks.h"
 #include "pictures/Person.h"
@@ -167,29 +166,11 @@ void Monastery(Canvas& canvas, Random& random) {
   Gate(canvas, {28, 86}, 4, 11);
 }
 
-void Mill(Canvas& canvas, Random& random) {
-  PaintGround(canvas, random, Grass);
-  canvas.body(Angular({{36, 88}, {40, 44}, {60, 44}, {64, 88}}), {224, 210, 180});
-  canvas.body(Angular({{36, 45}, {50, 28}, {64, 45}}), Tiles);
-  Gate(canvas, {50, 88}, 5, 12);
-  const double turn = random.between(0.2, 1.2);
-  for (int sail = 0; sail < 4; ++sail) {
-    const double angle = turn + sail * 1.5708;
-    const QPointF way(std::cos(angle), std::sin(angle));
-    const QPointF aside(-way.y() * 6, way.x() * 6);
-    const QPointF hub(50, 44);
-    canvas.body(
-        Angular({hub + way * 8, hub + way * 34, hub + way * 34 + aside, hub + way * 8 + aside}),
-        {238, 230, 208}, 0.6);
-    canvas.line(hub, hub + way * 35, Wood.lit(0.6).color(), 2);
-  }
-}
-
-constexpr Landmark Kinds[] = {{"city", City},       {"village", Village},     {"fort", Fort},
-                              {"cave", Cave},       {"shrine", Shrine},       {"ruin", Ruin},
-                              {"temple", Temple},   {"camp", Camp},           {"tomb", Tomb},
-                              {"mine", Mine},       {"tower", WatchTower},    {"oasis", Oasis},
-                              {"harbour", Harbour}, {"monastery", Monastery}, {"mill", Mill}};
+constexpr Landmark Kinds[] = {{"city", City},       {"village", Village},    {"fort", Fort},
+                              {"cave", Cave},       {"shrine", Shrine},      {"ruin", Ruin},
+                              {"temple", Temple},   {"camp", Camp},          {"tomb", Tomb},
+                              {"mine", Mine},       {"tower", WatchTower},   {"oasis", Oasis},
+                              {"harbour", Harbour}, {"monastery", Monastery}};
 
 const Landmark* FindKind(std::string_view name) {
   for (const std::span<const Landmark> kinds : {std::span<const Landmark>(Kinds), Landmarks()}) {
