@@ -61,12 +61,12 @@ Target Web(TextView address, TextView afterScheme) {
 
 namespace Addresses {
 
-Target Judge(TextView uri) {
+Target Classify(TextView uri) {
   const TextView text = Unquoted(Texts::Trim(uri));
   if (text.empty() || text.front() == u'-')
     return {};
   if (Texts::Lower(text.substr(0, 4)) == u"www.")
-    return Judge(Texts::Join(u"http://", text));
+    return Classify(Texts::Join(u"http://", text));
   const Text scheme = SchemeOf(text);
   if (scheme.empty())
     return {Kind::Path, {}, Text(text)};

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr size_t LargestFile = size_t{16} * 1024 * 1024;
+constexpr size_t MaxFileSize = size_t{16} * 1024 * 1024;
 constexpr QSize StartSize(720, 600);
 
 std::string FolderOf(const std::string& path) {
@@ -37,7 +37,7 @@ class Browser : public QTextBrowser {
     if (!name.isRelative() || file.starts_with(u'/') || file.find(u"..") != Text::npos)
       return {};
     const auto found = FileSystem::Resolve(NativePath::FromBytes(folder_) + file);
-    const auto contents = found ? PosixFile::Read(*found, LargestFile) : std::nullopt;
+    const auto contents = found ? PosixFile::Read(*found, MaxFileSize) : std::nullopt;
     return contents ? QByteArray::fromStdString(contents->bytes) : QVariant();
   }
 
@@ -50,7 +50,7 @@ class Browser : public QTextBrowser {
 PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(parent) {
   setObjectName(QStringLiteral("pageWindow"));
   auto* browser = new Browser(this, FolderOf(path));
-  const auto page = PosixFile::Read(path, LargestFile);
+  const auto page = PosixFile::Read(path, MaxFileSize);
   // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
   const Text text = NativePath::EntryName(page ? page->bytes : std::string());
   if (PageLimits::Hold(text))
