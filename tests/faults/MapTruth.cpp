@@ -178,7 +178,7 @@ void MapTruth::ShowList(const Text& picture, const Text& data, const Text& categ
   listed_ = prompt_;
   IniOps::Snapshot files(cache_);
   rows_ = {prompt_};
-  for (const Text& name : EntityFile::ReadNames(files, data, category, language_))
+  for (const Text& name : EntityFile::ReadNames(files.File(data), category, files, language_))
     rows_ << ToQt(name);
 }
 
@@ -195,7 +195,7 @@ void MapTruth::ShowMarkers(const Text& picture, const Text& data, const Text& ca
 
 std::optional<EntityFile::Position> MapTruth::PositionOf(const QString& name) {
   IniOps::Snapshot files(cache_);
-  return EntityFile::ReadPicked(files, data_, category_, language_.Key(FromQt(name)));
+  return EntityFile::ReadPicked(files.File(data_), category_, language_.Key(FromQt(name)));
 }
 
 void MapTruth::Pick(const QString& name) {
@@ -255,7 +255,8 @@ std::vector<MapTruth::Spot> MapTruth::MarkersOfCategory() {
   std::vector<Spot> spots;
   IniOps::Snapshot files(cache_);
   int slot = 0;
-  for (const auto& marker : EntityFile::ReadMarkers(files, data_, category_, language_, Slots)) {
+  for (const auto& marker :
+       EntityFile::ReadMarkers(files.File(data_), category_, files, language_, Slots)) {
     if (!marker.disabled)
       spots.push_back({.at = PointOf(marker.position.x, marker.position.y) - QPoint(Before, Before),
                        .name = ToQt(marker.name),
