@@ -109,8 +109,7 @@ void ResizeWithMarkers(benchmark::State& state) {
 
 void ResizePictureAlone(benchmark::State& state) {
   Window window;
-  if (!window.View().LoadPicture(World().Picture(0)))
-    state.SkipWithError("the picture can't be read");
+  window.View().Change(World().Picture(0), World().Data(0), u"no category");
   int step = 0;
   for (auto _ : state)
     state.SetIterationTime(window.Step(step++));

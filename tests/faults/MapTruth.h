@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +30,9 @@ class MapTruth : public QObject {
   /// To be called for each dialog of the program when it opens.
   void Watch(QWidget& dialog);
 
+  /// To be called before each step: what the keyboard is on, which a zoom by key leaves in place.
+  void Begin();
+
   /// What is wrong with what the window shows, or with its focus; "" if nothing is.
   [[nodiscard]] std::string Fault();
 
@@ -40,7 +44,9 @@ class MapTruth : public QObject {
 
   // A marker and its name as they are to be seen.
   struct Spot {
-    QPoint at;
+    // Its position in the frame, and how many twips before that its corner stands.
+    QPoint point;
+    int before = 0;
     QString name;
     QString caption;
     bool highlighted = false;
@@ -58,18 +64,28 @@ class MapTruth : public QObject {
   void Pick(const QString& name);
   void ShowHit(const Search::Outcome& outcome);
   void Resized();
+  void Repeated();
   void SpeakAs(const InterfaceTexts& texts, const Text& file);
   [[nodiscard]] bool IsReadable(const Text& picture);
   [[nodiscard]] std::optional<EntityFile::Position> PositionOf(const QString& name);
   [[nodiscard]] std::vector<Spot> MarkersOfCategory();
   [[nodiscard]] std::vector<Spot> Spots();
+  void ShowWhole();
+  void Zoom(const QPoint& at, double factor);
+  void Pan(double right, double down);
+  void BringIntoView(const QPoint& corner);
+  void Clamp();
+  [[nodiscard]] bool CanZoom();
+  // Where a position is on the map, and the corner of its marker; in twips.
   [[nodiscard]] QPoint PointOf(int x, int y) const;
+  [[nodiscard]] QPoint InView(const Spot& spot) const;
+  [[nodiscard]] int Inside(const Spot& spot) const;
   [[nodiscard]] std::string FaultOf(const Spot& spot) const;
   [[nodiscard]] std::string FaultOfShown(const std::vector<Spot>& spots) const;
   [[nodiscard]] std::string FaultOfList() const;
   [[nodiscard]] std::string FaultOfFocus() const;
   [[nodiscard]] QWidget& Part(const QString& name) const;
-  [[nodiscard]] int NameLeft(const Spot& spot, int left, int width) const;
+  [[nodiscard]] int NameLeft(const Spot& spot, int width) const;
 
   QMainWindow& window_;
   QWidget& map_;
@@ -94,6 +110,12 @@ class MapTruth : public QObject {
   QStringList rows_;
   // Where the single marker stands and what its name says; none if there is nothing to see of it.
   std::optional<Spot> item_;
+  double scale_ = 1;
+  // What lies left of and above the map, in twips.
+  double left_ = 0;
+  double top_ = 0;
+  QSize size_;
+  QPoint anchor_;
   // The entity shown last, which a resize goes by where the list has no row selected.
   QString found_;
 };

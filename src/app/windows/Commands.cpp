@@ -56,7 +56,7 @@ void Commands::Run(const MenuRow& row) {
 }
 
 void Commands::ShowInfo() {
-  frmInfo(&mainWindow_, context_.paths, context_.language, context_.files, map_.InfoEntityName)
+  frmInfo(&mainWindow_, context_.paths, context_.language, context_.files, map_.InfoEntityName())
       .exec();
 }
 

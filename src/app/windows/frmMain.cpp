@@ -22,7 +22,8 @@ QSize StartSize(const QWidget& widget) {
 frmMain::frmMain(Context& context)
     : context_(context),
       menus_(new MenuBar(this)),
-      map_(new MapView(context.files, context.language, this)),
+      map_(new MapView(context.files, context.language, this,
+                       context.paths.programFolder + u"overview.jpg")),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
   setWindowTitle(ToQt(StartUp::Caption(context.edition)));

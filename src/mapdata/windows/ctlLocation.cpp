@@ -42,6 +42,11 @@ void ctlLocation::SetBackColor(int color) {
   update();
 }
 
+void ctlLocation::SetHighlighted(bool highlighted) {
+  highlighted_ = highlighted;
+  update();
+}
+
 bool ctlLocation::event(QEvent* event) {
   return PlainToolTip::Show(*this, *event) || QWidget::event(event);
 }
@@ -59,7 +64,7 @@ void ctlLocation::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ctlLocation::paintEvent(QPaintEvent*) {
   const double twipsPerPixel = WidgetTwips::ScreenOf(*this).twipsPerPixelX;
-  const int outline = borderColor_ == DarkRed ? OutlineWidth : HighlightedOutlineWidth;
+  const int outline = highlighted_ ? HighlightedOutlineWidth : OutlineWidth;
   const double width = outline / twipsPerPixel;
   const double diameter = Placement::MarkerSize / twipsPerPixel - width;
   QPainter painter(this);

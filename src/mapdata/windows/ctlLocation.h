@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A marker on the map: a filled circle of 160 x 160 twips with an outline and a tooltip that
-/// names the entity. Colours are red + 256 x green + 65536 x blue.
+/// A marker on the map: a filled circle of 160 x 160 twips with an outline and a tooltip that names
+/// the entity. Colours are red + 256 x green + 65536 x blue.
 class ctlLocation : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString Desc READ Desc WRITE SetDesc STORED false)
@@ -28,6 +28,12 @@ class ctlLocation : public QWidget {
 
   void ResetBorderColor() { SetBorderColor(DarkRed); }
 
+  /// Whether the entity stands out: a thicker outline, and what a screen reader says. The colours
+  /// are set apart from that.
+  [[nodiscard]] bool Highlighted() const { return highlighted_; }
+
+  void SetHighlighted(bool highlighted);
+
   [[nodiscard]] int BackColor() const { return backColor_; }
 
   void SetBackColor(int color);
@@ -50,4 +56,5 @@ class ctlLocation : public QWidget {
  private:
   int borderColor_ = DarkRed;
   int backColor_ = Gold;
+  bool highlighted_ = false;
 };

