@@ -69,7 +69,7 @@ void FillByKeyFile(benchmark::State& state) {
   for (auto _ : state) {
     std::vector<Record> records;
     const KeyFile info = Load(MeasuredWorld().Paths().infoData);
-    for (const ProgramPaths::Region& region : MeasuredWorld().Paths().regions) {
+    for (const ProgramPaths::RegionFiles& region : MeasuredWorld().Paths().regions) {
       const KeyFile data = Load(region.data);
       const Names sections(g_key_file_get_groups(data.get(), nullptr));
       for (char** section = sections.get(); *section; ++section)

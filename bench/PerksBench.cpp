@@ -52,7 +52,7 @@ const Region& TheRegion() {
 
 LOCAL::Language& German() {
   static LOCAL::Language language({});
-  language.CurrentLanguage = LOCAL::German;
+  language.CurrentLanguage() = LOCAL::German;
   return language;
 }
 

@@ -47,7 +47,7 @@ void PlainPass(benchmark::State& state, size_t records) {
     std::vector<std::string> names;
     const std::string info = Bytes(paths.infoData);
     const Values descriptions = Index(info);
-    for (const ProgramPaths::Region& region : paths.regions) {
+    for (const ProgramPaths::RegionFiles& region : paths.regions) {
       const std::string data = Bytes(region.data);
       const Values targets = Index(data);
       ForEachLine(data, [&](auto name, auto value) {

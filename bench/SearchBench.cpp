@@ -33,7 +33,7 @@ EntityCache Filled(const GeneratedWorld& world, LOCAL::Language& language) {
   IniOps::Cache cache;
   Snapshot files(cache);
   EntityCache entities;
-  for (const ProgramPaths::Region& region : world.Paths().regions)
+  for (const ProgramPaths::RegionFiles& region : world.Paths().regions)
     benchmark::DoNotOptimize(entities.CacheEntities(files, language, region));
   return entities;
 }

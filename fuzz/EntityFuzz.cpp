@@ -24,31 +24,34 @@ bool Fits(const EntityFile::Position& position) {
 }
 
 // Where the strictest reader finds a position, the others find the same.
-void ReadEntity(IniOps::Snapshot& files, TextView file, TextView section,
+void ReadEntity(const ProfileFile& file, std::string_view section,
                 const EntityFile::Marker& marker) {
   Require(Fits(marker.position), "a marker's position fits into 16 bits");
-  const auto found = EntityFile::ReadFound(files.File(file), Windows1252::Encode(section).value(),
-                                           Windows1252::Encode(marker.key).value());
-  Require(Fits(found.position), "a found position fits into 16 bits");
-  const auto picked = EntityFile::ReadPicked(files, file, section, marker.key);
+  const auto entity = EntityFile::Read(file, section, Windows1252::Encode(marker.key).value());
+  const auto found = EntityFile::FoundPosition(entity);
+  Require(!found || Fits(*found), "a found position fits into 16 bits");
+  Require(entity.position.empty() || file.PlaceOf(entity.position), "a value has its place");
+  const auto picked = EntityFile::PickedPosition(entity);
   if (!picked)
     return;
   Require(marker.position == *picked, "list and markers agree on whole numbers");
-  Require(found.position == *picked, "list and search agree on whole numbers");
+  Require(found == picked, "list and search agree on whole numbers");
 }
 
 void ReadWholeFile(TextView file) {
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
   GermanNames names;
-  for (const Text& section : files.IniSectionNames(file)) {
-    const auto markers = EntityFile::ReadMarkers(files, file, section, names, MostMarkers);
+  const ProfileFile& data = files.File(file);
+  for (const ProfileFile::Section& section : data.Sections()) {
+    const Text name = Windows1252::Decode(section.name);
+    const auto markers = EntityFile::ReadMarkers(data, name, files, names, MostMarkers);
     Require(markers.size() <= MostMarkers, "no more markers than slots");
-    Require(EntityFile::ReadNames(files, file, section, names).size() <=
-                files.IniReadFile(file, section).size(),
+    Require(EntityFile::ReadNames(data, name, files, names).size() <=
+                data.KeyNames(section.name).size(),
             "no more names than lines");
     for (const auto& marker : markers)
-      ReadEntity(files, file, section, marker);
+      ReadEntity(data, section.name, marker);
   }
 }
 
@@ -56,8 +59,8 @@ void ReadLine(std::string_view line) {
   const Text text = Windows1252::Decode(line);
   Require(Windows1252::Encode(text) == line, "every byte of the code page comes back");
   Require(NativePath::ToBytes(NativePath::FromBytes(line)) == line, "every path comes back");
-  const auto whole = StringOps::WholeNumber(text);
-  Require(!whole || *whole == StringOps::LeadingNumber(text), "a whole number is its own start");
+  const auto whole = StringOps::WholeNumber(line);
+  Require(!whole || *whole == StringOps::LeadingNumber(line), "a whole number is its own start");
   Text joined;
   for (int n = 1; joined.size() < text.size() + 1; ++n)
     joined.append(StringOps::GetSplitField(text, n, u",")).append(u",");

@@ -16,8 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
   LOCAL::Language language(u"");
-  language.LanguageFile = file.Path();
-  language.CurrentLanguage = u"Other";
+  language.LanguageFile() = file.Path();
+  language.CurrentLanguage() = u"Other";
   language.CacheTranslationTable(files);
   ScannedNames rule(file.Path());
   rule.CacheTranslationTable(files);

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "app/StartUp.h"
+#include "app/World.h"
 #include "auxwin/Launching.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
 #include "search/Search.h"
 
 class Desktop;
@@ -12,14 +9,11 @@ class Desktop;
 /// Everything that lives as long as the program and that more than one window needs. Made once in
 /// `main` and handed on by reference.
 struct Context {
-  /// Reads the settings of the program in this folder.
-  Context(const Text& programFolder, Desktop& desktop);
+  Context(World& opened, Desktop& ofUser)
+      : world(opened), desktop(ofUser), launching(opened.paths, ofUser) {}
 
+  World& world;
   Desktop& desktop;
-  IniOps::Cache files;
-  ProgramPaths paths;
-  StartUp::Edition edition;
-  LOCAL::Language language;
   Search::State search;
   Launching launching;
 };

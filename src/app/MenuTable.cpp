@@ -308,7 +308,7 @@ constexpr auto FindExtrasHelp = std::to_array<MenuRow>({
 });
 
 template <size_t Size>
-constexpr std::array<MenuRow, Size> InRegion(int region, std::array<MenuRow, Size> rows) {
+constexpr std::array<MenuRow, Size> InRegion(Region region, std::array<MenuRow, Size> rows) {
   for (MenuRow& row : rows)
     row.region = region;
   return rows;
@@ -322,8 +322,8 @@ constexpr auto Joined(const std::array<MenuRow, Sizes>&... parts) {
   return all;
 }
 
-constexpr auto All = Joined(File, InRegion(0, Arvenna), InRegion(1, Skaldor), InRegion(2, Sarrakh),
-                            BarDivider(u"sep13"), InRegion(3, Ostrakh), InRegion(4, Ancestors),
+constexpr auto All = Joined(File, InRegion(Region::Arvenna, Arvenna), InRegion(Region::Skaldor, Skaldor), InRegion(Region::Sarrakh, Sarrakh),
+                            BarDivider(u"sep13"), InRegion(Region::Ostrakh, Ostrakh), InRegion(Region::Ancestors, Ancestors),
                             BarDivider(u"sep40"), FindExtrasHelp);
 
 }  // namespace

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "i18n/InterfaceTexts.h"
+#include "mapdata/world/Regions.h"
 #include "platform/Text.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -47,8 +49,8 @@ struct MenuRow {
   bool divided = false;
   /// False for what has nothing to act on when the program starts.
   bool enabled = true;
-  /// Index into `ProgramPaths::regions`; -1 outside the regions' menus.
-  int region = -1;
+  /// None outside the regions' menus.
+  std::optional<Region> region = std::nullopt;
 };
 
 /// The menu bar as data, from left to right and from top to bottom.

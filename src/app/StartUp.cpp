@@ -1,88 +1,29 @@
 #include "app/StartUp.h"
 
-#include "i18n/LOCAL.h"
-#include "mapdata/files/FileSystem.h"
-#include "mapdata/world/Settings.h"
 #include "platform/NativePath.h"
 #include "platform/ProgramInfo.h"
 
-#include <array>
-
-using FileSystem::Separator;
 using Texts::Join;
 
-namespace {
-
-constexpr std::array<TextView, 5> RegionStems = {u"arvenna", u"skaldor", u"sarrakh", u"ostrakh",
-                                                 u"ancestors"};
-
-Text Ui(IniOps::Snapshot& files, const LOCAL::Language& language, TextView key) {
-  return files.IniRead(language.LanguageFile, u"ui", key, u"");
-}
-
-}  // namespace
-
 namespace StartUp {
-
-ProgramPaths ComposePaths(IniOps::Snapshot& files, const Text& programFolder) {
-  ProgramPaths paths;
-  const Text base = Join(programFolder, Separator);
-  const auto folder = [&](const Settings::Entry& entry) {
-    return Join(base, Settings::Read(files, paths.settings, entry), Separator);
-  };
-  paths.programFolder = base;
-  paths.settings = Join(base, u"orvalis.ini");
-  paths.extrasFolder = folder(Settings::ExtrasFolder);
-  paths.picturesFolder = folder(Settings::PicturesFolder);
-  paths.languageRoot = folder(Settings::LanguageRoot);
-  paths.infoData = Join(base, u"info.data");
-  for (size_t i = 0; i < RegionStems.size(); ++i)
-    paths.regions[i] = {Join(base, RegionStems[i], u".data"), Join(base, RegionStems[i], u".jpg")};
-  return paths;
-}
-
-Edition ReadEdition(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  Edition edition;
-  edition.withoutExtras = Settings::IsYes(files, paths.settings, Settings::NoExtras);
-  edition.withoutLanguages = Settings::IsYes(files, paths.settings, Settings::NoLang);
-  if (edition.withoutExtras)
-    edition.text = u"Lite";
-  if (edition.withoutLanguages)
-    edition.text =
-        Join(edition.text, u" ",
-             Texts::Trim(Settings::Read(files, paths.settings, Settings::LocalizedString)));
-  return edition;
-}
 
 Text Caption(const Edition& edition) {
   return Join(ProgramInfo::Title, u" ", ProgramInfo::Version, u" ", edition.text);
 }
 
-Text ChosenLanguage(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  const Text setting = Settings::Read(files, paths.settings, Settings::Language);
-  const TextView chosen = Texts::Trim(setting);
-  return Text(chosen.empty() ? LOCAL::German : chosen);
-}
-
-std::optional<Text> MissingFile(const ProgramPaths& paths) {
-  for (const auto file : {&ProgramPaths::Region::data, &ProgramPaths::Region::picture})
-    for (const ProgramPaths::Region& region : paths.regions)
-      if (!FileSystem::FileExists(region.*file))
-        return region.*file;
-  return std::nullopt;
-}
-
-Message FileNotFound(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& languageFolder,
-                     const Text& missing) {
-  LOCAL::Language language(paths.infoData);
-  language.StartUp(files, paths.languageRoot, languageFolder);
+Message FileNotFound(World& world, const Text& languageFolder, const Text& missing) {
+  IniOps::Snapshot files(world.cache);
+  world.language.Start(files, languageFolder);
   const Text shown = NativePath::ForDisplay(missing);
-  if (language.IsGerman())
+  if (world.language.IsGerman())
     return {Join(u"Die folgende Datei fehlt: ", shown,
                  u"\r\nDas Programm kann nicht fortgesetzt werden."),
             u"Fehler"};
-  const Text text = Texts::ReplaceAll(Ui(files, language, u"FileNotFound"), u"%s", shown);
-  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"), Ui(files, language, u"FileNotFoundCaption")};
+  const auto read = [&](TextView key) {
+    return files.IniRead(world.language.LanguageFile(), u"ui", key, u"");
+  };
+  const Text text = Texts::ReplaceAll(read(u"FileNotFound"), u"%s", shown);
+  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"), read(u"FileNotFoundCaption")};
 }
 
 }  // namespace StartUp

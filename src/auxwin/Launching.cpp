@@ -5,31 +5,41 @@
 #include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 
-#include <filesystem>
+#include <string_view>
 
 namespace {
 
 constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
 constexpr auto Pages = "text/html";
 
-// Without "." and ".." parts, whatever they would lead out of.
-std::string Plain(TextView path) {
-  return std::filesystem::path(NativePath::ToBytes(path)).lexically_normal().native();
+bool LeadsUp(std::string_view path) {
+  for (size_t at = path.find(".."); at != std::string_view::npos; at = path.find("..", at + 1))
+    if (path[at - 1] == '/' && (at + 2 == path.size() || path[at + 2] == '/'))
+      return true;
+  return false;
 }
 
-bool IsBelow(TextView path, TextView folder) {
-  return Plain(path).starts_with(Plain(folder));
-}
-
-std::string BytesToOpen(TextView path) {
-  return FileSystem::FileExists(path) ? FileSystem::Resolve(path).value_or("") : std::string();
+// Judged is what will be opened, not how it was asked for. Links may lead out of the folder: a
+// package's program folder is made of them.
+bool IsBelow(std::string_view file, TextView folder) {
+  const auto resolved = FileSystem::Resolve(folder);
+  if (!resolved)
+    return false;
+  std::string_view root = *resolved;
+  while (root.ends_with('/'))
+    root.remove_suffix(1);
+  return file.starts_with(root) && file.substr(root.size()).starts_with('/') &&
+         !LeadsUp(file.substr(root.size()));
 }
 
 }  // namespace
 
-bool Launching::IsAllowed(TextView path) const {
-  return path.starts_with(FileSystem::Separator) &&
-         (IsBelow(path, paths_.programFolder) || IsBelow(path, paths_.languageRoot));
+Launching::Judged Launching::Judge(TextView path) const {
+  const auto file = FileSystem::FileExists(path) ? FileSystem::Resolve(path) : std::nullopt;
+  if (!file)
+    return {Desktop::FileMissing, {}};
+  const bool allowed = IsBelow(*file, paths_.programFolder) || IsBelow(*file, paths_.languageRoot);
+  return {allowed ? Desktop::Started : Desktop::Refused, *file};
 }
 
 Desktop::Result Launching::ShellExec(TextView URI) {
@@ -48,38 +58,33 @@ Desktop::Result Launching::ShellExec(TextView URI) {
 
 Desktop::Result Launching::OpenDocument(TextView path) {
   const Text page = Documents::PageBeside(path);
-  if (!page.empty() && IsAllowed(path))
+  if (!page.empty())
     return OpenHelp(path, page);
-  const std::string bytes = BytesToOpen(path);
-  if (bytes.empty())
-    return Desktop::FileMissing;
-  return IsAllowed(path) ? desktop_.Open(bytes) : Desktop::Refused;
+  const auto [result, file] = Judge(path);
+  return result == Desktop::Started ? desktop_.Open(file) : result;
 }
 
 Desktop::Result Launching::OpenHelp(TextView path, TextView page) {
-  const std::string bytes = BytesToOpen(path);
-  if (!bytes.empty() && desktop_.HasViewer(HelpFiles) && desktop_.Open(bytes) == Desktop::Started)
+  const auto [result, file] = Judge(path);
+  if (result == Desktop::Started && desktop_.HasViewer(HelpFiles) &&
+      desktop_.Open(file) == Desktop::Started)
     return Desktop::Started;
   const Desktop::Result asPage = ShowPage(page);
-  return asPage == Desktop::FileMissing && !bytes.empty() ? Desktop::Refused : asPage;
+  return asPage == Desktop::FileMissing && !file.empty() ? Desktop::Refused : asPage;
 }
 
 Desktop::Result Launching::ShowPage(TextView path) {
-  const std::string bytes = BytesToOpen(path);
-  if (bytes.empty())
-    return Desktop::FileMissing;
-  if (!IsAllowed(path))
-    return Desktop::Refused;
-  if (!desktop_.HasViewer(Pages) || desktop_.Open(bytes) != Desktop::Started)
-    desktop_.ShowPage(bytes);
+  const auto [result, file] = Judge(path);
+  if (result != Desktop::Started)
+    return result;
+  if (!desktop_.HasViewer(Pages) || desktop_.Open(file) != Desktop::Started)
+    desktop_.ShowPage(file);
   return Desktop::Started;
 }
 
 Desktop::Result Launching::StartProgram(TextView path) {
-  const std::string bytes = BytesToOpen(path);
-  if (bytes.empty())
-    return Desktop::FileMissing;
-  if (!IsAllowed(path))
-    return Desktop::Refused;
-  return desktop_.StartProgram(bytes, NativePath::ToBytes(paths_.programFolder));
+  const auto [result, file] = Judge(path);
+  return result == Desktop::Started
+             ? desktop_.StartProgram(file, NativePath::ToBytes(paths_.programFolder))
+             : result;
 }

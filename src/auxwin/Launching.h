@@ -22,7 +22,13 @@ class Launching {
   Desktop::Result StartProgram(TextView path);
 
  private:
-  [[nodiscard]] bool IsAllowed(TextView path) const;
+  // A file to open, in the system's bytes; `result` says why it is not to be opened.
+  struct Judged {
+    Desktop::Result result;
+    std::string file;
+  };
+
+  [[nodiscard]] Judged Judge(TextView path) const;
   Desktop::Result OpenDocument(TextView path);
   Desktop::Result OpenHelp(TextView path, TextView page);
 

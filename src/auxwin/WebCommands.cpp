@@ -56,7 +56,7 @@ void WebCommands::OpenWebSite(TextView command) {
     IniOps::Cache afresh;
     IniOps::Snapshot files(afresh);
     const Text setting =
-        row.setting ? Settings::Read(files, paths_.settings, *row.setting) : Text();
+        row.setting ? Settings::Read(files.File(paths_.settings), *row.setting) : Text();
     const TextView address = Texts::Trim(setting);
     launching_.ShellExec(address.empty() ? row.address : address);
     return;

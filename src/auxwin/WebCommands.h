@@ -1,16 +1,15 @@
 #pragma once
 
+#include "app/World.h"
 #include "auxwin/Launching.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
 /// The commands that open help, the read-me and addresses of the web. They keep nothing: each
 /// click reads the settings afresh. Nothing is reported if something can't be opened.
 class WebCommands {
  public:
-  WebCommands(const ProgramPaths& paths, const LOCAL::Language& language, Launching& launching)
-      : paths_(paths), language_(language), launching_(launching) {}
+  WebCommands(const World& world, Launching& launching)
+      : paths_(world.paths), language_(world.language), launching_(launching) {}
 
   /// Opens the help of the chosen language, the program's own if that can't be opened.
   void miHelp_Click();

@@ -10,7 +10,7 @@ constexpr TextView Ui = u"ui";
 InterfaceTexts Translate_UI(IniOps::Snapshot& files, const LOCAL::Language& language,
                             std::span<const MenuCaption> menus) {
   const auto read = [&](TextView section, TextView key, TextView english) {
-    return files.IniRead(language.LanguageFile, section, key, english);
+    return files.IniRead(language.LanguageFile(), section, key, english);
   };
   InterfaceTexts texts;
   texts.menus.reserve(menus.size());

@@ -12,7 +12,7 @@ constexpr std::string_view EntitiesHeader = "entities";
 
 // No name that a person wrote is near it. Words whose translations hold other words could
 // otherwise fill the memory.
-constexpr size_t LongestName = 4 * IniOps::LongestValue;
+constexpr size_t LongestName = 4 * ProfileFile::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
   if (by.size() <= part.size())
@@ -49,27 +49,32 @@ Text FileOfLanguage(TextView root, TextView folder, TextView suffix) {
   return Texts::Join(root, folder, FileSystem::Separator, folder, suffix);
 }
 
-Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, TextView english,
-                      TextView german) const {
-  return IsGerman() ? Text(german) : files.IniRead(LanguageFile, section, key, english);
+Language::Language(const ProgramPaths& paths)
+    : germanInfoPath_(paths.infoData), languageRoot_(paths.languageRoot) {
+  for (const RegionRow& row : Regions)
+    RegionWords_[static_cast<size_t>(row.region)].word = row.word;
 }
 
-void Language::StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder) {
-  LanguageRoot = root;
-  LanguageFile = FileOfLanguage(root, folder, u".lng");
-  LanguageFolder = folder;
-  CurrentLanguage = files.IniRead(LanguageFile, u"general", u"language", German);
+Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, TextView english,
+                      TextView german) const {
+  return IsGerman() ? Text(german) : files.IniRead(languageFile_, section, key, english);
+}
+
+void Language::Start(IniOps::Snapshot& files, const Text& folder) {
+  languageFile_ = FileOfLanguage(languageRoot_, folder, u".lng");
+  languageFolder_ = folder;
+  currentLanguage_ = files.IniRead(languageFile_, u"general", u"language", German);
 }
 
 void Language::Choose(IniOps::Snapshot& files, const Text& file) {
-  LanguageFile = file;
+  languageFile_ = file;
   if (file == BuiltIn) {
-    CurrentLanguage = German;
-    LanguageFolder = German;
+    currentLanguage_ = German;
+    languageFolder_ = German;
     return;
   }
-  CurrentLanguage = Trim(files.IniRead(file, u"general", u"language", u""));
-  LanguageFolder = Trim(FileSystem::GetBaseName(file));
+  currentLanguage_ = Trim(files.IniRead(file, u"general", u"language", u""));
+  languageFolder_ = Trim(FileSystem::GetBaseName(file));
 }
 
 bool Language::IsToBeOffered(TextView systemLanguage) const {
@@ -77,17 +82,17 @@ bool Language::IsToBeOffered(TextView systemLanguage) const {
 }
 
 void Language::CacheTranslationTable(IniOps::Snapshot& files) {
-  if (CurrentLanguage.empty())
-    CurrentLanguage = German;
+  if (currentLanguage_.empty())
+    currentLanguage_ = German;
   if (IsGerman())
     return;
-  tableFile_ = files.Shared(LanguageFile);
+  tableFile_ = files.Shared(languageFile_);
   EntityKeys_ = PrefixIndex(tableFile_->KeyNames(EntitiesHeader));
   file_ = nullptr;
 }
 
-void Language::Refresh(IniOps::Snapshot& files) {
-  const auto& now = files.Shared(LanguageFile);
+void Language::Refresh(IniOps::Snapshot& files) const {
+  const auto& now = files.Shared(languageFile_);
   if (file_ == now)
     return;
   file_ = now;
@@ -99,14 +104,14 @@ void Language::Refresh(IniOps::Snapshot& files) {
   values_.assign(EntityKeys_.size(), std::nullopt);
 }
 
-const Text& Language::ValueOf(size_t key) {
+const Text& Language::ValueOf(size_t key) const {
   auto& value = values_[key];
   if (!value)
     value = IniOps::IniRead(*file_, Entities, EntityKeys_[key], u"");
   return *value;
 }
 
-Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
+Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) const {
   Refresh(files);
   Text replaced;
   TextView shown = Trim(name);
@@ -116,7 +121,7 @@ Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) {
   return key ? ReplacedKey(shown, EntityKeys_[*key], ValueOf(*key)) : Text(shown);
 }
 
-void Language::IndexTranslations() {
+void Language::IndexTranslations() const {
   std::vector<Text> translations;
   translations.reserve(EntityKeys_.size());
   for (size_t key = 0; key < EntityKeys_.size(); ++key) {
@@ -128,7 +133,7 @@ void Language::IndexTranslations() {
   tableFile_ = nullptr;
 }
 
-Text Language::UnlocalizeEntityName(TextView text) {
+Text Language::UnlocalizeEntityName(TextView text) const {
   if (tableFile_)
     IndexTranslations();
   Text replaced;
@@ -140,19 +145,19 @@ Text Language::UnlocalizeEntityName(TextView text) {
                 : Text(name);
 }
 
-Text Language::Shown(IniOps::Snapshot& files, TextView key) {
+Text Language::Shown(IniOps::Snapshot& files, TextView key) const {
   return IsGerman() ? Text(key) : LocalizeEntityName(files, key);
 }
 
-Text Language::Key(TextView shown) {
+Text Language::Key(TextView shown) const {
   return IsGerman() ? Text(shown) : UnlocalizeEntityName(shown);
 }
 
-Text Language::InfoFile() {
+Text Language::InfoPath() const {
   if (IsGerman())
-    return programInfoFile_;
-  Text own = Texts::Join(LanguageRoot, CurrentLanguage, FileSystem::Separator, u"info.data");
-  return FileSystem::FileExists(own) ? own : programInfoFile_;
+    return germanInfoPath_;
+  Text own = Texts::Join(languageRoot_, currentLanguage_, FileSystem::Separator, u"info.data");
+  return FileSystem::FileExists(own) ? own : germanInfoPath_;
 }
 
 }  // namespace LOCAL

@@ -3,6 +3,7 @@
 #include "i18n/PrefixIndex.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityNames.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
 #include <array>
@@ -29,28 +30,31 @@ inline constexpr TextView BuiltIn = u"*";
 /// descriptions, `LanguageFolder` documents and flag, `LanguageFile` the look-ups.
 class Language : public EntityNames {
  public:
-  /// `programInfoFile` is the path of the German descriptions.
-  explicit Language(Text programInfoFile) : programInfoFile_(std::move(programInfoFile)) {}
+  /// German, until another language is chosen.
+  explicit Language(const ProgramPaths& paths);
 
   /// The declared name of the active language.
-  Text CurrentLanguage;
-  /// The chosen language's folder name.
-  Text LanguageFolder;
-  /// The folder of all languages, with a separator at its end.
-  Text LanguageRoot;
-  /// The active language's file; "*" after German was chosen.
-  Text LanguageFile;
+  [[nodiscard]] const Text& CurrentLanguage() const { return currentLanguage_; }
 
-  [[nodiscard]] bool IsGerman() const { return CurrentLanguage == German; }
+  /// The chosen language's folder name.
+  [[nodiscard]] const Text& LanguageFolder() const { return languageFolder_; }
+
+  /// The folder of all languages, with a separator at its end.
+  [[nodiscard]] const Text& LanguageRoot() const { return languageRoot_; }
+
+  /// The active language's file; "*" after German was chosen.
+  [[nodiscard]] const Text& LanguageFile() const { return languageFile_; }
+
+  [[nodiscard]] bool IsGerman() const { return currentLanguage_ == German; }
 
   /// The text a window shows: `german` while German is active, else the entry of the language
   /// file, `english` where that is missing or empty.
   [[nodiscard]] Text Lookup(IniOps::Snapshot& files, TextView section, TextView key,
                             TextView english, TextView german) const;
 
-  /// Chooses the language of the folder `folder` under the language root `root`; German if that
-  /// holds no language file which declares its name.
-  void StartUp(IniOps::Snapshot& files, const Text& root, const Text& folder);
+  /// Chooses the language of a folder under the language root; German if that holds no language
+  /// file which declares its name.
+  void Start(IniOps::Snapshot& files, const Text& folder);
 
   /// Chooses the language of a language file, or German with `BuiltIn`. The name it declares may
   /// be empty until the table of entity names is built.
@@ -64,14 +68,14 @@ class Language : public EntityNames {
   void CacheTranslationTable(IniOps::Snapshot& files);
 
   /// The name shown for an entity key in a language that is not German.
-  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name);
+  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name) const;
 
   /// The entity key behind a name that `LocalizeEntityName` gave.
-  [[nodiscard]] Text UnlocalizeEntityName(TextView text);
+  [[nodiscard]] Text UnlocalizeEntityName(TextView text) const;
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) override;
-  [[nodiscard]] Text Key(TextView shown) override;
-  [[nodiscard]] Text InfoFile() override;
+  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) const override;
+  [[nodiscard]] Text Key(TextView shown) const override;
+  [[nodiscard]] Text InfoPath() const override;
 
  private:
   struct RegionWord {
@@ -80,25 +84,25 @@ class Language : public EntityNames {
     Text translation;
   };
 
-  void Refresh(IniOps::Snapshot& files);
-  const Text& ValueOf(size_t key);
-  void IndexTranslations();
+  void Refresh(IniOps::Snapshot& files) const;
+  const Text& ValueOf(size_t key) const;
+  void IndexTranslations() const;
 
-  Text programInfoFile_;
+  Text germanInfoPath_;
+  Text currentLanguage_{German};
+  Text languageFolder_{German};
+  Text languageRoot_;
+  Text languageFile_{BuiltIn};
   PrefixIndex EntityKeys_;
-  std::array<RegionWord, 5> RegionWords_ = {{{u"Arvenna", {}},
-                                             {u"Skaldor", {}},
-                                             {u"Sarrakh", {}},
-                                             {u"Ostrakh", {}},
-                                             {u"Tempel von", {}}}};
+  mutable std::array<RegionWord, Regions.size()> RegionWords_;
   // The language file as names were last translated from it: its region words are in use, and
   // the values of keys that were met since.
-  std::shared_ptr<const ProfileFile> file_;
-  std::vector<std::optional<Text>> values_;
+  mutable std::shared_ptr<const ProfileFile> file_;
+  mutable std::vector<std::optional<Text>> values_;
   // The language file as the table was built from it, until the translations are wanted: most
   // events only translate one way.
-  std::shared_ptr<const ProfileFile> tableFile_;
-  PrefixIndex EntityTranslations_;
+  mutable std::shared_ptr<const ProfileFile> tableFile_;
+  mutable PrefixIndex EntityTranslations_;
 };
 
 }  // namespace LOCAL

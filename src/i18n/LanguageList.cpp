@@ -62,7 +62,7 @@ InterfaceTexts Select(IniOps::Snapshot& files, LOCAL::Language& language, TextVi
                       const Text& file, std::span<const MenuCaption> menus) {
   language.Choose(files, file);
   IniOps::IniWrite(settings, Settings::Language.section, Settings::Language.key,
-                   language.LanguageFolder);
+                   language.LanguageFolder());
   if (language.IsGerman())
     return RestoreGerman(menus);
   InterfaceTexts texts = Translate_UI(files, language, menus);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mapdata/files/NameTable.h"
 #include "platform/Text.h"
 
 #include <array>
@@ -30,24 +31,16 @@ class PrefixIndex {
   [[nodiscard]] size_t size() const { return ends_.size(); }
 
  private:
-  // A slot of an open-addressing table over the texts' hashes.
-  struct Slot {
-    uint32_t hash = 0;
-    uint32_t number = 0;
-  };
-
   void AddAll();
   void Add(uint32_t number);
   void AddLength(TextView prefix);
-  // Where the first text of that hash stands, or would.
-  [[nodiscard]] size_t SlotOf(uint32_t hash) const;
   [[nodiscard]] std::optional<size_t> Scan(TextView text) const;
 
   // All texts one behind the other, and where each ends: thousands of small ones cost more to
   // allocate than to read.
   Text joined_;
   std::vector<size_t> ends_;
-  std::vector<Slot> slots_;
+  HashTable table_;
   // The lengths of the texts, a bit each, by the low bits of their first unit: most lengths need no
   // look into the table. The last bit stands for every length from its own on.
   std::array<uint64_t, 64> lengths_{};

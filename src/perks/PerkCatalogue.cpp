@@ -10,12 +10,6 @@ namespace {
 constexpr TextView Prefix = u"perk ";
 constexpr char16_t CaseDistance = u'a' - u'A';
 
-// Spells stand in the language files under their own names; they are the neighbours from this
-// perk to that one, and the two basic values.
-constexpr TextView FirstSpell = u"perk Amnesia";
-constexpr TextView LastSpell = u"perk Word of dominance";
-constexpr std::array<TextView, 2> BasicValues = {u"perk Endurance", u"perk Health"};
-
 // Perk keys hold ASCII letters only.
 char16_t Upper(char16_t unit) {
   return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - CaseDistance) : unit;
@@ -23,16 +17,6 @@ char16_t Upper(char16_t unit) {
 
 TextView WithoutPrefix(TextView key) {
   return key.substr(Prefix.size());
-}
-
-const Perk* ByKey(TextView key) {
-  return std::find_if(Perks.begin(), Perks.end(), [key](const Perk& p) { return p.key == key; });
-}
-
-bool KeepsItsKey(const Perk& perk) {
-  const Perk* row = ByKey(perk.key);
-  const bool spell = row >= ByKey(FirstSpell) && row <= ByKey(LastSpell);
-  return spell || std::find(BasicValues.begin(), BasicValues.end(), perk.key) != BasicValues.end();
 }
 
 // A word of a language key: a capital first, the numbers two and three as Roman numerals.
@@ -50,13 +34,14 @@ namespace PerkCatalogue {
 const Perk* Find(TextView key) {
   if (!key.starts_with(Prefix))
     return nullptr;
-  const auto found = ByKey(key);
+  const auto found =
+      std::find_if(Perks.begin(), Perks.end(), [key](const Perk& p) { return p.key == key; });
   return found == Perks.end() ? nullptr : found;
 }
 
 Text LanguageKey(const Perk& perk) {
   TextView rest = WithoutPrefix(perk.key);
-  if (KeepsItsKey(perk))
+  if (perk.keepsName)
     return Text(rest);
   Text key;
   while (!rest.empty()) {

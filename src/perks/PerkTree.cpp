@@ -1,6 +1,7 @@
 #include "perks/PerkTree.h"
 
 #include "mapdata/files/StringOps.h"
+#include "mapdata/world/Regions.h"
 #include "perks/PerkCatalogue.h"
 
 #include <algorithm>
@@ -17,23 +18,23 @@ constexpr TextView RegionSign = u"%s";
 constexpr TextView PictureExtension = u"jpg";
 
 struct PerkedRegion {
-  TextView dataFile;
-  TextView name;
+  Region region;
   TextView headingKey;
   TextView germanHeading;
 };
 
 constexpr std::array<PerkedRegion, 3> PerkedRegions = {{
-    {u"arvenna.data", u"Arvenna", u"ArvennaTeachersFor", u"Arvenna: Lehrer für"},
-    {u"skaldor.data", u"Skaldor", u"SkaldorTeachersFor", u"Skaldor: Lehrer für"},
-    {u"sarrakh.data", u"Sarrakh", u"SarrakhTeachersFor", u"Sarrakh: Lehrer für"},
+    {Region::Arvenna, u"ArvennaTeachersFor", u"Arvenna: Lehrer für"},
+    {Region::Skaldor, u"SkaldorTeachersFor", u"Skaldor: Lehrer für"},
+    {Region::Sarrakh, u"SarrakhTeachersFor", u"Sarrakh: Lehrer für"},
 }};
 
 // The last one that the path names: a folder may be called like a data file.
 const PerkedRegion* RegionOf(TextView perksData) {
   const auto found = std::find_if(PerkedRegions.rbegin(), PerkedRegions.rend(),
                                   [perksData](const PerkedRegion& region) {
-                                    return StringOps::StrContains(perksData, region.dataFile);
+                                    return StringOps::StrContains(
+                                        perksData, Join(RowOf(region.region).stem, u".data"));
                                   });
   return found == PerkedRegions.rend() ? nullptr : &*found;
 }
@@ -50,7 +51,7 @@ namespace PerkTree {
 
 Text PerkRegion(TextView perksData) {
   const PerkedRegion* region = RegionOf(perksData);
-  return Text(region ? region->name : TextView());
+  return Text(region ? RowOf(region->region).word : TextView());
 }
 
 Text WindowCaption(const Region& region, const Lookup& lookup) {

@@ -28,8 +28,9 @@ class Desktop {
   /// Starts a program without arguments in a folder and doesn't wait for it.
   virtual Result StartProgram(const std::string& path, const std::string& folder) = 0;
 
-  /// Plays a wave file over and over until `StopSound`; silence if that can't be done.
-  virtual void LoopSound(const std::string& path) = 0;
+  /// Plays a wave file over and over until `StopSound`. False if there is no such file or it is
+  /// broken; a desktop without sound plays silence.
+  virtual bool LoopSound(const std::string& path) = 0;
 
   /// Ends every sound of the program; nothing if none plays.
   virtual void StopSound() = 0;

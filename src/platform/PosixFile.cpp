@@ -8,6 +8,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -77,12 +78,19 @@ bool WriteAll(int file, const std::string& bytes) {
   return true;
 }
 
+mode_t ModeOfNewFile() {
+  // It can only be asked for by setting another.
+  const mode_t masked = ::umask(0);
+  ::umask(masked);
+  return mode_t{0666} & ~masked;
+}
+
 // The permissions for the new file: those of the old one; none if that is not to be written.
 std::optional<mode_t> WritableMode(const std::string& path) {
   struct stat status {};
 
   if (::stat(path.c_str(), &status) != 0)
-    return mode_t{0644};
+    return ModeOfNewFile();
   if (!S_ISREG(status.st_mode) || (status.st_mode & WriteBits) == 0)
     return std::nullopt;
   return status.st_mode & mode_t{07777};
@@ -95,6 +103,19 @@ void CopyOwnership(int file, const std::string& from, mode_t mode) {
   if (::stat(from.c_str(), &status) == 0 && ::fchown(file, status.st_uid, status.st_gid) != 0)
     mode &= mode_t{0777};
   ::fchmod(file, mode);
+}
+
+// The child's part of a start: the program is its child's, so that nobody waits for it. The pipe is
+// closed by the program's start, and written to where there is none.
+[[noreturn]] void Become(char* const* words, const char* folder, int report) {
+  ::setsid();
+  if (::fork() > 0)
+    ::_exit(0);
+  if (!folder || ::chdir(folder) == 0)
+    ::execvp(words[0], words);
+  const char failed = 1;
+  [[maybe_unused]] const ssize_t told = ::write(report, &failed, 1);
+  ::_exit(1);
 }
 
 }  // namespace
@@ -115,29 +136,47 @@ std::optional<Stamp> RegularFile(const std::string& path) {
   return StampOf(status);
 }
 
-std::optional<Contents> Read(const std::string& path, size_t maximum) {
-  const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
-
+OpenFile::OpenFile(const std::string& path)
+    : number_(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)) {
   struct stat status {};
 
-  if (!file.Open() || ::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
-    return std::nullopt;
-  Contents contents{{}, StampOf(status)};
-  if (contents.stamp.size > maximum)
-    return std::nullopt;
-  contents.bytes.resize(static_cast<size_t>(contents.stamp.size));
+  if (number_ >= 0 && ::fstat(number_, &status) == 0 && S_ISREG(status.st_mode)) {
+    stamp_ = StampOf(status);
+  } else if (number_ >= 0) {
+    ::close(number_);
+    number_ = -1;
+  }
+}
+
+OpenFile::~OpenFile() {
+  if (number_ >= 0)
+    ::close(number_);
+}
+
+std::string OpenFile::Part(uint64_t offset, size_t count) const {
+  std::string bytes(std::min<uint64_t>(count, stamp_.size - std::min(offset, stamp_.size)), '\0');
   size_t have = 0;
-  while (have < contents.bytes.size()) {
-    const ssize_t step =
-        ::read(file.Number(), contents.bytes.data() + have, contents.bytes.size() - have);
-    if (step < 0)
-      return std::nullopt;
-    if (step == 0)
+  while (have < bytes.size()) {
+    const ssize_t step = ::pread(number_, bytes.data() + have, bytes.size() - have,
+                                 static_cast<off_t>(offset + have));
+    if (step <= 0)
       break;
     have += static_cast<size_t>(step);
   }
-  contents.bytes.resize(have);
-  return contents;
+  bytes.resize(have);
+  return bytes;
+}
+
+std::string OpenFile::Alias() const {
+  return "/proc/self/fd/" + std::to_string(number_);
+}
+
+std::optional<Contents> Read(const std::string& path, size_t maximum) {
+  const OpenFile file(path);
+  const Stamp& stamp = file.FileStamp();
+  if (!file.IsOpen() || stamp.size > maximum)
+    return std::nullopt;
+  return Contents{file.Part(0, static_cast<size_t>(stamp.size)), stamp};
 }
 
 bool Replace(const std::string& path, const std::string& bytes) {
@@ -183,6 +222,27 @@ std::string ExecutableFolder() {
 
 bool ChangeFolder(const std::string& folder) {
   return ::chdir(folder.c_str()) == 0;
+}
+
+bool StartDetached(const std::string& program, const std::vector<std::string>& arguments,
+                   const std::string& folder) {
+  std::vector<char*> words = {const_cast<char*>(program.c_str())};
+  for (const std::string& argument : arguments)
+    words.push_back(const_cast<char*>(argument.c_str()));
+  words.push_back(nullptr);
+  int report[2];
+  if (::pipe2(report, O_CLOEXEC) != 0)
+    return false;
+  const Descriptor reader(report[0]);
+  const pid_t child = ::fork();
+  if (child == 0)
+    Become(words.data(), folder.empty() ? nullptr : folder.c_str(), report[1]);
+  ::close(report[1]);
+  char failed = 0;
+  const bool started = child > 0 && ::read(report[0], &failed, 1) == 0;
+  if (child > 0)
+    ::waitpid(child, nullptr, 0);
+  return started;
 }
 
 int64_t Now() {

@@ -36,6 +36,32 @@ struct Contents {
 /// `maximum` bytes. Never waits for a device or a pipe.
 [[nodiscard]] std::optional<Contents> Read(const std::string& path, size_t maximum);
 
+/// A regular file open for reading, for callers that want parts of it. Never waits for a device or
+/// a pipe.
+class OpenFile {
+ public:
+  explicit OpenFile(const std::string& path);
+  ~OpenFile();
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  /// False if there is no such file or it can't be read; it is then of 0 bytes.
+  [[nodiscard]] bool IsOpen() const { return number_ >= 0; }
+
+  [[nodiscard]] const Stamp& FileStamp() const { return stamp_; }
+
+  /// Up to `count` bytes from the offset on, fewer at the file's end or if reading fails.
+  [[nodiscard]] std::string Part(uint64_t offset, size_t count) const;
+
+  /// A path of ASCII letters that opens the same file while this object lives, for libraries that
+  /// take only paths of some encoding.
+  [[nodiscard]] std::string Alias() const;
+
+ private:
+  int number_;
+  Stamp stamp_;
+};
+
 /// Puts the bytes in the place of the file, or creates it: written beside it, flushed, renamed
 /// over it, the folder flushed; at no moment is the old content gone before the new is safe. The
 /// permissions stay, a symbolic link stays one. False, and nothing changed, if the file is
@@ -50,6 +76,11 @@ bool Replace(const std::string& path, const std::string& bytes);
 
 /// Makes the folder the current directory; false if that fails.
 bool ChangeFolder(const std::string& folder);
+
+/// Starts a program, found as a shell would find it, and neither waits for it nor hears of its end.
+/// An empty folder leaves it in the current one. False if there is no such program or folder.
+bool StartDetached(const std::string& program, const std::vector<std::string>& arguments,
+                   const std::string& folder = {});
 
 /// Nanoseconds since 1970.
 [[nodiscard]] int64_t Now();

@@ -6,7 +6,8 @@
 namespace ProgramInfo {
 
 inline constexpr TextView Title = u"Orvalis";
-inline constexpr TextView Version = u"1.0.0 RC-27";
+/// As the build names it.
+extern const TextView Version;
 inline constexpr TextView Copyright = u"© 2026 Die Orvalis-Kartografen";
 inline constexpr TextView Description =
     u"Interaktive Karten von Duskhold, um NPCs, Orte und Gegenstände einfach zu finden.";

@@ -1,18 +1,18 @@
 #include "platform/WaveFile.h"
 
-#include "platform/PosixFile.h"
-
 #include <algorithm>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace {
 
-constexpr size_t LargestFile = size_t{64} * 1024 * 1024;
 constexpr size_t FileHeaderSize = 12;
 constexpr size_t ChunkHeaderSize = 8;
 constexpr size_t SmallestFormat = 16;
-constexpr uint32_t Uncompressed = 1;
+constexpr uint32_t LastUncompressed = 1;
+// Real files have a handful; each costs a read.
+constexpr int MaximumChunks = 1000;
 
 // `count` bytes at an offset as a number, the lowest first.
 uint32_t Number(std::string_view bytes, size_t at, size_t count) {
@@ -22,24 +22,30 @@ uint32_t Number(std::string_view bytes, size_t at, size_t count) {
   return number;
 }
 
-bool IsPcm(std::string_view format) {
-  return format.size() >= SmallestFormat && Number(format, 0, 2) == Uncompressed &&
+// Tag 0, which names no format, is played as plain samples too.
+bool IsUncompressed(std::string_view format) {
+  return format.size() >= SmallestFormat && Number(format, 0, 2) <= LastUncompressed &&
          Number(format, 2, 2) > 0 && Number(format, 4, 4) > 0;
 }
 
-bool HasWholeSamples(std::string_view chunks) {
+bool HasWholeSamples(const PosixFile::OpenFile& file) {
+  const uint64_t end = file.FileStamp().size;
+  uint64_t at = FileHeaderSize;
   bool known = false;
-  while (chunks.size() >= ChunkHeaderSize) {
-    const std::string_view name = chunks.substr(0, 4);
-    const size_t size = Number(chunks, 4, 4);
-    chunks.remove_prefix(ChunkHeaderSize);
-    if (size > chunks.size())
+  for (int chunk = 0; chunk < MaximumChunks; ++chunk) {
+    const std::string header = file.Part(at, ChunkHeaderSize);
+    if (header.size() < ChunkHeaderSize)
       return false;
-    if (name == "data")
+    const uint64_t size = Number(header, 4, 4);
+    at += ChunkHeaderSize;
+    if (size > end - at)
+      return false;
+    if (header.starts_with("data"))
       return known && size > 0;
-    known = known || (name == "fmt " && IsPcm(chunks.substr(0, size)));
+    known = known || (header.starts_with("fmt ") && size >= SmallestFormat &&
+                      IsUncompressed(file.Part(at, SmallestFormat)));
     // Chunks begin at even offsets.
-    chunks.remove_prefix(std::min(size + size % 2, chunks.size()));
+    at = std::min(at + size + size % 2, end);
   }
   return false;
 }
@@ -48,13 +54,10 @@ bool HasWholeSamples(std::string_view chunks) {
 
 namespace WaveFile {
 
-bool IsPlayable(const std::string& path) {
-  const auto file = PosixFile::Read(path, LargestFile);
-  if (!file || file->bytes.size() < FileHeaderSize)
-    return false;
-  const std::string_view bytes = file->bytes;
-  return bytes.starts_with("RIFF") && bytes.substr(8, 4) == "WAVE" &&
-         HasWholeSamples(bytes.substr(FileHeaderSize));
+bool IsPlayable(const PosixFile::OpenFile& file) {
+  const std::string header = file.Part(0, FileHeaderSize);
+  return header.size() == FileHeaderSize && header.starts_with("RIFF") &&
+         header.ends_with("WAVE") && HasWholeSamples(file);
 }
 
 }  // namespace WaveFile

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <string>
+#include "platform/PosixFile.h"
 
 /// Wave files, looked at before the desktop plays them: sound libraries take the memory that a
 /// header claims before they look for the samples.
 namespace WaveFile {
 
-/// Whether the file (path in the system's bytes) is a whole wave file of uncompressed samples, at
-/// most 64 MB long.
-[[nodiscard]] bool IsPlayable(const std::string& path);
+/// Whether the file is a whole wave file of uncompressed samples, as many as there may be. Only its
+/// headers are read.
+[[nodiscard]] bool IsPlayable(const PosixFile::OpenFile& file);
 
 }  // namespace WaveFile

@@ -27,30 +27,6 @@ std::optional<unsigned char> ByteOf(char16_t unit) {
   return static_cast<unsigned char>(FirstSpecial + (found - SpecialCharacters.begin()));
 }
 
-constexpr unsigned char FoldOf(unsigned char byte) {
-  const bool ascii = byte >= 'A' && byte <= 'Z';
-  const bool latin = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-  if (ascii || latin)
-    return static_cast<unsigned char>(byte + 0x20);
-  switch (byte) {
-    case 0x8A:
-    case 0x8C:
-    case 0x8E:
-      return static_cast<unsigned char>(byte + 0x10);
-    case 0x9F:
-      return 0xFF;
-    default:
-      return byte;
-  }
-}
-
-constexpr std::array<unsigned char, 256> Folds = [] {
-  std::array<unsigned char, 256> folds{};
-  for (size_t byte = 0; byte < folds.size(); ++byte)
-    folds[byte] = FoldOf(static_cast<unsigned char>(byte));
-  return folds;
-}();
-
 }  // namespace
 
 namespace Windows1252 {
@@ -72,10 +48,6 @@ std::optional<std::string> Encode(TextView text) {
     bytes.push_back(static_cast<char>(*byte));
   }
   return bytes;
-}
-
-unsigned char Fold(unsigned char byte) {
-  return Folds[byte];
 }
 
 char16_t Lower(char16_t unit) {

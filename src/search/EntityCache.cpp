@@ -10,10 +10,6 @@
 
 namespace {
 
-bool IsBlank(std::string_view name) {
-  return name.find_first_not_of(' ') == std::string_view::npos;
-}
-
 Text WithoutBrackets(std::string_view section) {
   Text name = Windows1252::Decode(section);
   std::erase_if(name, [](char16_t unit) { return unit == u'[' || unit == u']'; });
@@ -23,24 +19,24 @@ Text WithoutBrackets(std::string_view section) {
 }  // namespace
 
 std::optional<InvalidLink> EntityCache::CacheEntities(IniOps::Snapshot& files,
-                                                      LOCAL::Language& language,
-                                                      const ProgramPaths::Region& region) {
+                                                      const LOCAL::Language& language,
+                                                      const ProgramPaths::RegionFiles& region) {
   regions_.push_back(region);
-  auto info = files.Shared(language.InfoFile());
+  auto info = files.Shared(language.InfoPath());
   const ProfileFile& data = files.File(region.data);
   if (infoFiles_.empty() || infoFiles_.back() != info)
     infoFiles_.push_back(info);
-  for (const std::string_view section : data.SectionNames()) {
-    if (IsBlank(section))
+  for (const ProfileFile::Section& section : data.Sections()) {
+    if (ProfileLines::IsBlank(section.name))
       continue;
-    if (auto invalid = CacheSection(files, language, *info, data, section))
+    if (auto invalid = CacheSection(files, language, *info, data, section.name))
       return invalid;
   }
   return std::nullopt;
 }
 
 std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
-                                                     LOCAL::Language& language,
+                                                     const LOCAL::Language& language,
                                                      const ProfileFile& info,
                                                      const ProfileFile& data,
                                                      std::string_view section) {
@@ -49,16 +45,17 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
       sections_.emplace_back(Section{regions_.size() - 1, WithoutBrackets(section), size_, {}, {}});
   cached.records.reserve(keys.size());
   for (const std::string_view keyBytes : keys) {
-    const Text key = Windows1252::Decode(keyBytes);
-    if (EntityFile::IsDisabled(key) || EntityFile::IsHiddenFromSearch(key))
+    if (EntityFile::IsDisabled(keyBytes) || EntityFile::IsHiddenFromSearch(keyBytes))
       continue;
-    const EntityFile::Found found = EntityFile::ReadFound(data, section, keyBytes);
-    if (found.invalidLink)
-      return InvalidLink{regions_.back().data, cached.name, key, found.target};
+    const Text key = Windows1252::Decode(keyBytes);
+    const EntityFile::Entity entity = EntityFile::Read(data, section, keyBytes);
+    const auto position = EntityFile::FoundPosition(entity);
+    if (!position)
+      return InvalidLink{regions_.back().data, cached.name, key, Windows1252::Decode(*entity.link)};
     cached.names.append(language.IsGerman() ? key : language.LocalizeEntityName(files, key));
-    cached.records.push_back({InfoFile::ReadRedirectedBytes(info, keyBytes), cached.names.size(),
-                              static_cast<int16_t>(found.position.x),
-                              static_cast<int16_t>(found.position.y)});
+    cached.records.push_back({InfoFile::ReadRedirected(info, keyBytes), cached.names.size(),
+                              static_cast<int16_t>(position->x),
+                              static_cast<int16_t>(position->y)});
     ++size_;
   }
   return std::nullopt;
@@ -75,7 +72,7 @@ CachedEntity EntityCache::At(size_t index) const {
   const Section& section = *SectionOf(index);
   const size_t number = index - section.firstIndex;
   const Record& record = section.records[number];
-  const ProgramPaths::Region& region = regions_[section.region];
+  const ProgramPaths::RegionFiles& region = regions_[section.region];
   return {region.data,
           region.picture,
           section.name,

@@ -52,8 +52,8 @@ class EntityCache {
   /// Appends the entities of one region that the search may find. Stops at the first invalid link
   /// and gives it back.
   [[nodiscard]] std::optional<InvalidLink> CacheEntities(IniOps::Snapshot& files,
-                                                         LOCAL::Language& language,
-                                                         const ProgramPaths::Region& region);
+                                                         const LOCAL::Language& language,
+                                                         const ProgramPaths::RegionFiles& region);
 
   /// The record of this index, which must be below `Size`.
   [[nodiscard]] CachedEntity At(size_t index) const;
@@ -84,12 +84,12 @@ class EntityCache {
     }
   };
 
-  std::optional<InvalidLink> CacheSection(IniOps::Snapshot& files, LOCAL::Language& language,
+  std::optional<InvalidLink> CacheSection(IniOps::Snapshot& files, const LOCAL::Language& language,
                                           const ProfileFile& info, const ProfileFile& data,
                                           std::string_view section);
   [[nodiscard]] std::vector<Section>::const_iterator SectionOf(size_t index) const;
 
-  std::vector<ProgramPaths::Region> regions_;
+  std::vector<ProgramPaths::RegionFiles> regions_;
   std::vector<Section> sections_;
   size_t size_ = 0;
   std::vector<std::shared_ptr<const ProfileFile>> infoFiles_;

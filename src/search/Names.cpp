@@ -1,6 +1,7 @@
 #include "search/Names.h"
 
 #include "mapdata/world/EntityFile.h"
+#include "platform/Windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -13,11 +14,11 @@ struct Fold {
   TextView as;
 };
 
-constexpr std::array Folds = {
-    Fold{u"àáâãäå", u"a"}, Fold{u"ç", u"c"},  Fold{u"ð", u"d"},      Fold{u"èéêë", u"e"},
-    Fold{u"ìíîï", u"i"},   Fold{u"ñ", u"n"},  Fold{u"òóôõöø", u"o"}, Fold{u"š", u"s"},
-    Fold{u"ùúûü", u"u"},   Fold{u"ýÿ", u"y"}, Fold{u"ž", u"z"},      Fold{u"æ", u"ae"},
-    Fold{u"œ", u"oe"},     Fold{u"ß", u"ss"}, Fold{u"þ", u"th"}};
+constexpr std::array Folds = {Fold{u"àáâãäå", u"a"}, Fold{u"ç", u"c"},    Fold{u"ð", u"d"},
+                              Fold{u"èéêë", u"e"},   Fold{u"ìíîï", u"i"}, Fold{u"ñ", u"n"},
+                              Fold{u"òóôõöø", u"o"}, Fold{u"š", u"s"},    Fold{u"ùúûü", u"u"},
+                              Fold{u"ýÿ", u"y"},     Fold{u"ž", u"z"},    Fold{u"æ", u"ae"},
+                              Fold{u"œ", u"oe"},     Fold{u"ß", u"ss"},   Fold{u"þ", u"th"}};
 
 void Append(Text& folded, char16_t letter) {
   const auto fold = std::find_if(Folds.begin(), Folds.end(), [letter](const Fold& each) {
@@ -44,15 +45,18 @@ bool Holds(TextView name, TextView text) {
   return Folded(name).find(Folded(text)) != Text::npos;
 }
 
-std::vector<Text> AllNames(IniOps::Snapshot& files, EntityNames& names, const ProgramPaths& paths) {
+std::vector<Text> AllNames(IniOps::Snapshot& files, const EntityNames& names,
+                           const ProgramPaths& paths) {
   std::vector<Text> all;
   std::unordered_set<Text> seen;
-  for (const ProgramPaths::Region& region : paths.regions)
-    for (const Text& section : files.IniSectionNames(region.data))
-      for (const Text& key : files.IniReadFile(region.data, section))
+  for (const ProgramPaths::RegionFiles& region : paths.regions) {
+    const ProfileFile& data = files.File(region.data);
+    for (const ProfileFile::Section& section : data.Sections())
+      for (const std::string_view key : data.KeyNames(section.name))
         if (!EntityFile::IsDisabled(key) && !EntityFile::IsHiddenFromSearch(key))
-          if (Text name = names.Shown(files, key); seen.insert(name).second)
+          if (Text name = names.Shown(files, Windows1252::Decode(key)); seen.insert(name).second)
             all.push_back(std::move(name));
+  }
   return all;
 }
 

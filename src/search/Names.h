@@ -18,7 +18,7 @@ namespace Search {
 
 /// The names, as shown, of all entities of all regions that the search may find, each once, in the
 /// order of regions, sections and lines.
-[[nodiscard]] std::vector<Text> AllNames(IniOps::Snapshot& files, EntityNames& names,
+[[nodiscard]] std::vector<Text> AllNames(IniOps::Snapshot& files, const EntityNames& names,
                                          const ProgramPaths& paths);
 
 }  // namespace Search

@@ -1,6 +1,5 @@
 #include "search/Search.h"
 
-#include "i18n/LOCAL.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
 
@@ -31,7 +30,7 @@ std::optional<size_t> FindName(const Search::State& state, size_t from) {
 }
 
 std::optional<size_t> FindTranslatedName(const Search::State& state, IniOps::Snapshot& files,
-                                         Language& language) {
+                                         const Language& language) {
   return state.Cache.Find(0, [&](TextView name, const auto&) {
     return language.LocalizeEntityName(files, name).starts_with(state.SearchTerm);
   });
@@ -47,10 +46,11 @@ std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
   });
 }
 
-std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, Language& language,
-                                const ProgramPaths& paths) {
-  for (const ProgramPaths::Region& region : paths.regions)
-    if (auto invalid = cache.CacheEntities(files, language, region))
+std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, const World& world) {
+  // A filling that found no record, or an invalid link, may have left regions and sections.
+  cache = EntityCache();
+  for (const ProgramPaths::RegionFiles& region : world.paths.regions)
+    if (auto invalid = cache.CacheEntities(files, world.language, region))
       return invalid;
   return std::nullopt;
 }
@@ -59,16 +59,15 @@ std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, Lan
 
 namespace Search {
 
-Outcome FindFirst(State& state, IniOps::Snapshot& files, Language& language,
-                  const ProgramPaths& paths, TextView term) {
+Outcome FindFirst(State& state, IniOps::Snapshot& files, const World& world, TextView term) {
   state.SearchTerm = term;
   if (state.Cache.Size() == 0)
-    if (auto invalid = Fill(state.Cache, files, language, paths))
+    if (auto invalid = Fill(state.Cache, files, world))
       return *std::move(invalid);
   if (state.SearchMode == Mode::Descriptions)
     return OutcomeOf(state, FindDescription(state, 0));
   return OutcomeOf(
-      state, language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, language));
+      state, world.language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, world.language));
 }
 
 Outcome FindNext(State& state) {
@@ -81,9 +80,9 @@ Message NotFoundMessage(const State& state, IniOps::Snapshot& files, const Langu
   if (language.IsGerman())
     return {Join(u"Der Suchbegriff: \"", state.SearchTerm, u"\" konnte nicht gefunden werden!"),
             u"Suche beendet"};
-  const Text text = files.IniRead(language.LanguageFile, Section, u"notfoundmessage", u"");
+  const Text text = files.IniRead(language.LanguageFile(), Section, u"notfoundmessage", u"");
   return {ReplaceAll(text, TermSign, state.SearchTerm),
-          files.IniRead(language.LanguageFile, Section, u"notfoundcaption", u"")};
+          files.IniRead(language.LanguageFile(), Section, u"notfoundcaption", u"")};
 }
 
 Message InvalidLinkMessage(const InvalidLink& link) {
@@ -95,7 +94,7 @@ Message InvalidLinkMessage(const InvalidLink& link) {
 Text ResultHeading(const State& state, IniOps::Snapshot& files, const Language& language) {
   if (language.IsGerman())
     return Join(u" Suchergebnis für: ", state.SearchTerm, u" ");
-  const Text text = files.IniRead(language.LanguageFile, Section, u"SearchResult", u"");
+  const Text text = files.IniRead(language.LanguageFile(), Section, u"SearchResult", u"");
   return ReplaceAll(text, TermSign, state.SearchTerm) + u" ";
 }
 

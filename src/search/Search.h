@@ -1,15 +1,10 @@
 #pragma once
 
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
+#include "app/World.h"
 #include "platform/Message.h"
 #include "search/EntityCache.h"
 
 #include <variant>
-
-namespace LOCAL {
-class Language;
-}
 
 /// Finding an entity of any region by the start of its name or by a part of its description.
 /// Letter case counts, blanks count, and a search never begins again at the front by itself.
@@ -43,8 +38,8 @@ using Outcome = std::variant<Hit, NothingFound, InvalidLink>;
 
 /// Searches all entities from the first one for `term` in the mode of the state; fills the cache
 /// before if it is empty. Names are compared as they are shown in the language of this moment.
-[[nodiscard]] Outcome FindFirst(State& state, IniOps::Snapshot& files, LOCAL::Language& language,
-                                const ProgramPaths& paths, TextView term);
+[[nodiscard]] Outcome FindFirst(State& state, IniOps::Snapshot& files,
+                                const World& world, TextView term);
 
 /// Searches on behind the record found last. Names are compared as they were shown when the cache
 /// was filled.

@@ -1,6 +1,7 @@
 #include "app/StartUp.h"
 
 #include "app/Context.h"
+#include "platform/ProgramInfo.h"
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
 
@@ -23,21 +24,21 @@ void WriteRegions(const TemporaryFolder& folder) {
 TEST(StartUp, NamesTheEdition) {
   struct {
     std::string special;
-    Text caption;
+    Text edition;
   } const cases[] = {
-      {"", u"Orvalis 1.0.0 RC-27 "},
-      {"NoExtras= YES \r\n", u"Orvalis 1.0.0 RC-27 Lite"},
-      {"NoLang=yes\r\n", u"Orvalis 1.0.0 RC-27  "},
-      {"NoExtras=yes\r\nNoLang=Yes\r\nLocalizedString= English \r\n",
-       u"Orvalis 1.0.0 RC-27 Lite English"},
-      {"NoExtras=1\r\nNoLang=ja\r\nLocalizedString=English\r\n", u"Orvalis 1.0.0 RC-27 "},
+      {"", u""},
+      {"NoExtras= YES \r\n", u"Lite"},
+      {"NoLang=yes\r\n", u" "},
+      {"NoExtras=yes\r\nNoLang=Yes\r\nLocalizedString= English \r\n", u"Lite English"},
+      {"NoExtras=1\r\nNoLang=ja\r\nLocalizedString=English\r\n", u""},
   };
 
   RecordingDesktop desktop;
   for (const auto& test : cases) {
     const TemporaryFolder folder;
     folder.Write("orvalis.ini", "[special]\r\n" + test.special);
-    EXPECT_EQ(StartUp::Caption(Context(folder.Folder(), desktop).edition), test.caption)
+    EXPECT_EQ(StartUp::Caption(Context(folder.Folder(), desktop).edition),
+              Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", test.edition))
         << test.special;
   }
 }

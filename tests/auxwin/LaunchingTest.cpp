@@ -27,13 +27,13 @@ class Documented : public testing::Test {
     paths.programFolder = folder.Path(u"");
     paths.settings = folder.Path(u"orvalis.ini");
     paths.languageRoot = folder.Path(u"LANG/");
-    language.LanguageRoot = paths.languageRoot;
+    language.LanguageRoot() = paths.languageRoot;
     Choose(u"Deutsch");
   }
 
   void Choose(TextView languageFolder) {
-    language.CurrentLanguage = languageFolder;
-    language.LanguageFolder = languageFolder;
+    language.CurrentLanguage() = languageFolder;
+    language.LanguageFolder() = languageFolder;
   }
 
   void ExpectCalls(const std::vector<std::string>& calls) {
@@ -165,11 +165,18 @@ TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
   EXPECT_EQ(launching.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
   EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
   EXPECT_EQ(launching.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);
+  EXPECT_EQ(launching.ShowPage(folder.Path(u"prog/..\\secret.html")), Desktop::Refused);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/none\\..\\..\\secret.html")),
+            Desktop::FileMissing);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG\\English\\..\\..\\secret.html")),
+            Desktop::Refused);
   EXPECT_EQ(launching.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
   EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/none.pdf")), Desktop::FileMissing);
   EXPECT_EQ(launching.StartProgram(folder.Path(u"secret.html")), Desktop::Refused);
   EXPECT_TRUE(desktop.calls.empty());
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG/English/readme.html")), Desktop::Started);
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG\\english\\readme.html")), Desktop::Started);
+  std::filesystem::create_symlink(folder.Native("secret.html"), folder.Native("prog/linked.html"));
+  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/linked.html")), Desktop::Started);
 }
 
 TEST_F(Documented, AddressesComeFromTheSettingsReadAtEachClick) {

@@ -8,6 +8,7 @@
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/EntityFile.h"
 #include "mapdata/world/InfoFile.h"
+#include "mapdata/world/Portraits.h"
 #include "mapdata/world/Settings.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
@@ -56,7 +57,7 @@ class Program {
 
   Lines Markers() {
     Lines lines;
-    for (const auto& marker : EntityFile::ReadMarkers(files_, File(), Section(), language_, 81))
+    for (const auto& marker : EntityFile::ReadMarkers(Data(), Section(), files_, language_, 81))
       lines.push_back(Narrow(marker.disabled ? TextView(marker.key) : TextView(marker.name)) +
                       " -> " + (marker.disabled ? "nothing" : Shown(marker.position)) +
                       (marker.highlighted && !marker.disabled ? " green" : ""));
@@ -65,7 +66,7 @@ class Program {
 
   Lines List() {
     Lines lines;
-    for (const Text& name : EntityFile::ReadNames(files_, File(), Section(), language_))
+    for (const Text& name : EntityFile::ReadNames(Data(), Section(), files_, language_))
       lines.push_back(Narrow(name));
     return lines;
   }
@@ -89,15 +90,17 @@ class Program {
   }
 
   std::string Picked(const Text& name) {
-    const auto position = EntityFile::ReadPicked(files_, File(), Section(), language_.Key(name));
+    const auto position = EntityFile::ReadPicked(Data(), Section(), language_.Key(name));
     return position ? Shown(*position) : "nothing";
   }
 
   std::string Found(const Text& key) {
-    if (EntityFile::IsDisabled(key) || EntityFile::IsHiddenFromSearch(key))
+    const std::string bytes = Encoded(key);
+    if (EntityFile::IsDisabled(bytes) || EntityFile::IsHiddenFromSearch(bytes))
       return "not found";
-    const auto found = EntityFile::ReadFound(files_.File(File()), Encoded(Section()), Encoded(key));
-    return found.invalidLink ? "invalid link to " + Narrow(found.target) : Shown(found.position);
+    const auto entity = EntityFile::Read(Data(), Encoded(Section()), bytes);
+    const auto position = EntityFile::FoundPosition(entity);
+    return position ? Shown(*position) : "invalid link to " + std::string(*entity.link);
   }
 
   std::string NameOf(const Text& key) { return Narrow(language_.Shown(files_, key)); }
@@ -106,7 +109,7 @@ class Program {
 
   std::string LanguageOf(const Text& folder) {
     language_.StartUp(files_, paths_.languageRoot, folder);
-    return Narrow(language_.CurrentLanguage);
+    return Narrow(language_.CurrentLanguage());
   }
 
   std::string MenuCaptionOf(const Text& key) {
@@ -120,24 +123,28 @@ class Program {
 
   std::string DescriptionOf(const Text& name) {
     const auto key = [&](TextView shown) { return language_.Key(Texts::Trim(shown)); };
-    const Text text = InfoFile::ReadRedirected(files_, language_.InfoFile(), key(name), key);
+    const Text text = InfoFile::ReadRedirected(Descriptions(), key(name), key);
     return text.empty() ? "nothing" : Narrow(Texts::ReplaceAll(text, u"\\n", u" / "));
   }
 
   std::string ToolTipOf(const Text& name) {
     const Text key = Texts::Lower(language_.Key(name));
-    return Narrow(InfoFile::TooltipOf(InfoFile::ReadEntry(files_, language_.InfoFile(), key)));
+    return Narrow(InfoFile::TooltipOf(InfoFile::ReadEntry(Descriptions(), key)));
   }
 
   std::string PortraitOf(const Text& key) {
-    const Text list = Texts::Join(paths_.picturesFolder, u"pic.ini");
-    const Text file = Texts::Join(paths_.picturesFolder, files_.IniRead(list, u"pics", key, u""));
+    const ProfileFile& list = files_.File(Portraits::ListPath(paths_.picturesFolder));
+    const Text file = Portraits::PicturePath(list, paths_.picturesFolder, key);
     const auto native = FileSystem::Resolve(file);
     return native && FileSystem::FileExists(file) ? native->substr(folder_.Native("").size())
                                                   : "placeholder";
   }
 
  private:
+  const ProfileFile& Data() { return files_.File(File()); }
+
+  const ProfileFile& Descriptions() { return files_.File(language_.InfoPath()); }
+
   [[nodiscard]] Text File() const { return folder_.Path(Wide(example_.at("of"))); }
 
   [[nodiscard]] Text Section() const { return Wide(example_.at("section")); }

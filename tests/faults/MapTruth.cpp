@@ -57,11 +57,6 @@ QString Padded(const QString& name) {
   return QStringLiteral(" %1 ").arg(name);
 }
 
-ProgramPaths ReadPaths(IniOps::Cache& cache) {
-  IniOps::Snapshot files(cache);
-  return StartUp::ComposePaths(files, NativePath::FromBytes(PosixFile::ExecutableFolder()));
-}
-
 std::string Said(const QString& what, const QString& is, const QString& should) {
   return QStringLiteral("%1 is %2 and not %3").arg(what, is, should).toStdString();
 }
@@ -76,15 +71,15 @@ MapTruth::MapTruth(QMainWindow& window)
     : QObject(&window),
       window_(window),
       map_(*window.centralWidget()),
-      paths_(ReadPaths(cache_)),
-      language_(paths_.infoData),
+      world_(NativePath::FromBytes(PosixFile::ExecutableFolder())),
       size_(map_.size()) {
-  IniOps::Snapshot files(cache_);
-  language_.StartUp(files, paths_.languageRoot, StartUp::ChosenLanguage(files, paths_));
+  IniOps::Snapshot files(world_.cache);
+  world_.language.StartUp(files, world_.paths.languageRoot, world_.ChosenLanguage());
   const auto menus = MenuTable::Captions();
-  const InterfaceTexts texts =
-      language_.IsGerman() ? RestoreGerman(menus) : Translate_UI(files, language_, menus);
-  language_.CacheTranslationTable(files);
+  const InterfaceTexts texts = world_.language.IsGerman()
+                                   ? RestoreGerman(menus)
+                                   : Translate_UI(files, world_.language, menus);
+  world_.language.CacheTranslationTable(files);
   captions_ = texts.menus;
   prompt_ = ToQt(texts.prompt);
   Connect();
@@ -192,9 +187,9 @@ void MapTruth::Watch(QWidget& dialog) {
       search_.SearchMode = chosen ? Search::Mode::Names : Search::Mode::Descriptions;
     });
     connect(find, &frmFind::SearchStarted, this, [this, find] {
-      IniOps::Snapshot files(cache_);
-      ShowHit(Search::FindFirst(search_, files, language_, paths_,
-                                FromQt(find->findChild<QLineEdit*>()->text())));
+      IniOps::Snapshot files(world_.cache);
+      ShowHit(
+          Search::FindFirst(search_, files, world_, FromQt(find->findChild<QLineEdit*>()->text())));
     });
   } else if (const auto* language = qobject_cast<frmLang*>(&dialog)) {
     connect(language, &frmLang::LanguageChanged, this,
@@ -218,9 +213,9 @@ bool MapTruth::eventFilter(QObject*, QEvent* event) {
 }
 
 void MapTruth::SpeakAs(const InterfaceTexts& texts, const Text& file) {
-  IniOps::Snapshot files(cache_);
-  language_.Choose(files, file);
-  language_.CacheTranslationTable(files);
+  IniOps::Snapshot files(world_.cache);
+  world_.language.Choose(files, file);
+  world_.language.CacheTranslationTable(files);
   if (!texts.menus.empty())
     captions_ = texts.menus;
   ShowWhole();
@@ -229,7 +224,7 @@ void MapTruth::SpeakAs(const InterfaceTexts& texts, const Text& file) {
 }
 
 void MapTruth::Category(const MenuRow& row) {
-  const auto& region = paths_.regions.at(static_cast<size_t>(row.region));
+  const auto& region = world_.paths.Of(row.region.value());
   const Text category(row.category);
   if (row.mode == DisplayMode::List || row.listFirst)
     ShowList(region.picture, region.data, category);
@@ -266,9 +261,9 @@ void MapTruth::ShowList(const Text& picture, const Text& data, const Text& categ
   item_.reset();
   found_.clear();
   listed_ = prompt_;
-  IniOps::Snapshot files(cache_);
+  IniOps::Snapshot files(world_.cache);
   rows_ = {prompt_};
-  for (const Text& name : EntityFile::ReadNames(files, data, category, language_))
+  for (const Text& name : EntityFile::ReadNames(files.File(data), category, files, world_.language))
     rows_ << ToQt(name);
 }
 
@@ -285,8 +280,8 @@ void MapTruth::ShowMarkers(const Text& picture, const Text& data, const Text& ca
 }
 
 std::optional<EntityFile::Position> MapTruth::PositionOf(const QString& name) {
-  IniOps::Snapshot files(cache_);
-  return EntityFile::ReadPicked(files, data_, category_, language_.Key(FromQt(name)));
+  IniOps::Snapshot files(world_.cache);
+  return EntityFile::ReadPicked(files.File(data_), category_, world_.language.Key(FromQt(name)));
 }
 
 void MapTruth::Pick(const QString& name) {
@@ -316,9 +311,9 @@ void MapTruth::ShowHit(const Search::Outcome& outcome) {
   kind_ = Kind::Hit;
   data_ = entity.Database;
   category_ = entity.Section;
-  IniOps::Snapshot files(cache_);
-  heading_ = ToQt(Search::ResultHeading(search_, files, language_));
-  const QString name = ToQt(language_.Shown(files, entity.Name));
+  IniOps::Snapshot files(world_.cache);
+  heading_ = ToQt(Search::ResultHeading(search_, files, world_.language));
+  const QString name = ToQt(world_.language.Shown(files, entity.Name));
   const Spot atPoint = {.point = {entity.X, entity.Y}, .name = name, .caption = name};
   listed_ = rows_.contains(ToQt(entity.Name)) ? ToQt(entity.Name) : QString();
   if (!listed_.isEmpty())
@@ -371,9 +366,10 @@ int MapTruth::Inside(const Spot& spot) const {
 
 std::vector<MapTruth::Spot> MapTruth::MarkersOfCategory() {
   std::vector<Spot> spots;
-  IniOps::Snapshot files(cache_);
+  IniOps::Snapshot files(world_.cache);
   int slot = 0;
-  for (const auto& marker : EntityFile::ReadMarkers(files, data_, category_, language_, Slots)) {
+  for (const auto& marker :
+       EntityFile::ReadMarkers(files.File(data_), category_, files, world_.language, Slots)) {
     if (!marker.disabled)
       spots.push_back({.point = {marker.position.x, marker.position.y},
                        .before = Before,

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "app/StartUp.h"
+#include "app/World.h"
 #include "i18n/InterfaceTexts.h"
-#include "i18n/LOCAL.h"
 #include "mapdata/world/EntityFile.h"
 #include "search/Search.h"
 
@@ -89,9 +88,8 @@ class MapTruth : public QObject {
 
   QMainWindow& window_;
   QWidget& map_;
-  IniOps::Cache cache_;
-  ProgramPaths paths_;
-  LOCAL::Language language_;
+  // Opened from the same folder; nothing is shared with the program's own.
+  World world_;
   std::vector<Text> captions_;
   QString prompt_;
   Search::State search_;

@@ -141,7 +141,7 @@ TEST(EntityNames, MayBePrefixesOfEachOther) {
 TEST(EntityNames, DontGrowWithoutBoundWhereWordsHoldEachOther) {
   const auto filledWith = [](const std::string& word) {
     std::string value;
-    while (value.size() + word.size() < IniOps::LongestValue)
+    while (value.size() + word.size() < ProfileFile::LongestValue)
       value += word;
     return value;
   };

@@ -50,19 +50,19 @@ TEST(Language, ThreeStatesDiffer) {
     const Text path = folder.Path(Texts::Join(u"LANG/", test.folder, u"/", test.folder, u".lng"));
     Started start(folder, test.folder);
     LOCAL::Language& language = start.language;
-    EXPECT_EQ(language.CurrentLanguage, test.started);
-    EXPECT_EQ(language.LanguageFolder, test.folder);
-    EXPECT_EQ(language.LanguageFile, path);
+    EXPECT_EQ(language.CurrentLanguage(), test.started);
+    EXPECT_EQ(language.LanguageFolder(), test.folder);
+    EXPECT_EQ(language.LanguageFile(), path);
 
     language.Choose(start.files, Text(LOCAL::BuiltIn));
-    EXPECT_EQ(language.CurrentLanguage, u"Deutsch");
-    EXPECT_EQ(language.LanguageFolder, u"Deutsch");
-    EXPECT_EQ(language.LanguageFile, u"*");
+    EXPECT_EQ(language.CurrentLanguage(), u"Deutsch");
+    EXPECT_EQ(language.LanguageFolder(), u"Deutsch");
+    EXPECT_EQ(language.LanguageFile(), u"*");
     language.Choose(start.files, path);
     language.CacheTranslationTable(start.files);
-    EXPECT_EQ(language.CurrentLanguage, test.chosen);
-    EXPECT_EQ(language.LanguageFolder, test.folder);
-    EXPECT_EQ(language.LanguageFile, path);
+    EXPECT_EQ(language.CurrentLanguage(), test.chosen);
+    EXPECT_EQ(language.LanguageFolder(), test.folder);
+    EXPECT_EQ(language.LanguageFile(), path);
   }
 }
 
@@ -70,9 +70,9 @@ TEST(Language, DescriptionsStandUnderTheDeclaredName) {
   const TemporaryFolder folder;
   folder.Write("LANG/en/en.lng", "[general]\r\nlanguage=English\r\n");
   folder.Write("LANG/en/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoFile(), folder.Path(u"LANG/info.data"));
+  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/info.data"));
   folder.Write("LANG/English/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoFile(), folder.Path(u"LANG/English/info.data"));
+  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/English/info.data"));
 }
 
 TEST(Language, IsOfferedWhereGermanMeetsAnotherSystem) {
@@ -140,7 +140,7 @@ TEST(InterfaceTexts, BadFilesGiveDefaults) {
     const TemporaryFolder folder;
     folder.Write("LANG/x/x.lng", test.bytes);
     Started start(folder, u"x");
-    EXPECT_EQ(start.language.CurrentLanguage, u"Deutsch") << test.name;
+    EXPECT_EQ(start.language.CurrentLanguage(), u"Deutsch") << test.name;
     EXPECT_EQ(Translate_UI(start.files, start.language, MenuRows).menus[0], test.file) << test.name;
   }
 }

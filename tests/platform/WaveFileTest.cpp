@@ -31,6 +31,7 @@ TEST(WaveFile, OnlyWholeFilesOfPlainSamplesArePlayed) {
       {"other chunk first", Wave(64, 64).insert(12, "LIST" + Little(3, 4) + "abc" + '\0'), true},
       {"cut off", Wave(64, 60), false},
       {"claims 4 GB", Wave(0xFFFFFFFF, 64), false},
+      {"of no format", Wave(64, 64, 0), true},
       {"compressed", Wave(64, 64, 85), false},
       {"no samples", Wave(0, 0), false},
       {"no format", "RIFF" + Little(12, 4) + "WAVEdata" + Little(4, 4) + "abcd", false},
@@ -40,10 +41,17 @@ TEST(WaveFile, OnlyWholeFilesOfPlainSamplesArePlayed) {
   };
 
   const TemporaryFolder folder;
+  const auto isPlayable = [&folder](const char* name) {
+    return WaveFile::IsPlayable(PosixFile::OpenFile(folder.Native(name)));
+  };
   for (const auto& row : table) {
     folder.Write("a.wav", row.bytes);
-    EXPECT_EQ(WaveFile::IsPlayable(folder.Native("a.wav")), row.playable) << row.what;
+    EXPECT_EQ(isPlayable("a.wav"), row.playable) << row.what;
   }
-  EXPECT_FALSE(WaveFile::IsPlayable(folder.Native("none.wav")));
-  EXPECT_FALSE(WaveFile::IsPlayable(folder.Native("")));
+  EXPECT_FALSE(isPlayable("none.wav"));
+  EXPECT_FALSE(isPlayable(""));
+  constexpr uint32_t claimed = 500'000'000;
+  folder.Write("long.wav", Wave(claimed, 0));
+  std::filesystem::resize_file(folder.Native("long.wav"), claimed + Wave(0, 0).size());
+  EXPECT_TRUE(isPlayable("long.wav"));
 }

@@ -144,7 +144,7 @@ TEST_F(Searching, CachesNamesAndDescriptionsInTheLanguageOfTheFirstSearch) {
   EXPECT_EQ(First(u"sells", Search::Mode::Descriptions), 1U);
   EXPECT_EQ(state_.Cache.At(1).Name, u"Merchant Mara");
   EXPECT_EQ(state_.Cache.At(0).Description, u"");
-  world_.language.CurrentLanguage = LOCAL::German;
+  world_.language.CurrentLanguage() = LOCAL::German;
   EXPECT_EQ(First(u"Merchant"), 1U);
 }
 

@@ -5,14 +5,14 @@
 /// German: names are their keys. Descriptions come from one file.
 class GermanNames : public EntityNames {
  public:
-  explicit GermanNames(Text infoFile = {}) : infoFile_(std::move(infoFile)) {}
+  explicit GermanNames(Text infoPath = {}) : infoPath_(std::move(infoPath)) {}
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot&, TextView key) override { return Text(key); }
+  [[nodiscard]] Text Shown(IniOps::Snapshot&, TextView key) const override { return Text(key); }
 
-  [[nodiscard]] Text Key(TextView shown) override { return Text(shown); }
+  [[nodiscard]] Text Key(TextView shown) const override { return Text(shown); }
 
-  [[nodiscard]] Text InfoFile() override { return infoFile_; }
+  [[nodiscard]] Text InfoPath() const override { return infoPath_; }
 
  private:
-  Text infoFile_;
+  Text infoPath_;
 };

@@ -16,6 +16,8 @@ class RecordingDesktop : public Desktop {
   Text userLanguage = u"deu";
   std::vector<Text> printers;
   std::string fileToWrite;
+  /// The answer to `LoopSound`.
+  bool isPlayable = true;
 
   Result Open(const std::string& target) override {
     calls.push_back("open " + target);
@@ -33,7 +35,10 @@ class RecordingDesktop : public Desktop {
     return result;
   }
 
-  void LoopSound(const std::string& path) override { calls.push_back("loop " + path); }
+  bool LoopSound(const std::string& path) override {
+    calls.push_back("loop " + path);
+    return isPlayable;
+  }
 
   void StopSound() override { calls.emplace_back("stop"); }
 

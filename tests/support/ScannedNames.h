@@ -53,7 +53,7 @@ class ScannedNames {
   // Nothing is replaced that would make a text longer than four values.
   [[nodiscard]] static Text Replaced(const Text& text, TextView part, TextView by) {
     Text replaced = Texts::ReplaceAll(text, part, by);
-    const bool fits = replaced.size() <= std::max(text.size(), 4 * IniOps::LongestValue);
+    const bool fits = replaced.size() <= std::max(text.size(), 4 * ProfileFile::LongestValue);
     return fits ? replaced : text;
   }
 

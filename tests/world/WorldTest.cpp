@@ -4,6 +4,7 @@
 #include "mapdata/world/InfoFile.h"
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
+#include "platform/Windows1252.h"
 #include "support/StartedLanguage.h"
 
 #include <algorithm>
@@ -51,7 +52,7 @@ class WorldTest : public testing::Test {
       const Text data = Texts::Join(World, region, u".data");
       for (const Text& section : files.IniSectionNames(data))
         for (const Text& key : files.IniReadFile(data, section))
-          if (!EntityFile::IsDisabled(key))
+          if (!EntityFile::IsDisabled(Windows1252::Encode(key).value()))
             lines.push_back({data, section, key});
     }
     for (const Line& line : lines)
@@ -74,7 +75,7 @@ class WorldTest : public testing::Test {
 TEST_F(WorldTest, PutsEveryEntityIntoTheFrameOfItsPicture) {
   EXPECT_GE(names.size(), 500u);
   for (const Line& line : lines) {
-    const auto place = EntityFile::ReadPicked(files, line.dataFile, line.section, line.key);
+    const auto place = EntityFile::ReadPicked(files.File(line.dataFile), line.section, line.key);
     ASSERT_TRUE(place) << Bytes(line.section) << ": " << Bytes(line.key);
     EXPECT_TRUE(place->x >= 0 && place->x <= 1024 && place->y >= 0 && place->y <= 768)
         << Bytes(line.key) << " at " << place->x << "," << place->y;
@@ -106,7 +107,7 @@ TEST_F(WorldTest, DescribesAndPicturesWhatIsThere) {
   }
   for (const Text& key : files.IniReadFile(German, u"info")) {
     const auto text =
-        InfoFile::ReadRedirected(files, German, key, [](auto to) { return Text(to); });
+        InfoFile::ReadRedirected(files.File(German), key, [](auto to) { return Text(to); });
     EXPECT_TRUE(names.contains(key) && !text.empty() && text.front() != u'#') << Bytes(key);
   }
 }
@@ -114,8 +115,8 @@ TEST_F(WorldTest, DescribesAndPicturesWhatIsThere) {
 TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
   for (const TextView folder : Languages) {
     StartedLanguage language(files, LanguageRoot, Text(folder));
-    const Text& file = language.LanguageFile;
-    ASSERT_EQ(language.CurrentLanguage, folder);
+    const Text& file = language.LanguageFile();
+    ASSERT_EQ(language.CurrentLanguage(), folder);
     for (const Text& key : names) {
       const Text shown = language.Shown(files, key);
       const bool temple = key.starts_with(Temple);
@@ -132,9 +133,9 @@ TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
 
     const auto keyOf = [&](TextView shown) { return language.Key(shown); };
     for (const Text& key : files.IniReadFile(German, u"info")) {
-      const Text own = InfoFile::ReadRedirected(files, language.InfoFile(), key, keyOf);
+      const Text own = InfoFile::ReadRedirected(files.File(language.InfoPath()), key, keyOf);
       EXPECT_TRUE(!own.empty() && own.front() != u'#') << Bytes(folder) << ": " << Bytes(key);
-      EXPECT_NE(own, InfoFile::ReadRedirected(files, German, key, keyOf)) << Bytes(key);
+      EXPECT_NE(own, InfoFile::ReadRedirected(files.File(German), key, keyOf)) << Bytes(key);
     }
   }
 }

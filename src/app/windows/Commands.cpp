@@ -16,8 +16,7 @@ Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
       context_(context),
       map_(map),
       mainWindow_(mainWindow),
-      search_(
-          new SearchCommands(map, context.paths, context.language, context.files, context.search)) {
+      search_(new SearchCommands(map, context.world, context.search)) {
   search_->setParent(this);
   connect(search_, &SearchCommands::SearchStarted, this, &Commands::SearchStarted);
   // At once, and not after what still waits in the event loop.
@@ -25,7 +24,7 @@ Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
 }
 
 void Commands::Run(const MenuRow& row) {
-  WebCommands web(context_.paths, context_.language, context_.launching);
+  WebCommands web(context_.world, context_.launching);
   switch (row.action) {
     case Action::Print:
       return Print();
@@ -36,7 +35,7 @@ void Commands::Run(const MenuRow& row) {
     case Action::FindAgain:
       return search_->miFindAgain_Click();
     case Action::Perks:
-      return ShowPerks(row.region);
+      return ShowPerks(*row.region);
     case Action::Extras:
       return ShowExtras();
     case Action::About:
@@ -56,13 +55,11 @@ void Commands::Run(const MenuRow& row) {
 }
 
 void Commands::ShowInfo() {
-  frmInfo(&mainWindow_, context_.paths, context_.language, context_.files, map_.InfoEntityName())
-      .exec();
+  frmInfo(&mainWindow_, context_.world, map_.InfoEntityName()).exec();
 }
 
 void Commands::ChooseLanguage() {
-  frmLang dialog(&mainWindow_, context_.paths, context_.language, context_.files,
-                 context_.launching, captions_);
+  frmLang dialog(&mainWindow_, context_.world, context_.launching, captions_);
   connect(&dialog, &frmLang::LanguageChanged, this, &Commands::LanguageChanged);
   dialog.exec();
 }
@@ -70,23 +67,20 @@ void Commands::ChooseLanguage() {
 void Commands::Print() {
   const Printout printout{[this] { return map_.MapSize(); },
                           [this](QPainter& painter) { map_.Paint(painter); }};
-  frmPrint(&mainWindow_, context_.language, context_.files, context_.desktop, printout).exec();
+  frmPrint(&mainWindow_, context_.world, context_.desktop, printout).exec();
 }
 
 void Commands::ShowExtras() {
-  frmExtras(&mainWindow_, context_.paths, context_.language, context_.files, context_.launching)
-      .exec();
+  frmExtras(&mainWindow_, context_.world, context_.launching).exec();
 }
 
 void Commands::ShowAbout() {
-  frmAbout(&mainWindow_, context_.paths, context_.language, context_.files, context_.desktop,
-           context_.launching, context_.edition.text)
-      .exec();
+  frmAbout(&mainWindow_, context_.world, context_.desktop, context_.launching).exec();
 }
 
-void Commands::ShowPerks(int region) {
-  const Text& perksData = context_.paths.regions[static_cast<size_t>(region)].data;
-  frmPerks viewer(&mainWindow_, perksData, context_.language, context_.files);
+void Commands::ShowPerks(Region region) {
+  const Text& perksData = context_.world.paths.Of(region).data;
+  frmPerks viewer(&mainWindow_, perksData, context_.world);
   connect(&viewer, &frmPerks::TeachersChosen, &map_,
           [this](const Text& picture, const Text& data, const Text& category, const Text& heading) {
             map_.ChangeMulti(picture, data, category, heading, false);

@@ -35,7 +35,7 @@ class Commands : public QObject {
   void Print();
   void ShowExtras();
   void ShowAbout();
-  void ShowPerks(int region);
+  void ShowPerks(Region region);
 
   Context& context_;
   MapView& map_;

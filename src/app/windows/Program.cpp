@@ -2,6 +2,7 @@
 
 #include "app/Context.h"
 #include "app/MenuTable.h"
+#include "app/StartUp.h"
 #include "app/windows/frmMain.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/Registry_Module.h"
@@ -33,9 +34,8 @@ Program::Program(Context& context) : context_(context) {}
 Program::~Program() = default;
 
 bool Program::Start() {
-  PosixFile::ChangeFolder(NativePath::ToBytes(context_.paths.programFolder));
-  IniOps::Snapshot files(context_.files);
-  const Text chosen = StartUp::ChosenLanguage(files, context_.paths);
+  PosixFile::ChangeFolder(NativePath::ToBytes(context_.world.paths.programFolder));
+  const Text chosen = context_.world.ChosenLanguage();
   if (!CheckFiles(chosen))
     return false;
   window_ = std::make_unique<frmMain>(context_);
@@ -45,19 +45,18 @@ bool Program::Start() {
 }
 
 bool Program::CheckFiles(const Text& chosenLanguage) {
-  const auto missing = StartUp::MissingFile(context_.paths);
+  const auto missing = context_.world.MissingFile();
   if (!missing)
     return true;
-  IniOps::Snapshot files(context_.files);
   ShowMessage(nullptr, MessageIcon::Critical,
-              StartUp::FileNotFound(files, context_.paths, chosenLanguage, *missing));
+              StartUp::FileNotFound(context_.world, chosenLanguage, *missing));
   return false;
 }
 
 void Program::ChooseLanguage(const Text& chosenLanguage) {
-  IniOps::Snapshot files(context_.files);
-  LOCAL::Language& language = context_.language;
-  language.StartUp(files, context_.paths.languageRoot, chosenLanguage);
+  IniOps::Snapshot files(context_.world.cache);
+  LOCAL::Language& language = context_.world.language;
+  language.Start(files, chosenLanguage);
   window_->ShowTexts(language.IsGerman() ? Translate_UI_DE()
                                          : Translate_UI(files, language, MenuTable::Captions()));
   language.CacheTranslationTable(files);

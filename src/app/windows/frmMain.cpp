@@ -1,6 +1,7 @@
 #include "app/windows/frmMain.h"
 
 #include "app/Context.h"
+#include "app/StartUp.h"
 #include "app/windows/Commands.h"
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
@@ -22,17 +23,17 @@ QSize StartSize(const QWidget& widget) {
 frmMain::frmMain(Context& context)
     : context_(context),
       menus_(new MenuBar(this)),
-      map_(new MapView(context.files, context.language, this,
-                       context.paths.programFolder + u"overview.jpg")),
+      map_(new MapView(context.world.cache, context.world.language, this,
+                       context.world.paths.programFolder + u"overview.jpg")),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
-  setWindowTitle(ToQt(StartUp::Caption(context.edition)));
+  setWindowTitle(ToQt(StartUp::Caption(context.world.edition)));
   setMenuBar(menus_);
   setCentralWidget(map_);
   const QSize map = StartSize(*this);
   resize(map.width(), map.height() + menus_->sizeHint().height());
-  menus_->SetShown(u"mnuExtras", !context.edition.withoutExtras);
-  menus_->SetShown(u"mnuLanguage", !context.edition.withoutLanguages);
+  menus_->SetShown(u"mnuExtras", !context.world.edition.withoutExtras);
+  menus_->SetShown(u"mnuLanguage", !context.world.edition.withoutLanguages);
   connect(menus_, &MenuBar::CategoryChosen, this, &frmMain::RunCategory);
   connect(menus_, &MenuBar::CommandChosen, commands_, &Commands::Run);
   connect(map_, &MapView::Displayed, this, [this] { menus_->SetEnabled(u"miPrint", true); });
@@ -51,7 +52,7 @@ void frmMain::ShowTexts(const InterfaceTexts& texts) {
 }
 
 void frmMain::RunCategory(const MenuRow& row) {
-  const auto& region = context_.paths.regions[static_cast<size_t>(row.region)];
+  const auto& region = context_.world.paths.Of(*row.region);
   const Text category(row.category);
   if (row.mode == DisplayMode::List || row.listFirst)
     map_->Change(region.picture, region.data, category);

@@ -41,7 +41,8 @@ int main(int, char** argv) {
   QApplication::setStyle(new FocusStyle(QApplication::style()->name()));
   QApplication::setWindowIcon(ProgramIcon());
   QtDesktop desktop;
-  Context context(NativePath::FromBytes(PosixFile::ExecutableFolder()), desktop);
+  World world(NativePath::FromBytes(PosixFile::ExecutableFolder()));
+  Context context(world, desktop);
   Program program(context);
   // Inside the event loop: before it, nothing can end the program.
   QTimer::singleShot(0, &application, [&program] {

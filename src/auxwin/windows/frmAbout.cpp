@@ -5,7 +5,6 @@
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
-#include "platform/WaveFile.h"
 
 #include <QIcon>
 #include <QPushButton>
@@ -107,18 +106,16 @@ void Fill(QWidget& line, int color) {
 
 }  // namespace
 
-frmAbout::frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                   IniOps::Cache& files, Desktop& desktop, Launching& launching,
-                   const Text& edition)
+frmAbout::frmAbout(QWidget* parent, World& world, Desktop& desktop, Launching& launching)
     : Dialog(parent, WindowDesign), desktop_(desktop) {
-  IniOps::Snapshot snapshot(files);
-  StartMusic(snapshot, paths);
+  IniOps::Snapshot snapshot(world.cache);
+  StartMusic(snapshot, world.paths);
   Hyperlink::CreateAddressLink(Label(u"lblEMail"), launching, u"mailto:");
   Hyperlink::CreateAddressLink(Label(u"lblWebSite"), launching, u"");
   ShowBanner();
   Fill(*Control<QWidget>(u"LineGray"), Gray);
   Fill(*Control<QWidget>(u"linWhite"), White);
-  applyTexts(snapshot, language, edition);
+  applyTexts(snapshot, world.language, world.edition.text);
   // Not the first link, which Enter would open.
   Control<QPushButton>(u"btnOK")->setFocus();
 }
@@ -133,13 +130,11 @@ void frmAbout::done(int result) {
 }
 
 void frmAbout::StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths) {
-  playMusic_ = Settings::IsYes(files, paths.settings, Settings::PlayMusic);
+  playMusic_ = Settings::IsYes(files.File(paths.settings), Settings::PlayMusic);
   if (!playMusic_)
     return;
   const auto music = FileSystem::Resolve(Texts::Join(paths.programFolder, u"orvalis.wav"));
-  if (music && WaveFile::IsPlayable(*music))
-    desktop_.LoopSound(*music);
-  else
+  if (!music || !desktop_.LoopSound(*music))
     desktop_.Beep();
 }
 
@@ -172,7 +167,7 @@ void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& langua
 
 void frmAbout::ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& language) {
   const auto text = [&](TextView key) {
-    return files.IniRead(language.LanguageFile, u"frmAbout", key, u"");
+    return files.IniRead(language.LanguageFile(), u"frmAbout", key, u"");
   };
   setWindowTitle(ToQt(Texts::Join(text(u"caption"), u" ", ProgramInfo::Title)));
   for (const Translated& translated : TranslatedLabels)

@@ -1,9 +1,7 @@
 #pragma once
 
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
 #include "platform/Desktop.h"
 
 #include <QLabel>
@@ -15,9 +13,7 @@ class frmAbout : public Dialog {
   Q_OBJECT
 
  public:
-  /// `edition` is how the main window's caption names a reduced edition; empty for the full one.
-  frmAbout(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-           IniOps::Cache& files, Desktop& desktop, Launching& launching, const Text& edition);
+  frmAbout(QWidget* parent, World& world, Desktop& desktop, Launching& launching);
   ~frmAbout() override;
 
   void done(int result) override;

@@ -40,11 +40,10 @@ constexpr DialogDesign WindowDesign = {.name = u"frmExtras",
 
 }  // namespace
 
-frmExtras::frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-                     IniOps::Cache& files, Launching& launching)
+frmExtras::frmExtras(QWidget* parent, World& world, Launching& launching)
     : Dialog(parent, WindowDesign),
-      paths_(paths),
-      language_(language),
+      paths_(world.paths),
+      language_(world.language),
       launching_(launching),
       glbExtras(Control<GridListbox>(u"glbExtras")),
       btnSelect(Control<QPushButton>(u"btnSelect")),
@@ -54,7 +53,7 @@ frmExtras::frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::La
   imgList->setPixmap(QIcon(QStringLiteral(":/builtin/document.png")).pixmap(PictureSize));
   glbExtras->SetSorted(true);
   glbExtras->SetCaption(u"Vorhandene Extras");
-  IniOps::Snapshot snapshot(files);
+  IniOps::Snapshot snapshot(world.cache);
   applyTexts(snapshot);
   connect(btnSelect, &QPushButton::clicked, this, &frmExtras::btnSelect_Click);
   connect(glbExtras, &GridListbox::DblClick, this, &frmExtras::btnSelect_Click);

@@ -1,10 +1,8 @@
 #pragma once
 
+#include "app/World.h"
 #include "auxwin/Launching.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
 
 class GridListbox;
 class QLabel;
@@ -15,8 +13,7 @@ class frmExtras : public Dialog {
   Q_OBJECT
 
  public:
-  frmExtras(QWidget* parent, const ProgramPaths& paths, const LOCAL::Language& language,
-            IniOps::Cache& files, Launching& launching);
+  frmExtras(QWidget* parent, World& world, Launching& launching);
 
  private:
   void applyTexts(IniOps::Snapshot& files);

@@ -66,7 +66,7 @@ constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
 
 }  // namespace
 
-frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cache& files,
+frmPrint::frmPrint(QWidget* parent, World& world,
                    Desktop& desktop, Printout printout)
     : Dialog(parent, WindowDesign),
       desktop_(desktop),
@@ -81,8 +81,8 @@ frmPrint::frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cac
   ShowBanner();
   FillPrinters();
   rbQuerformat->setChecked(true);
-  IniOps::Snapshot snapshot(files);
-  applyTexts(snapshot, language);
+  IniOps::Snapshot snapshot(world.cache);
+  applyTexts(snapshot, world.language);
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "app/Twips2Pixel_Module.h"
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/files/IniOps.h"
 #include "platform/Desktop.h"
 
 #include <functional>
@@ -29,7 +28,7 @@ class frmPrint : public Dialog {
   Q_OBJECT
 
  public:
-  frmPrint(QWidget* parent, const LOCAL::Language& language, IniOps::Cache& files, Desktop& desktop,
+  frmPrint(QWidget* parent, World& world, Desktop& desktop,
            Printout printout);
 
  private:

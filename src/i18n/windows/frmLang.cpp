@@ -87,12 +87,12 @@ QPixmap ReadFlag(TextView file) {
 
 }  // namespace
 
-frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Launching& launching, std::span<const MenuCaption> menus)
+frmLang::frmLang(QWidget* parent, World& world, Launching& launching,
+                 std::span<const MenuCaption> menus)
     : Dialog(parent, LanguageDesign),
-      paths_(paths),
-      language_(language),
-      files_(files),
+      paths_(world.paths),
+      language_(world.language),
+      cache_(world.cache),
       menus_(menus),
       glbLang(Control<GridListbox>(u"glbLang")),
       fraMetaData(Control<QGroupBox>(u"fraMetaData")),
@@ -115,15 +115,15 @@ frmLang::frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   imgLangGerman->setPixmap(ReadFlag(u":/builtin/flag-de.png"));
   imgNoFlag->hide();
   imgNoFlag->setPixmap(ReadFlag(u":/builtin/flag-none.png"));
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   FillList(snapshot);
   const bool german = language_.IsGerman();
   ShowDetails(
-      LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile));
+      LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile()));
   imgCurrentLang->setPixmap(
       german
           ? imgLangGerman->pixmap()
-          : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot, language_.LanguageFolder, u".bmp")));
+          : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot(), language_.LanguageFolder(), u".bmp")));
   applyTexts(snapshot);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
   connect(glbLang, &GridListbox::DblClick, this, &frmLang::btnSelect_Click);
@@ -134,10 +134,10 @@ void frmLang::FillList(IniOps::Snapshot& snapshot) {
   glbLang->SetNoHeader(false);
   glbLang->SetSorted(true);
   glbLang->AddItem(Texts::Join(u" ", LOCAL::German), imgLangGerman->pixmap(), LOCAL::BuiltIn);
-  for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot))
+  for (const auto& entry : LanguageList::Read(snapshot, language_.LanguageRoot()))
     glbLang->AddItem(Texts::Join(u" ", entry.name), Flag(entry.flag), entry.file);
   for (int row = 1; row <= glbLang->ListCount(); ++row)
-    if (Texts::Trim(glbLang->List(row)) == language_.CurrentLanguage)
+    if (Texts::Trim(glbLang->List(row)) == language_.CurrentLanguage())
       glbLang->Select(row);
 }
 
@@ -173,7 +173,7 @@ void frmLang::glbLang_RowClick(int Item) {
   const auto row = glbLang->Rows(Item);
   if (!row)
     return;
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   ShowDetails(LanguageList::ReadDetails(snapshot, row->Tag));
   imgCurrentLang->setPixmap(row->Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
                                                        : Flag(LanguageList::FlagOf(row->Tag)));
@@ -183,7 +183,7 @@ void frmLang::btnSelect_Click() {
   const auto row = glbLang->Rows(glbLang->ListIndex());
   if (!row)
     return;
-  IniOps::Snapshot snapshot(files_);
+  IniOps::Snapshot snapshot(cache_);
   const InterfaceTexts texts =
       LanguageList::Select(snapshot, language_, paths_.settings, row->Tag, menus_);
   Q_EMIT LanguageChanged(texts);

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
 
 #include <span>
 
@@ -23,8 +22,7 @@ class frmLang : public Dialog {
 
  public:
   /// `menus` are the menus of the main window, whose texts go with `LanguageChanged`.
-  frmLang(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-          IniOps::Cache& files, Launching& launching, std::span<const MenuCaption> menus);
+  frmLang(QWidget* parent, World& world, Launching& launching, std::span<const MenuCaption> menus);
 
  Q_SIGNALS:
   /// Another language is current and stored in the settings; these are its texts. What the map
@@ -41,7 +39,7 @@ class frmLang : public Dialog {
 
   const ProgramPaths& paths_;
   LOCAL::Language& language_;
-  IniOps::Cache& files_;
+  IniOps::Cache& cache_;
   std::span<const MenuCaption> menus_;
   GridListbox* glbLang;
   QGroupBox* fraMetaData;

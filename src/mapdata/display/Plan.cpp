@@ -5,10 +5,11 @@ namespace {
 using EntityFile::Position;
 using Marker = MapPlan::Marker;
 
-std::vector<Marker> MarkersOf(const ViewState& view, EntityNames& names, IniOps::Snapshot& files) {
+std::vector<Marker> MarkersOf(const ViewState& view, const EntityNames& names,
+                              IniOps::Snapshot& files) {
   std::vector<Marker> markers;
-  for (const EntityFile::Marker& entity :
-       EntityFile::ReadMarkers(files, view.DataFile, view.CategoryKey, names, MapPlan::MostMarkers))
+  for (const EntityFile::Marker& entity : EntityFile::ReadMarkers(
+           files.File(view.DataFile), view.CategoryKey, files, names, MapPlan::MostMarkers))
     markers.push_back({.position = entity.position,
                        .name = entity.name,
                        .caption = Texts::Padded(entity.name),
@@ -19,10 +20,10 @@ std::vector<Marker> MarkersOf(const ViewState& view, EntityNames& names, IniOps:
 }
 
 // None where the file has no position for it.
-std::vector<Marker> Picked(const ViewState& view, const Text& name, EntityNames& names,
+std::vector<Marker> Picked(const ViewState& view, const Text& name, const EntityNames& names,
                            IniOps::Snapshot& files) {
   const auto position =
-      EntityFile::ReadPicked(files, view.DataFile, view.CategoryKey, names.Key(name));
+      EntityFile::ReadPicked(files.File(view.DataFile), view.CategoryKey, names.Key(name));
   if (!position)
     return {};
   return {{.position = *position, .name = name, .caption = Texts::Padded(name)}};
@@ -30,7 +31,8 @@ std::vector<Marker> Picked(const ViewState& view, const Text& name, EntityNames&
 
 // A hit whose name is in the hidden list is picked there, which puts blanks around its name that
 // the search then adds to.
-std::vector<Marker> Found(const ViewState& view, EntityNames& names, IniOps::Snapshot& files) {
+std::vector<Marker> Found(const ViewState& view, const EntityNames& names,
+                          IniOps::Snapshot& files) {
   const ViewState::Found& found = *view.found;
   auto picked = found.row.empty() ? std::vector<Marker>() : Picked(view, found.row, names, files);
   for (Marker& marker : picked)
@@ -46,7 +48,7 @@ std::vector<Marker> Found(const ViewState& view, EntityNames& names, IniOps::Sna
 
 }  // namespace
 
-MapPlan Plan(const ViewState& view, EntityNames& names, IniOps::Snapshot& files) {
+MapPlan Plan(const ViewState& view, const EntityNames& names, IniOps::Snapshot& files) {
   switch (view.kind) {
     case ViewState::Kind::Nothing:
       break;

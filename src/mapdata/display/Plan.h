@@ -34,4 +34,5 @@ struct MapPlan {
 };
 
 /// What the state of the map asks for. Each file is looked at once.
-[[nodiscard]] MapPlan Plan(const ViewState& view, EntityNames& names, IniOps::Snapshot& files);
+[[nodiscard]] MapPlan Plan(const ViewState& view, const EntityNames& names,
+                           IniOps::Snapshot& files);

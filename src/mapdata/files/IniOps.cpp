@@ -7,6 +7,8 @@
 
 namespace {
 
+using IniOps::LargestFile;
+
 // The region shown, its descriptions and the language: what the pointer and a resize ask for again
 // and again. Any other file is parsed anew in milliseconds.
 constexpr size_t MostKeptFiles = 3;
@@ -15,7 +17,16 @@ constexpr size_t MostKeptFiles = 3;
 constexpr int64_t UntrustedAge = 2'500'000'000;
 
 std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
-  return std::make_shared<const ProfileFile>(std::move(bytes));
+  const auto state = bytes.empty() ? ReadState::Empty : ReadState::Read;
+  return std::make_shared<const ProfileFile>(std::move(bytes), state);
+}
+
+// An empty file instead of one that could not be read.
+std::shared_ptr<const ProfileFile> NotRead(bool there, const PosixFile::Stamp& stamp) {
+  const auto state = !there                     ? ReadState::Missing
+                     : stamp.size > LargestFile ? ReadState::TooLarge
+                                                : ReadState::Unreadable;
+  return std::make_shared<const ProfileFile>(std::string(), state);
 }
 
 std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
@@ -27,11 +38,11 @@ std::vector<Text> Decoded(const std::vector<std::string_view>& names) {
 }
 
 std::vector<Text> SectionNames(const ProfileFile& file) {
-  auto names = file.SectionNames();
-  std::erase_if(names, [](std::string_view name) {
-    return name.find_first_not_of(' ') == std::string_view::npos;
-  });
-  return Decoded(names);
+  std::vector<Text> names;
+  for (const ProfileFile::Section& section : file.Sections())
+    if (!ProfileLines::IsBlank(section.name))
+      names.push_back(Windows1252::Decode(section.name));
+  return names;
 }
 
 std::vector<Text> KeyNames(const ProfileFile& file, TextView section) {
@@ -59,7 +70,7 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   }
   auto contents = stamp ? PosixFile::Read(*path, LargestFile) : std::nullopt;
   if (!contents)
-    return Parsed({});
+    return NotRead(path.has_value(), stamp.value_or(PosixFile::Stamp{}));
   auto profile = Parsed(std::move(contents->bytes));
   if (PosixFile::Now() - contents->stamp.modified < UntrustedAge)
     return profile;
@@ -87,18 +98,13 @@ std::vector<Text> Snapshot::IniReadFile(TextView file, TextView section) {
   return KeyNames(File(file), section);
 }
 
-std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
-                              std::string_view key) {
-  return file.Value(section, key).value_or(std::string_view()).substr(0, LongestValue);
-}
-
 Text IniRead(const ProfileFile& file, TextView section, TextView key, TextView defaultValue) {
   const auto sectionBytes = Windows1252::Encode(section);
   const auto keyBytes = Windows1252::Encode(key);
   // A name asked for that Windows-1252 can't hold stands in no file.
   if (!sectionBytes || !keyBytes)
     return Text(defaultValue);
-  const auto value = IniReadBytes(file, *sectionBytes, *keyBytes);
+  const auto value = file.Read(*sectionBytes, *keyBytes);
   return value.empty() ? Text(defaultValue) : Windows1252::Decode(value);
 }
 
@@ -117,20 +123,26 @@ std::vector<Text> IniReadFile(TextView file, TextView section) {
   return Snapshot(cache).IniReadFile(file, section);
 }
 
-void IniWrite(TextView file, TextView section, TextView key, TextView value) {
+WriteState Write(TextView file, TextView section, TextView key, TextView value) {
   const auto sectionBytes = Windows1252::Encode(section);
   const auto keyBytes = Windows1252::Encode(key);
   const auto valueBytes = Windows1252::Encode(value);
-  const bool breaks = BreaksLine(section) || BreaksLine(key) || BreaksLine(value);
-  if (!sectionBytes || !keyBytes || !valueBytes || breaks)
-    return;
+  if (!sectionBytes || !keyBytes || !valueBytes)
+    return WriteState::NotInCodePage;
+  if (BreaksLine(section) || BreaksLine(key) || BreaksLine(value))
+    return WriteState::BreaksLine;
   const std::string path = FileSystem::ResolveForWriting(file);
   auto contents = PosixFile::Read(path, LargestFile);
   // A file that is there but can't be read would be lost by writing a new one.
   if (!contents && PosixFile::Exists(path))
-    return;
+    return WriteState::Unreadable;
   const ProfileFile profile(contents ? std::move(contents->bytes) : std::string());
-  PosixFile::Replace(path, profile.WithValue(*sectionBytes, *keyBytes, *valueBytes));
+  const std::string changed = profile.WithValue(*sectionBytes, *keyBytes, *valueBytes);
+  return PosixFile::Replace(path, changed) ? WriteState::Written : WriteState::NotWritable;
+}
+
+void IniWrite(TextView file, TextView section, TextView key, TextView value) {
+  static_cast<void>(Write(file, section, key, value));
 }
 
 }  // namespace IniOps

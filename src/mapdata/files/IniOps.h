@@ -9,12 +9,9 @@
 #include <vector>
 
 /// Profile files: settings, entity data, descriptions, pictures and languages. Paths are composed
-/// as the rules name them. A missing file, section or key gives the default or an empty list, and
-/// nothing here reports a failure.
+/// as the rules name them. A missing file, section or key gives the default or an empty list; who
+/// wants to know what became of a file asks the file itself.
 namespace IniOps {
-
-/// Longer values are cut to this number of characters.
-inline constexpr size_t LongestValue = 2047;
 
 /// Larger files read as empty ones.
 inline constexpr size_t LargestFile = 1'000'000'000;
@@ -22,7 +19,8 @@ inline constexpr size_t LargestFile = 1'000'000'000;
 /// Parsed files, kept from one event to the next while they stay the same on disk.
 class Cache {
  public:
-  /// The file as it stands on disk now, an empty one if it can't be read; never null.
+  /// The file as it stands on disk now, an empty one that knows why if it can't be read; never
+  /// null.
   [[nodiscard]] std::shared_ptr<const ProfileFile> Get(TextView file);
 
  private:
@@ -68,10 +66,6 @@ class Snapshot {
   std::deque<Seen> seen_;
 };
 
-/// The bytes of the value, "" by default, as a view into the file; see `Snapshot::IniRead`.
-[[nodiscard]] std::string_view IniReadBytes(const ProfileFile& file, std::string_view section,
-                                            std::string_view key);
-
 /// A question to a file that was read before; see `Snapshot::IniRead`.
 [[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
                            TextView defaultValue);
@@ -85,8 +79,14 @@ class Snapshot {
 /// See `Snapshot::IniReadFile`.
 [[nodiscard]] std::vector<Text> IniReadFile(TextView file, TextView section);
 
+/// What became of writing a value.
+enum class WriteState { Written, BreaksLine, NotInCodePage, Unreadable, NotWritable };
+
 /// Sets the value; file, section and key are created as needed, every other line keeps its bytes.
 /// A failed write, a line break, or a character that Windows-1252 lacks leaves the file as it was.
 void IniWrite(TextView file, TextView section, TextView key, TextView value);
+
+/// The same, and tells what became of it.
+[[nodiscard]] WriteState Write(TextView file, TextView section, TextView key, TextView value);
 
 }  // namespace IniOps

@@ -1,75 +1,42 @@
 #include "mapdata/files/ProfileFile.h"
 
-#include "mapdata/files/ProfileLines.h"
-
 #include <algorithm>
-#include <bit>
 #include <functional>
 
 using ProfileLines::Blanks;
-using ProfileLines::HashName;
-using ProfileLines::SameAscii;
-using ProfileLines::SameName;
+using ProfileLines::Entry;
+using ProfileLines::Line;
+using ProfileLines::LineKind;
 using ProfileLines::Strip;
 using ProfileLines::TakeLine;
 
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-constexpr uint32_t Free = 0xFFFFFFFF;
 
-// The number of the first name that is the same but for ASCII case, else of the first that is the
-// same but for the case of any letter, else none: a file may hold "Š" and "š" as two keys.
-template <typename Slot, typename NameAt>
-std::optional<uint32_t> Find(const std::vector<Slot>& slots, std::string_view name, NameAt nameAt) {
-  const size_t mask = slots.size() - 1;
-  const uint32_t hash = HashName(name);
-  std::optional<uint32_t> found;
-  for (size_t at = hash & mask; slots[at].number != Free; at = (at + 1) & mask) {
-    if (slots[at].hash != hash)
-      continue;
-    if (SameAscii(nameAt(slots[at].number), name))
-      return slots[at].number;
-    if (!found && SameName(nameAt(slots[at].number), name))
-      found = slots[at].number;
-  }
-  return found;
+uint32_t HeaderHash(std::string_view header) {
+  return NameHash::Of(header, [](unsigned char byte) { return byte; });
 }
 
-// Registers the names 0 to count - 1; of names that are the same the first stays.
-template <typename Slot, typename NameAt, typename Same>
-void BuildSlots(std::vector<Slot>& slots, size_t count, NameAt nameAt, Same same) {
-  slots.assign(std::bit_ceil(count * 2 + 2), {Free, 0});
-  const size_t mask = slots.size() - 1;
-  for (uint32_t i = 0; i < count; ++i) {
-    const uint32_t hash = HashName(nameAt(i));
-    size_t at = hash & mask;
-    while (slots[at].number != Free &&
-           (slots[at].hash != hash || !same(nameAt(slots[at].number), nameAt(i))))
-      at = (at + 1) & mask;
-    if (slots[at].number == Free)
-      slots[at] = {i, hash};
-  }
+bool EndsLine(char byte) {
+  return byte == '\n' || byte == '\r';
 }
 
-std::string_view HeaderName(std::string_view strippedLine) {
-  strippedLine.remove_prefix(1);
-  return Strip(strippedLine.substr(0, strippedLine.find(']')), Blanks);
-}
-
-std::string_view Unquoted(std::string_view value) {
-  const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                      (value.front() == '"' || value.front() == '\'');
-  return quoted ? value.substr(1, value.size() - 2) : value;
+// Whether one text stands in the other, as memory and not as contents.
+bool IsPartOf(std::string_view text, std::string_view part) {
+  const std::less_equal<> upTo;
+  return part.data() && upTo(text.data(), part.data()) &&
+         upTo(part.data() + part.size(), text.data() + text.size());
 }
 
 }  // namespace
 
-ProfileFile::ProfileFile(std::string bytes) : bytes_(std::move(bytes)) {
+ProfileFile::ProfileFile(std::string bytes, ReadState state)
+    : bytes_(std::move(bytes)), state_(state) {
   IndexSections();
 }
 
-std::string_view ProfileFile::Lines() const {
+std::string_view ProfileFile::Contents() const {
   const std::string_view bytes = bytes_;
   return bytes.substr(bytes.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
 }
@@ -84,68 +51,65 @@ std::string_view ProfileFile::Key(const KeyLine& line) const {
 
 // Goes from "[" to "[": most lines of a large file are never looked at.
 void ProfileFile::IndexSections() {
-  const std::string_view lines = Lines();
-  for (size_t at = lines.find('['); at != std::string_view::npos;) {
-    const size_t indent = lines.substr(0, at).find_last_not_of(Blanks) + 1;
-    if (indent > 0 && lines[indent - 1] != '\n' && lines[indent - 1] != '\r') {
-      at = lines.find('[', at + 1);
+  const std::string_view text = Contents();
+  for (size_t at = text.find('['); at != std::string_view::npos;) {
+    const size_t indent = text.substr(0, at).find_last_not_of(Blanks) + 1;
+    if (indent > 0 && !EndsLine(text[indent - 1])) {
+      at = text.find('[', at + 1);
       continue;
     }
-    std::string_view rest = lines.substr(indent);
-    const std::string_view line = TakeLine(rest);
+    std::string_view rest = text.substr(indent);
+    const Line line = TakeLine(rest);
     if (!sections_.empty()) {
       auto& body = sections_.back().body;
-      body = {body.data(), static_cast<size_t>(line.data() - body.data())};
+      body = {body.data(), static_cast<size_t>(line.raw.data() - body.data())};
     }
-    sections_.push_back({HeaderName(Strip(line, Blanks)), line, rest, false, {}, {}});
-    at = lines.find('[', lines.size() - rest.size());
+    sections_.push_back({line.AsEntry().key, line.raw, rest});
+    at = text.find('[', text.size() - rest.size());
   }
-  BuildSlots(
-      sectionSlots_, sections_.size(), [this](uint32_t i) { return sections_[i].name; }, SameAscii);
-  BuildSlots(
-      headerSlots_, sections_.size(), [this](uint32_t i) { return sections_[i].header; },
-      std::equal_to<std::string_view>());
+  keys_.resize(sections_.size());
+  sectionNames_.Build(sections_.size(), [this](uint32_t i) { return sections_[i].name; });
+  headers_.Reset(sections_.size());
+  for (uint32_t i = 0; i < sections_.size(); ++i)
+    headers_.Add(HeaderHash(sections_[i].header), i, [this, i](uint32_t other) {
+      return sections_[other].header == sections_[i].header;
+    });
 }
 
-void ProfileFile::IndexKeys(const Section& section) const {
-  section.indexed = true;
-  std::string_view rest = section.body;
-  while (!rest.empty()) {
-    const std::string_view line = Strip(TakeLine(rest), Blanks);
-    if (line.empty() || line.starts_with(';'))
-      continue;
-    const auto equals = line.find('=');
-    const bool hasValue = equals != std::string_view::npos;
-    const std::string_view key = Strip(line.substr(0, equals), Blanks);
-    const std::string_view value = Strip(line.substr(hasValue ? equals + 1 : line.size()), Blanks);
-    section.lines.push_back({Offset(key), static_cast<uint32_t>(key.size()), Offset(value),
-                             hasValue ? static_cast<uint32_t>(value.size()) : NoValue});
+const ProfileFile::KeyIndex& ProfileFile::Keys(size_t section) const {
+  KeyIndex& index = keys_[section];
+  if (index.built)
+    return index;
+  index.built = true;
+  for (const Line& line : Lines(sections_[section])) {
+    const Entry entry = line.AsEntry();
+    const bool hasValue = entry.kind == LineKind::KeyWithValue;
+    if (hasValue || entry.kind == LineKind::KeyWithoutValue)
+      index.lines.push_back({Offset(entry.key), static_cast<uint32_t>(entry.key.size()),
+                             hasValue ? Offset(entry.value) : 0,
+                             hasValue ? static_cast<uint32_t>(entry.value.size()) : NoValue});
   }
-  section.lines.shrink_to_fit();
-  BuildSlots(
-      section.slots, section.lines.size(),
-      [this, &section](uint32_t i) { return Key(section.lines[i]); }, SameAscii);
+  index.lines.shrink_to_fit();
+  index.names.Build(index.lines.size(), [&](uint32_t i) { return Key(index.lines[i]); });
+  return index;
 }
 
-const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
+std::optional<size_t> ProfileFile::FindSection(std::string_view name) const {
   name = Strip(name, " ");
-  if (lastFound_ && lastFound_->name == name)
-    return lastFound_;
-  const auto found = Find(sectionSlots_, name, [this](uint32_t i) { return sections_[i].name; });
-  lastFound_ = found ? &sections_[*found] : nullptr;
+  if (!lastFound_ || sections_[*lastFound_].name != name)
+    lastFound_ = sectionNames_.Find(name, [this](uint32_t i) { return sections_[i].name; });
   return lastFound_;
 }
 
 const ProfileFile::KeyLine* ProfileFile::FindKey(std::string_view section,
                                                  std::string_view key) const {
-  const Section* in = FindSection(section);
+  const auto in = FindSection(section);
   if (!in)
     return nullptr;
-  if (!in->indexed)
-    IndexKeys(*in);
+  const KeyIndex& index = Keys(*in);
   const auto found =
-      Find(in->slots, Strip(key, " "), [this, in](uint32_t i) { return Key(in->lines[i]); });
-  return found ? &in->lines[*found] : nullptr;
+      index.names.Find(Strip(key, " "), [&](uint32_t i) { return Key(index.lines[i]); });
+  return found ? &index.lines[*found] : nullptr;
 }
 
 std::optional<std::string_view> ProfileFile::Value(std::string_view section,
@@ -153,43 +117,53 @@ std::optional<std::string_view> ProfileFile::Value(std::string_view section,
   const KeyLine* line = FindKey(section, key);
   if (!line || line->valueLength == NoValue)
     return std::nullopt;
-  return Unquoted(std::string_view(bytes_).substr(line->value, line->valueLength));
+  const std::string_view value = std::string_view(bytes_).substr(line->value, line->valueLength);
+  return ProfileLines::Unquoted(value).substr(0, LongestValue);
 }
 
-std::vector<std::string_view> ProfileFile::SectionNames() const {
-  std::vector<std::string_view> names;
-  names.reserve(sections_.size());
-  for (const Section& section : sections_)
-    names.push_back(section.name);
-  return names;
+ProfileLines::Lines ProfileFile::LinesBefore() const {
+  const std::string_view text = Contents();
+  if (sections_.empty())
+    return ProfileLines::Lines(text);
+  return ProfileLines::Lines({text.data(), sections_.front().header.data()});
 }
 
-// The lines up to the next one that begins with "[": an indented header ends no key list.
-std::string_view ProfileFile::LinesBelow(std::string_view header) const {
-  const size_t mask = headerSlots_.size() - 1;
-  size_t at = HashName(header) & mask;
-  while (headerSlots_[at].number != Free && sections_[headerSlots_[at].number].header != header)
-    at = (at + 1) & mask;
-  if (headerSlots_[at].number == Free)
-    return {};
-  const auto found = sections_.begin() + headerSlots_[at].number;
-  const auto next = std::find_if(found + 1, sections_.end(), [](const Section& section) {
-    return section.header.starts_with('[');
+ProfileLines::Lines ProfileFile::ListedLines(std::string_view section) const {
+  const std::string header = '[' + std::string(section) + ']';
+  const auto number =
+      headers_.Find(HeaderHash(header), [&](uint32_t i) { return sections_[i].header == header; });
+  if (!number)
+    return ProfileLines::Lines({});
+  const auto found = sections_.begin() + *number;
+  const auto next = std::find_if(found + 1, sections_.end(), [](const Section& other) {
+    return other.header.starts_with('[');
   });
   const char* const end =
       next == sections_.end() ? bytes_.data() + bytes_.size() : next->header.data();
-  return {found->body.data(), static_cast<size_t>(end - found->body.data())};
+  return ProfileLines::Lines({found->body.data(), end});
 }
 
 std::vector<std::string_view> ProfileFile::KeyNames(std::string_view section) const {
   std::vector<std::string_view> keys;
-  std::string_view rest = LinesBelow('[' + std::string(section) + ']');
-  while (!rest.empty()) {
-    const std::string_view line = TakeLine(rest);
-    if (!Strip(line, " ").empty())
-      keys.push_back(Strip(line.substr(0, line.find('=')), " "));
-  }
+  for (const Line& line : ListedLines(section))
+    if (const auto key = line.ListedKey())
+      keys.push_back(*key);
   return keys;
+}
+
+std::optional<Place> ProfileFile::PlaceOf(std::string_view part) const {
+  const std::string_view text = Contents();
+  if (!IsPartOf(text, part))
+    return std::nullopt;
+  if (lineStarts_.empty()) {
+    lineStarts_.push_back(Offset(text));
+    for (const Line& line : ProfileLines::Lines(text))
+      lineStarts_.push_back(Offset(line.raw) +
+                            static_cast<uint32_t>(line.raw.size() + line.end.size()));
+  }
+  const uint32_t offset = Offset(part);
+  const auto behind = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), offset);
+  return Place{static_cast<size_t>(behind - lineStarts_.begin()), offset - *(behind - 1) + 1};
 }
 
 std::string_view ProfileFile::LineEnd() const {
@@ -199,34 +173,38 @@ std::string_view ProfileFile::LineEnd() const {
   return bytes_.find('\r') == std::string::npos ? "\r\n" : "\r";
 }
 
+std::string ProfileFile::WithLineAt(size_t at, std::string_view lines) const {
+  const bool cut = at > 0 && !EndsLine(bytes_[at - 1]);
+  std::string changed = bytes_;
+  return changed.insert(at, std::string(cut ? LineEnd() : "").append(lines));
+}
+
+std::string ProfileFile::WithLineChanged(const KeyLine& line, std::string_view value) const {
+  const size_t to = line.valueLength == NoValue ? size_t{line.key} + line.keyLength
+                                                : size_t{line.value} + line.valueLength;
+  const bool last = bytes_.find_first_of("\r\n", to) == std::string::npos;
+  return bytes_.substr(0, line.key + line.keyLength)
+      .append("=")
+      .append(value)
+      .append(bytes_, to)
+      .append(last ? LineEnd() : "");
+}
+
 std::string ProfileFile::WithValue(std::string_view section, std::string_view key,
                                    std::string_view value) const {
-  const std::string end(LineEnd());
   // Blanks around them would not be read, but the next write would leave some of them.
   key = Strip(key, " ");
   value = Strip(value, Blanks);
-  const std::string entry = std::string(key) + '=' + std::string(value);
-  std::string changed = bytes_;
-  if (const KeyLine* line = FindKey(section, key)) {
-    const size_t to = line->valueLength == NoValue ? size_t{line->key} + line->keyLength
-                                                   : size_t{line->value} + line->valueLength;
-    return changed.replace(line->key, to - line->key,
-                           std::string(Key(*line)) + '=' + std::string(value));
-  }
-  const auto newLine = [&](size_t at) {
-    const bool cut = at > 0 && bytes_[at - 1] != '\n' && bytes_[at - 1] != '\r';
-    return (cut ? end : std::string()) + entry + end;
-  };
-  const Section* in = FindSection(section);
-  if (!in) {
-    const bool cut = !bytes_.empty() && bytes_.back() != '\n' && bytes_.back() != '\r';
-    return changed.append(cut ? end : "") + '[' + std::string(Strip(section, " ")) + ']' + end +
-           entry + end;
-  }
-  size_t after = Offset(in->body);
-  std::string_view rest = in->body;
-  while (!rest.empty())
-    if (!Strip(TakeLine(rest), Blanks).empty())
-      after = Offset(rest);
-  return changed.insert(after, newLine(after));
+  if (const KeyLine* line = FindKey(section, key))
+    return WithLineChanged(*line, value);
+  const std::string end(LineEnd());
+  const std::string entry = std::string(key).append("=").append(value).append(end);
+  const auto in = FindSection(section);
+  if (!in)
+    return WithLineAt(bytes_.size(), '[' + std::string(Strip(section, " ")) + ']' + end + entry);
+  size_t after = Offset(sections_[*in].body);
+  for (const Line& line : Lines(sections_[*in]))
+    if (line.AsEntry().kind != LineKind::Blank)
+      after = Offset(line.raw) + line.raw.size() + line.end.size();
+  return WithLineAt(after, entry);
 }

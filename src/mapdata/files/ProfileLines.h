@@ -3,9 +3,8 @@
 #include "platform/Windows1252.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
-#include <string>
+#include <iterator>
+#include <optional>
 #include <string_view>
 
 /// The smallest pieces of a profile file: its lines, the blanks around names, and names compared
@@ -28,6 +27,11 @@ inline constexpr std::string_view Blanks = " \t\v\f";
   return text;
 }
 
+/// Whether there is nothing but spaces.
+[[nodiscard]] inline bool IsBlank(std::string_view text) {
+  return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
 /// The number of bytes before the next CR or LF.
 [[nodiscard]] inline size_t LineLength(std::string_view rest) {
   // In steps: looking for an LF in the whole of a file that has none would take its length for
@@ -42,49 +46,128 @@ inline constexpr std::string_view Blanks = " \t\v\f";
   }
 }
 
-/// The next line, taken off the front of `rest` with its end: CR LF, LF or CR.
-[[nodiscard]] inline std::string_view TakeLine(std::string_view& rest) {
-  const std::string_view line = rest.substr(0, LineLength(rest));
-  rest.remove_prefix(line.size());
-  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<size_t>(rest.size(), 1));
-  return line;
+/// The byte with its ASCII letter in lower case.
+[[nodiscard]] inline unsigned char LowerAscii(unsigned char byte) {
+  return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte + ('a' - 'A')) : byte;
+}
+
+/// Whether two names are the same once `fold` took the case of their letters away.
+template <typename Fold>
+[[nodiscard]] bool SameFolded(std::string_view a, std::string_view b, Fold fold) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [fold](char x, char y) {
+    return fold(static_cast<unsigned char>(x)) == fold(static_cast<unsigned char>(y));
+  });
 }
 
 /// Whether two names are the same but for the case of ASCII letters.
 [[nodiscard]] inline bool SameAscii(std::string_view a, std::string_view b) {
-  const auto lower = [](char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
-  };
-  return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                              [lower](char x, char y) { return lower(x) == lower(y); });
+  return a == b || SameFolded(a, b, LowerAscii);
 }
 
 /// Whether two names are the same but for the case of letters of the whole code page.
 [[nodiscard]] inline bool SameName(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return Windows1252::Fold(static_cast<unsigned char>(x)) ==
-           Windows1252::Fold(static_cast<unsigned char>(y));
-  });
+  return SameFolded(a, b, Windows1252::Fold);
 }
 
-/// A hash that is the same for names that differ in letter case alone. Eight bytes at once, since
-/// files of megabytes are hashed: of letters beyond ASCII only the bits that both cases share
-/// count.
-[[nodiscard]] inline uint32_t HashName(std::string_view name) {
-  constexpr uint64_t HighBits = 0x8080808080808080U;
-  constexpr uint64_t WithoutCase = 0x5F5F5F5F5F5F5F5FU;
-  // The two cases of a letter are 0x10, 0x20 or, of one, 0x60 apart.
-  constexpr uint64_t CaseBitsBeyond = 0x50;
-  uint64_t hash = name.size();
-  for (size_t at = 0; at < name.size(); at += sizeof(uint64_t)) {
-    uint64_t word = 0;
-    std::memcpy(&word, name.data() + at, std::min(sizeof word, name.size() - at));
-    const uint64_t beyondAscii = (word & HighBits) >> 7U;
-    word = (word & WithoutCase & ~(beyondAscii * CaseBitsBeyond)) | (word & HighBits);
-    hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
-    hash ^= hash >> 32U;
-  }
-  return static_cast<uint32_t>(hash);
+/// The name between the brackets of a header line.
+[[nodiscard]] inline std::string_view HeaderName(std::string_view strippedLine) {
+  strippedLine.remove_prefix(1);
+  return Strip(strippedLine.substr(0, strippedLine.find(']')), Blanks);
 }
+
+/// The value without the one pair of quotes around it.
+[[nodiscard]] inline std::string_view Unquoted(std::string_view value) {
+  const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                      (value.front() == '"' || value.front() == '\'');
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+/// What a line is to the reader of values.
+enum class LineKind { Blank, Comment, Header, KeyWithValue, KeyWithoutValue };
+
+/// A line as the reader of values takes it.
+struct Entry {
+  LineKind kind = LineKind::Blank;
+  /// The key, or a header's name, without the blanks around it.
+  std::string_view key;
+  /// The value without the blanks, but with the quotes around it.
+  std::string_view value;
+};
+
+/// One line of a file.
+struct Line {
+  /// Without its end.
+  std::string_view raw;
+  /// CR LF, LF or CR; "" at the end of a file that ends without one.
+  std::string_view end;
+
+  /// The line as the reader of values takes it.
+  [[nodiscard]] Entry AsEntry() const {
+    const std::string_view line = Strip(raw, Blanks);
+    if (line.empty())
+      return {};
+    if (line.front() == ';')
+      return {LineKind::Comment, {}, {}};
+    if (line.front() == '[')
+      return {LineKind::Header, HeaderName(line), {}};
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos)
+      return {LineKind::KeyWithoutValue, line, {}};
+    return {LineKind::KeyWithValue, Strip(line.substr(0, equals), Blanks),
+            Strip(line.substr(equals + 1), Blanks)};
+  }
+
+  /// The line as the key list takes it: what stands before the first "=", without the spaces
+  /// around it; none for a line of spaces.
+  [[nodiscard]] std::optional<std::string_view> ListedKey() const {
+    if (IsBlank(raw))
+      return std::nullopt;
+    return Strip(raw.substr(0, raw.find('=')), " ");
+  }
+};
+
+/// The next line, taken off the front of `rest` with its end.
+[[nodiscard]] inline Line TakeLine(std::string_view& rest) {
+  const size_t length = LineLength(rest);
+  const std::string_view behind = rest.substr(length);
+  const size_t end = behind.starts_with("\r\n") ? 2 : std::min<size_t>(behind.size(), 1);
+  const Line line{rest.substr(0, length), behind.substr(0, end)};
+  rest = behind.substr(end);
+  return line;
+}
+
+/// The lines of a file, or of a part that begins at the start of a line.
+class Lines {
+ public:
+  class Iterator {
+   public:
+    explicit Iterator(std::string_view text) : rest_(text) { ++*this; }
+
+    [[nodiscard]] const Line& operator*() const { return line_; }
+
+    Iterator& operator++() {
+      atEnd_ = rest_.empty();
+      if (!atEnd_)
+        line_ = TakeLine(rest_);
+      return *this;
+    }
+
+    [[nodiscard]] bool operator==(std::default_sentinel_t) const { return atEnd_; }
+
+   private:
+    std::string_view rest_;
+    Line line_;
+    bool atEnd_ = false;
+  };
+
+  explicit Lines(std::string_view text) : text_(text) {}
+
+  [[nodiscard]] Iterator begin() const { return Iterator(text_); }
+
+  [[nodiscard]] std::default_sentinel_t end() const { return {}; }
+
+ private:
+  std::string_view text_;
+};
 
 }  // namespace ProfileLines

@@ -10,7 +10,7 @@
 #include "platform/windows/QtText.h"
 
 MapPointer::MapPointer(QObject& map, MapControls& controls, MapFocus& focus, MapLook& look,
-                       IniOps::Cache& files, EntityNames& names)
+                       IniOps::Cache& files, const EntityNames& names)
     : QObject(&map), controls_(controls), focus_(focus), look_(look), files_(files), names_(names) {
   connect(controls.lblCaption, &NameLabel::MouseMove, this, &MapPointer::lblCaption_MouseMove);
   connect(controls.slots_, &MarkerSlots::DotMoved, this, &MapPointer::DOT_MouseMove);
@@ -63,5 +63,5 @@ QString MapPointer::Description(size_t marker) const {
     return {};
   IniOps::Snapshot files(files_);
   const Text key = Texts::Lower(names_.Key(markers[marker].caption));
-  return QtText::ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files, names_.InfoFile(), key)));
+  return QtText::ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files.File(names_.InfoPath()), key)));
 }

@@ -19,7 +19,7 @@ class MapPointer : public QObject {
 
  public:
   MapPointer(QObject& map, MapControls& controls, MapFocus& focus, MapLook& look,
-             IniOps::Cache& files, EntityNames& names);
+             IniOps::Cache& files, const EntityNames& names);
 
   /// Whether names show only while the pointer is on their marker.
   void SetLabelsOnHover(bool labelsOnHover) { labelsOnHover_ = labelsOnHover; }
@@ -48,7 +48,7 @@ class MapPointer : public QObject {
   MapFocus& focus_;
   MapLook& look_;
   IniOps::Cache& files_;
-  EntityNames& names_;
+  const EntityNames& names_;
   QString highlighted_;
   bool labelsOnHover_ = false;
 };

@@ -20,7 +20,7 @@ using Kind = ViewState::Kind;
 using QtText::FromQt;
 using QtText::ToQt;
 
-MapView::MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent,
+MapView::MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent,
                  const Text& startPicture)
     : QWidget(parent),
       files_(files),
@@ -106,8 +106,8 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
 
 void MapView::FillList() {
   IniOps::Snapshot files(files_);
-  controls_->List(ToQt(prompt_),
-                  EntityFile::ReadNames(files, view_.DataFile, view_.CategoryKey, names_));
+  controls_->List(ToQt(prompt_), EntityFile::ReadNames(files.File(view_.DataFile),
+                                                       view_.CategoryKey, files, names_));
 }
 
 void MapView::ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, const Text& Heading,

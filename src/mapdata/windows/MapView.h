@@ -43,7 +43,7 @@ class MapView : public QWidget {
 
   /// Without a region the map shows the start picture, or where that can't be read the one that is
   /// built into the program.
-  MapView(IniOps::Cache& files, EntityNames& names, QWidget* parent = nullptr,
+  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr,
           const Text& startPicture = {});
   ~MapView() override;
 
@@ -118,7 +118,7 @@ class MapView : public QWidget {
   void lblCaption_DblClick();
 
   IniOps::Cache& files_;
-  EntityNames& names_;
+  const EntityNames& names_;
   Text prompt_;
 
   Text infoEntityName_;

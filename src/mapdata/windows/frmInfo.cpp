@@ -1,6 +1,7 @@
 #include "mapdata/windows/frmInfo.h"
 
 #include "mapdata/world/InfoFile.h"
+#include "mapdata/world/Portraits.h"
 #include "platform/windows/PictureReader.h"
 
 #include <QLabel>
@@ -46,19 +47,19 @@ constexpr DialogDesign WindowDesign = {.name = u"frmInfo",
 
 }  // namespace
 
-frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, const Text& infoEntityName)
+frmInfo::frmInfo(QWidget* parent, World& world, const Text& infoEntityName)
     : Dialog(parent, WindowDesign),
       lblName(Control<QLabel>(u"lblName")),
       picPortrait(Control<QLabel>(u"picPortrait")),
       txtInfo(Control<QPlainTextEdit>(u"txtInfo")),
       btnClose(Control<QPushButton>(u"btnClose")),
       imgBackup(Control<QLabel>(u"imgBackup")) {
-  IniOps::Snapshot snapshot(files);
+  const LOCAL::Language& language = world.language;
+  IniOps::Snapshot snapshot(world.cache);
   const Text name(Texts::Trim(infoEntityName));
   const Text key = language.Key(name);
   const auto keyOf = [&language](TextView shown) { return language.Key(shown); };
-  const Text description = InfoFile::ReadRedirected(snapshot, language.InfoFile(), key, keyOf);
+  const Text description = InfoFile::ReadRedirected(snapshot.File(language.InfoPath()), key, keyOf);
   imgBackup->hide();
   imgBackup->setPixmap(QPixmap::fromImage(PictureReader::Read(FallbackPicture)));
   txtInfo->setReadOnly(true);
@@ -67,7 +68,7 @@ frmInfo::frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   buttonFace.setColor(QPalette::Base, buttonFace.color(QPalette::Button));
   txtInfo->setPalette(buttonFace);
   txtInfo->setPlainText(ToQt(Texts::ReplaceAll(description, u"\\n", u"\n")));
-  ShowPortrait(snapshot, paths, key);
+  ShowPortrait(snapshot, world.paths, key);
   lblName->setText(ToQt(infoEntityName));
   applyTexts(snapshot, language, name);
 }
@@ -80,9 +81,9 @@ void frmInfo::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& languag
 }
 
 void frmInfo::ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key) {
-  const Text list = Texts::Join(paths.picturesFolder, u"pic.ini");
-  const QImage portrait = PictureReader::Read(
-      Texts::Join(paths.picturesFolder, files.IniRead(list, u"pics", key, u"")));
+  const ProfileFile& list = files.File(Portraits::ListPath(paths.picturesFolder));
+  const QImage portrait =
+      PictureReader::Read(Portraits::PicturePath(list, paths.picturesFolder, key));
   picPortrait->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   picPortrait->setPixmap(portrait.isNull() ? imgBackup->pixmap() : QPixmap::fromImage(portrait));
 }

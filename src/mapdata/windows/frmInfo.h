@@ -1,9 +1,7 @@
 #pragma once
 
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/ProgramPaths.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -15,8 +13,7 @@ class frmInfo : public Dialog {
 
  public:
   /// Shows the entity of this name as the map shows it; blanks around it don't count.
-  frmInfo(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-          IniOps::Cache& files, const Text& infoEntityName);
+  frmInfo(QWidget* parent, World& world, const Text& infoEntityName);
 
  private:
   void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& name);

@@ -5,101 +5,113 @@
 
 #include <algorithm>
 
-using IniOps::Snapshot;
 using StringOps::GetField;
 using StringOps::GetSplitField;
-using Texts::Trim;
+using StringOps::LeadingNumber;
+using StringOps::WholeNumber;
 
 namespace {
 
-constexpr TextView Comma = u",";
-constexpr TextView Mark = u"*";
-constexpr TextView LinkSign = u"#";
+constexpr std::string_view Comma = ",";
+constexpr std::string_view HighlightMark = "*";
+constexpr std::string_view LinkSign = "#";
 
-bool IsLink(TextView value) {
-  return Trim(GetSplitField(value, 1, Comma)) == LinkSign;
+std::string_view Trim(std::string_view field) {
+  return ProfileLines::Strip(field, " ");
 }
 
-// The section that a link names.
-TextView LinkTarget(TextView value) {
-  return Trim(GetSplitField(value, 2, Comma));
-}
-
-// The value that holds the position: the entity's own, or the one that its link leads to.
-Text PositionValue(Snapshot& files, TextView dataFile, TextView key, Text value) {
-  return IsLink(value) ? files.IniRead(dataFile, LinkTarget(value), key, u"") : std::move(value);
-}
-
-EntityFile::Marker ReadMarker(Snapshot& files, TextView dataFile, TextView category,
-                              EntityNames& names, const Text& key) {
-  const Text own = files.IniRead(dataFile, category, key, u"");
-  const Text value = PositionValue(files, dataFile, key, own);
-  return {key,
-          names.Shown(files, key),
-          {StringOps::LeadingNumber(GetField(value, 1, Comma)),
-           StringOps::LeadingNumber(GetField(value, 2, Comma))},
-          Trim(GetSplitField(own, 3, Comma)) == Mark,
-          EntityFile::IsDisabled(key)};
+std::vector<std::string_view> Keys(const ProfileFile& dataFile, TextView category) {
+  const auto section = Windows1252::Encode(category);
+  return section ? dataFile.KeyNames(*section) : std::vector<std::string_view>();
 }
 
 }  // namespace
 
 namespace EntityFile {
 
-bool IsDisabled(TextView key) {
-  return key.starts_with(u';');
+bool IsDisabled(std::string_view key) {
+  return key.starts_with(';');
 }
 
-bool IsHiddenFromSearch(TextView key) {
-  return key.starts_with(u'*');
+bool IsHiddenFromSearch(std::string_view key) {
+  return key.starts_with('*');
 }
 
-std::vector<Marker> ReadMarkers(Snapshot& files, TextView dataFile, TextView category,
-                                EntityNames& names, size_t most) {
-  auto keys = files.IniReadFile(dataFile, category);
-  keys.resize(std::min(keys.size(), most));
-  std::vector<Marker> markers;
-  markers.reserve(keys.size());
-  for (const Text& key : keys)
-    markers.push_back(ReadMarker(files, dataFile, category, names, key));
-  return markers;
+Entity Read(const ProfileFile& dataFile, std::string_view category, std::string_view key) {
+  Entity entity;
+  entity.value = dataFile.Read(category, key);
+  entity.position = entity.value;
+  entity.highlighted = Trim(GetSplitField(entity.value, 3, Comma)) == HighlightMark;
+  if (Trim(GetSplitField(entity.value, 1, Comma)) == LinkSign) {
+    entity.link = Trim(GetSplitField(entity.value, 2, Comma));
+    entity.position = dataFile.Read(*entity.link, key);
+  }
+  return entity;
 }
 
-std::vector<Text> ReadNames(Snapshot& files, TextView dataFile, TextView category,
-                            EntityNames& names) {
-  std::vector<Text> shown;
-  for (const Text& key : files.IniReadFile(dataFile, category))
-    if (!IsDisabled(key))
-      shown.push_back(names.Shown(files, key));
-  return shown;
+Fields ScannedFields(const Entity& entity) {
+  return {GetField(entity.position, 1, Comma), GetField(entity.position, 2, Comma)};
 }
 
-std::optional<Position> ReadPicked(Snapshot& files, TextView dataFile, TextView category,
-                                   TextView key) {
-  const Text value =
-      PositionValue(files, dataFile, key, files.IniRead(dataFile, category, key, u""));
-  const auto x = StringOps::WholeNumber(GetSplitField(value, 1, Comma));
-  const auto y = StringOps::WholeNumber(GetSplitField(value, 2, Comma));
+Fields SplitFields(const Entity& entity) {
+  return {GetSplitField(entity.position, 1, Comma), GetSplitField(entity.position, 2, Comma)};
+}
+
+Position MarkerPosition(const Entity& entity) {
+  const Fields fields = ScannedFields(entity);
+  return {LeadingNumber(fields.x), LeadingNumber(fields.y)};
+}
+
+std::optional<Position> PickedPosition(const Entity& entity) {
+  const Fields fields = SplitFields(entity);
+  const auto x = WholeNumber(fields.x);
+  const auto y = WholeNumber(fields.y);
   if (!x || !y)
     return std::nullopt;
   return Position{*x, *y};
 }
 
-Found ReadFound(const ProfileFile& dataFile, std::string_view category, std::string_view key) {
-  const auto read = [&dataFile, key](std::string_view section) {
-    return Windows1252::Decode(IniOps::IniReadBytes(dataFile, section, key));
-  };
-  Text value = read(category);
-  if (IsLink(value)) {
-    Text target(LinkTarget(value));
-    value = read(Windows1252::Encode(target).value_or(std::string()));
-    if (Trim(GetField(value, 1, Comma)).empty())
-      return {{}, true, std::move(target)};
+std::optional<Position> FoundPosition(const Entity& entity) {
+  const Fields fields = ScannedFields(entity);
+  if (entity.link && Trim(fields.x).empty())
+    return std::nullopt;
+  return Position{WholeNumber(fields.x).value_or(0), WholeNumber(fields.y).value_or(0)};
+}
+
+std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
+                                IniOps::Snapshot& files, const EntityNames& names, size_t most) {
+  const auto section = Windows1252::Encode(category).value_or(std::string());
+  auto keys = Keys(dataFile, category);
+  keys.resize(std::min(keys.size(), most));
+  std::vector<Marker> markers;
+  markers.reserve(keys.size());
+  for (const std::string_view key : keys) {
+    const Entity entity = Read(dataFile, section, key);
+    Marker& marker = markers.emplace_back();
+    marker.key = Windows1252::Decode(key);
+    marker.name = names.Shown(files, marker.key);
+    marker.position = MarkerPosition(entity);
+    marker.highlighted = entity.highlighted;
+    marker.disabled = IsDisabled(key);
   }
-  return {{StringOps::WholeNumber(GetField(value, 1, Comma)).value_or(0),
-           StringOps::WholeNumber(GetField(value, 2, Comma)).value_or(0)},
-          false,
-          {}};
+  return markers;
+}
+
+std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category, IniOps::Snapshot& files,
+                            const EntityNames& names) {
+  std::vector<Text> shown;
+  for (const std::string_view key : Keys(dataFile, category))
+    if (!IsDisabled(key))
+      shown.push_back(names.Shown(files, Windows1252::Decode(key)));
+  return shown;
+}
+
+std::optional<Position> ReadPicked(const ProfileFile& dataFile, TextView category, TextView key) {
+  const auto section = Windows1252::Encode(category);
+  const auto keyBytes = Windows1252::Encode(key);
+  if (!section || !keyBytes)
+    return std::nullopt;
+  return PickedPosition(Read(dataFile, *section, *keyBytes));
 }
 
 }  // namespace EntityFile

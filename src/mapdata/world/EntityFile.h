@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/EntityNames.h"
 #include "platform/Text.h"
 
@@ -22,6 +22,23 @@ struct Position {
   bool operator==(const Position&) const = default;
 };
 
+/// The value of one entity, as views into its file.
+struct Entity {
+  /// "" if the entity is not in the category.
+  std::string_view value;
+  /// The section that the value links to.
+  std::optional<std::string_view> link;
+  /// The value that holds the position: the entity's own, or the one that the link leads to.
+  std::string_view position;
+  bool highlighted = false;
+};
+
+/// The two fields of a position.
+struct Fields {
+  std::string_view x;
+  std::string_view y;
+};
+
 /// One line of a category as the map's markers show it.
 struct Marker {
   Text key;
@@ -31,37 +48,45 @@ struct Marker {
   bool disabled = false;
 };
 
-/// What the search takes from a value. `invalidLink` is set, and `target` names the section, if
-/// the value is a link to a line without a position.
-struct Found {
-  Position position;
-  bool invalidLink = false;
-  Text target;
-};
-
 /// A key that begins with ";" is never shown.
-[[nodiscard]] bool IsDisabled(TextView key);
+[[nodiscard]] bool IsDisabled(std::string_view key);
 
 /// A key that begins with "*" is shown but never found by the search.
-[[nodiscard]] bool IsHiddenFromSearch(TextView key);
+[[nodiscard]] bool IsHiddenFromSearch(std::string_view key);
 
-/// Every line of the category in file order, disabled ones included, with the leading numbers of
-/// the first and second field as position: a field that is none counts 0, and a single field
-/// counts for both. At most `most` lines.
-[[nodiscard]] std::vector<Marker> ReadMarkers(IniOps::Snapshot& files, TextView dataFile,
-                                              TextView category, EntityNames& names, size_t most);
+/// The entity of that key, in Windows-1252 like the category.
+[[nodiscard]] Entity Read(const ProfileFile& dataFile, std::string_view category,
+                          std::string_view key);
+
+/// The fields as markers and search take them: a single field counts for both.
+[[nodiscard]] Fields ScannedFields(const Entity& entity);
+
+/// The fields as the list takes them.
+[[nodiscard]] Fields SplitFields(const Entity& entity);
+
+/// Where the markers show the entity: the leading numbers of the scanned fields, of a field that
+/// has none 0.
+[[nodiscard]] Position MarkerPosition(const Entity& entity);
+
+/// Where the list shows it; none if one of the split fields is no whole number.
+[[nodiscard]] std::optional<Position> PickedPosition(const Entity& entity);
+
+/// Where the search shows it: a scanned field that is no whole number counts 0. None if the value
+/// is a link to a line without a position.
+[[nodiscard]] std::optional<Position> FoundPosition(const Entity& entity);
+
+/// Every line of the category in file order, disabled ones included, at most `most`; `files` is
+/// where the names are read from.
+[[nodiscard]] std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
+                                              IniOps::Snapshot& files, const EntityNames& names,
+                                              size_t most);
 
 /// The names to show for all keys of the category that are not disabled, in file order.
-[[nodiscard]] std::vector<Text> ReadNames(IniOps::Snapshot& files, TextView dataFile,
-                                          TextView category, EntityNames& names);
+[[nodiscard]] std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category,
+                                          IniOps::Snapshot& files, const EntityNames& names);
 
-/// The position of one entity picked from the list; none if one of the two fields is no number.
-[[nodiscard]] std::optional<Position> ReadPicked(IniOps::Snapshot& files, TextView dataFile,
-                                                 TextView category, TextView key);
-
-/// The position of one entity for the search, which asks for all of a file by its bytes; a field
-/// that is no number counts 0.
-[[nodiscard]] Found ReadFound(const ProfileFile& dataFile, std::string_view category,
-                              std::string_view key);
+/// The position of one entity picked from the list; see `PickedPosition`.
+[[nodiscard]] std::optional<Position> ReadPicked(const ProfileFile& dataFile, TextView category,
+                                                 TextView key);
 
 }  // namespace EntityFile

@@ -13,11 +13,11 @@ class EntityNames {
   EntityNames& operator=(const EntityNames&) = delete;
 
   /// The name to show for the key of an entity data file.
-  [[nodiscard]] virtual Text Shown(IniOps::Snapshot& files, TextView key) = 0;
+  [[nodiscard]] virtual Text Shown(IniOps::Snapshot& files, TextView key) const = 0;
 
   /// The key behind a name that `Shown` gave.
-  [[nodiscard]] virtual Text Key(TextView shown) = 0;
+  [[nodiscard]] virtual Text Key(TextView shown) const = 0;
 
   /// The path of the information file that holds the descriptions for this language.
-  [[nodiscard]] virtual Text InfoFile() = 0;
+  [[nodiscard]] virtual Text InfoPath() const = 0;
 };

@@ -1,9 +1,9 @@
 #include "mapdata/world/InfoFile.h"
 
+#include "platform/Windows1252.h"
+
 namespace {
 
-constexpr TextView Section = u"info";
-constexpr std::string_view SectionBytes = "info";
 constexpr TextView LineBreak = u"\\n";
 constexpr size_t TooltipLength = 80;
 
@@ -11,23 +11,30 @@ constexpr size_t TooltipLength = 80;
 
 namespace InfoFile {
 
-Text ReadEntry(IniOps::Snapshot& files, TextView file, TextView key) {
-  return files.IniRead(file, Section, key, u"");
+Text ReadEntry(const ProfileFile& file, TextView key) {
+  const auto bytes = Windows1252::Encode(key);
+  return bytes ? Windows1252::Decode(ReadEntry(file, *bytes)) : Text();
 }
 
-Text ReadRedirected(IniOps::Snapshot& files, TextView file, TextView key,
+std::optional<std::string_view> RedirectTarget(std::string_view description) {
+  if (!description.starts_with('#'))
+    return std::nullopt;
+  return ProfileLines::Strip(description.substr(1), " ");
+}
+
+std::string_view ReadRedirected(const ProfileFile& file, std::string_view key) {
+  const std::string_view description = ReadEntry(file, key);
+  const auto target = RedirectTarget(description);
+  return target ? ReadEntry(file, *target) : description;
+}
+
+Text ReadRedirected(const ProfileFile& file, TextView key,
                     const std::function<Text(TextView)>& targetKey) {
-  Text description = ReadEntry(files, file, key);
-  if (!description.starts_with(u'#'))
-    return description;
-  return ReadEntry(files, file, targetKey(Texts::Trim(TextView(description).substr(1))));
-}
-
-std::string_view ReadRedirectedBytes(const ProfileFile& file, std::string_view key) {
-  const std::string_view description = IniOps::IniReadBytes(file, SectionBytes, key);
-  return description.starts_with('#')
-             ? IniOps::IniReadBytes(file, SectionBytes, description.substr(1))
-             : description;
+  const auto bytes = Windows1252::Encode(key);
+  const std::string_view description = bytes ? ReadEntry(file, *bytes) : std::string_view();
+  const auto target = RedirectTarget(description);
+  return target ? ReadEntry(file, targetKey(Windows1252::Decode(*target)))
+                : Windows1252::Decode(description);
 }
 
 Text TooltipOf(TextView description) {

@@ -1,26 +1,35 @@
 #pragma once
 
-#include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "platform/Text.h"
 
 #include <functional>
+#include <optional>
 
 /// Information files: section "info", an entity's German name as the key, its description as the
-/// value. The two characters "\n" in it stand for a line break. A description "#Other" names the
-/// entry that is used instead.
+/// value, all in Windows-1252. The two characters "\n" in it stand for a line break. A description
+/// "#Other" names the entry that is used instead.
 namespace InfoFile {
 
-/// The description under the key as it stands; "" if there is none.
-[[nodiscard]] Text ReadEntry(IniOps::Snapshot& files, TextView file, TextView key);
+inline constexpr std::string_view Section = "info";
 
-/// The description under the key, or the one that it redirects to, one step only. `targetKey`
-/// gives the key for the text behind "#".
-[[nodiscard]] Text ReadRedirected(IniOps::Snapshot& files, TextView file, TextView key,
+/// The description under the key as it stands, a view into the file; "" if there is none.
+[[nodiscard]] inline std::string_view ReadEntry(const ProfileFile& file, std::string_view key) {
+  return file.Read(Section, key);
+}
+
+/// The same as text.
+[[nodiscard]] Text ReadEntry(const ProfileFile& file, TextView key);
+
+/// The entry that the description names instead of itself; none if it is a description.
+[[nodiscard]] std::optional<std::string_view> RedirectTarget(std::string_view description);
+
+/// The description under the key, or the one that it redirects to, one step only.
+[[nodiscard]] std::string_view ReadRedirected(const ProfileFile& file, std::string_view key);
+
+/// The same as text. `targetKey` gives the key for the text behind "#".
+[[nodiscard]] Text ReadRedirected(const ProfileFile& file, TextView key,
                                   const std::function<Text(TextView)>& targetKey);
-
-/// The same where no key is translated, as the bytes that stand in the file, for callers with
-/// thousands of questions.
-[[nodiscard]] std::string_view ReadRedirectedBytes(const ProfileFile& file, std::string_view key);
 
 /// The start of a description for a tooltip: its first 80 characters and "...", line breaks as
 /// blanks; "" for a description of blanks alone.

@@ -1,13 +1,15 @@
 #include "mapdata/world/Settings.h"
 
+#include "mapdata/files/IniOps.h"
+
 namespace Settings {
 
-Text Read(IniOps::Snapshot& files, TextView settingsFile, const Entry& entry) {
-  return files.IniRead(settingsFile, entry.section, entry.key, entry.defaultValue);
+Text Read(const ProfileFile& settings, const Entry& entry) {
+  return IniOps::IniRead(settings, entry.section, entry.key, entry.defaultValue);
 }
 
-bool IsYes(IniOps::Snapshot& files, TextView settingsFile, const Entry& entry) {
-  return Texts::Trim(Texts::Lower(Read(files, settingsFile, entry))) == u"yes";
+bool IsYes(const ProfileFile& settings, const Entry& entry) {
+  return Texts::Trim(Texts::Lower(Read(settings, entry))) == u"yes";
 }
 
 }  // namespace Settings

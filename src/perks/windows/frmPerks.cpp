@@ -50,19 +50,17 @@ PerkTree::Lookup LookupIn(IniOps::Snapshot& files, const LOCAL::Language& langua
 
 }  // namespace
 
-frmPerks::frmPerks(QWidget* parent, const Text& perksData, LOCAL::Language& language,
-                   IniOps::Cache& files)
+frmPerks::frmPerks(QWidget* parent, const Text& perksData, World& world)
     : Dialog(parent, WindowDesign),
       PerksData(perksData),
-      language_(language),
-      files_(files),
+      world_(world),
       tvPerks(Control<QTreeWidget>(u"tvPerks")),
       btnShow(Control<QPushButton>(u"btnShow")),
       btnAbort(Control<QPushButton>(u"btnAbort")) {
-  IniOps::Snapshot snapshot(files);
-  const auto lookup = LookupIn(snapshot, language);
+  IniOps::Snapshot snapshot(world.cache);
+  const auto lookup = LookupIn(snapshot, world.language);
   const Text name = PerkTree::PerkRegion(PerksData);
-  const PerkTree::Region region = {name, language.Shown(snapshot, name)};
+  const PerkTree::Region region = {name, world.language.Shown(snapshot, name)};
   tvPerks->header()->hide();
   tvPerks->setIconSize({PictureSize, PictureSize});
   Fill(PerkTree::Build(snapshot.IniSectionNames(PerksData), region, lookup));
@@ -101,9 +99,9 @@ void frmPerks::btnShow_Click() {
   const Text key = FromQt(selected.front()->data(0, KeyRole).toString());
   if (!PerkTree::IsPerk(key))
     return;
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(world_.cache);
   const Text heading = PerkTree::MapHeading(PerksData, FromQt(selected.front()->text(0)),
-                                            LookupIn(files, language_));
+                                            LookupIn(files, world_.language));
   Q_EMIT TeachersChosen(PerkTree::PicturePath(PerksData), PerksData, key, heading);
   accept();
 }

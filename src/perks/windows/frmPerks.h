@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
 #include "perks/PerkTree.h"
 
 class QPushButton;
@@ -13,7 +13,7 @@ class frmPerks : public Dialog {
 
  public:
   /// `perksData` is the path of the region's entity data file.
-  frmPerks(QWidget* parent, const Text& perksData, LOCAL::Language& language, IniOps::Cache& files);
+  frmPerks(QWidget* parent, const Text& perksData, World& world);
 
  Q_SIGNALS:
   /// Section `category` of the data file is wanted on the picture, all names shown.
@@ -26,8 +26,7 @@ class frmPerks : public Dialog {
   void btnShow_Click();
 
   const Text PerksData;
-  LOCAL::Language& language_;
-  IniOps::Cache& files_;
+  World& world_;
 
   QTreeWidget* tvPerks;
   QPushButton* btnShow;

@@ -1,5 +1,6 @@
 #include "platform/windows/PageWindow.h"
 
+#include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 #include "platform/TamePage.h"
@@ -31,10 +32,11 @@ class Browser : public QTextBrowser {
 
   // A page may name anything; only files beside it are read.
   QVariant loadResource(int, const QUrl& name) override {
-    const std::string file = name.path().toStdString();
-    if (!name.isRelative() || file.starts_with('/') || file.find("..") != std::string::npos)
+    const Text file = QtText::FromQt(name.path());
+    if (!name.isRelative() || file.starts_with(u'/') || file.find(u"..") != Text::npos)
       return {};
-    const auto contents = PosixFile::Read(folder_ + file, LargestFile);
+    const auto found = FileSystem::Resolve(NativePath::FromBytes(folder_) + file);
+    const auto contents = found ? PosixFile::Read(*found, LargestFile) : std::nullopt;
     return contents ? QByteArray::fromStdString(contents->bytes) : QVariant();
   }
 

@@ -1,5 +1,6 @@
 #include "platform/windows/QtDesktop.h"
 
+#include "platform/WaveFile.h"
 #include "platform/windows/PageWindow.h"
 #include "platform/windows/QtText.h"
 
@@ -20,10 +21,6 @@ namespace {
 
 constexpr int MostMillisecondsToAsk = 3000;
 
-QString FromBytes(const std::string& bytes) {
-  return QFile::decodeName(QByteArray::fromStdString(bytes));
-}
-
 bool HasProgram(const char* name) {
   return !QStandardPaths::findExecutable(QLatin1StringView(name)).isEmpty();
 }
@@ -34,11 +31,10 @@ QtDesktop::QtDesktop() = default;
 
 QtDesktop::~QtDesktop() = default;
 
+// Paths are bytes all the way: the toolkit's own way to start a program would decode them.
 Desktop::Result QtDesktop::Open(const std::string& target) {
-  const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-  if (opener.isEmpty() || target.starts_with('-'))
-    return Refused;
-  return QProcess::startDetached(opener, {FromBytes(target)}) ? Started : Refused;
+  const bool option = target.starts_with('-');
+  return !option && PosixFile::StartDetached("xdg-open", {target}) ? Started : Refused;
 }
 
 bool QtDesktop::HasViewer(const std::string& mimeType) {
@@ -60,20 +56,27 @@ void QtDesktop::ShowPage(const std::string& path) {
 }
 
 Desktop::Result QtDesktop::StartProgram(const std::string& path, const std::string& folder) {
-  return QProcess::startDetached(FromBytes(path), {}, FromBytes(folder)) ? Started : Refused;
+  return PosixFile::StartDetached(path, {}, folder) ? Started : Refused;
 }
 
-void QtDesktop::LoopSound(const std::string& path) {
+bool QtDesktop::LoopSound(const std::string& path) {
+  StopSound();
+  auto file = std::make_unique<PosixFile::OpenFile>(path);
+  if (!WaveFile::IsPlayable(*file))
+    return false;
   if (QMediaDevices::defaultAudioOutput().isNull())
-    return;
+    return true;
+  soundFile_ = std::move(file);
   sound_ = std::make_unique<QSoundEffect>();
-  sound_->setSource(QUrl::fromLocalFile(FromBytes(path)));
+  sound_->setSource(QUrl::fromLocalFile(QString::fromStdString(soundFile_->Alias())));
   sound_->setLoopCount(QSoundEffect::Infinite);
   sound_->play();
+  return true;
 }
 
 void QtDesktop::StopSound() {
   sound_.reset();
+  soundFile_.reset();
 }
 
 void QtDesktop::Beep() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/PosixFile.h"
 
 #include <memory>
 
@@ -16,7 +17,7 @@ class QtDesktop : public Desktop {
   [[nodiscard]] bool HasViewer(const std::string& mimeType) override;
   void ShowPage(const std::string& path) override;
   Result StartProgram(const std::string& path, const std::string& folder) override;
-  void LoopSound(const std::string& path) override;
+  bool LoopSound(const std::string& path) override;
   void StopSound() override;
   void Beep() override;
   [[nodiscard]] Text UserLanguage() override;
@@ -24,5 +25,7 @@ class QtDesktop : public Desktop {
   [[nodiscard]] std::string AskFileToWrite(TextView caption, TextView suggestedName) override;
 
  private:
+  // Open while it is played: the sound library takes it by an alias.
+  std::unique_ptr<PosixFile::OpenFile> soundFile_;
   std::unique_ptr<QSoundEffect> sound_;
 };

@@ -4,18 +4,17 @@
 
 namespace SearchResult {
 
-void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Language& language,
-             IniOps::Cache& files) {
+void Display(size_t index, const Search::State& state, MapView& map, World& world) {
   const CachedEntity entity = state.Cache.At(index);
-  IniOps::Snapshot snapshot(files);
+  IniOps::Snapshot snapshot(world.cache);
   map.ShowHit({.Map = entity.Map,
                .DataFile = entity.Database,
                .CategoryKey = entity.Section,
                .at = {entity.X, entity.Y},
                .Name = entity.Name,
-               .ShownName = language.Shown(snapshot, entity.Name),
+               .ShownName = world.language.Shown(snapshot, entity.Name),
                .Description = entity.Description,
-               .Heading = Search::ResultHeading(state, snapshot, language)});
+               .Heading = Search::ResultHeading(state, snapshot, world.language)});
 }
 
 }  // namespace SearchResult

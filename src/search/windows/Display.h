@@ -1,6 +1,6 @@
 #pragma once
 
-#include "i18n/LOCAL.h"
+#include "app/World.h"
 #include "search/EntityCache.h"
 #include "search/Search.h"
 
@@ -12,7 +12,6 @@ namespace SearchResult {
 /// Shows one record of the search on the map: its region's picture, the single marker, its name,
 /// and what was searched for in the corner. A picture that can't be read leaves the start-up
 /// picture and nothing on it.
-void Display(size_t index, const Search::State& state, MapView& map, LOCAL::Language& language,
-             IniOps::Cache& files);
+void Display(size_t index, const Search::State& state, MapView& map, World& world);
 
 }  // namespace SearchResult

@@ -35,8 +35,8 @@ bool NameSuggestions::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::KeyPress)
     return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
-  const bool down = key.key() == Qt::Key_Down &&
-                    (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool down =
+      key.key() == Qt::Key_Down && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   if (!down || list_->popup()->isVisible())
     return false;
   Offer();

@@ -5,12 +5,11 @@
 #include "search/windows/Display.h"
 #include "search/windows/frmFind.h"
 
-SearchCommands::SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
-                               IniOps::Cache& files, Search::State& state)
-    : QObject(&map), map_(map), paths_(paths), language_(language), files_(files), state_(state) {}
+SearchCommands::SearchCommands(MapView& map, World& world, Search::State& state)
+    : QObject(&map), map_(map), world_(world), state_(state) {}
 
 void SearchCommands::miFind_Click() {
-  frmFind dialog(map_.window(), paths_, language_, files_, state_);
+  frmFind dialog(map_.window(), world_, state_);
   connect(&dialog, &frmFind::SearchStarted, this, &SearchCommands::SearchStarted);
   dialog.exec();
   if (dialog.Result())
@@ -23,13 +22,13 @@ void SearchCommands::miFindAgain_Click() {
 
 void SearchCommands::Report(const Search::Outcome& outcome) {
   if (const auto* hit = std::get_if<Search::Hit>(&outcome)) {
-    SearchResult::Display(hit->index, state_, map_, language_, files_);
+    SearchResult::Display(hit->index, state_, map_, world_);
   } else if (const auto* link = std::get_if<InvalidLink>(&outcome)) {
     ShowMessage(map_.window(), MessageIcon::Critical, Search::InvalidLinkMessage(*link));
     Q_EMIT EndRequested();
   } else {
-    IniOps::Snapshot files(files_);
+    IniOps::Snapshot files(world_.cache);
     ShowMessage(map_.window(), MessageIcon::Information,
-                Search::NotFoundMessage(state_, files, language_));
+                Search::NotFoundMessage(state_, files, world_.language));
   }
 }

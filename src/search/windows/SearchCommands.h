@@ -1,7 +1,6 @@
 #pragma once
 
-#include "i18n/LOCAL.h"
-#include "mapdata/world/ProgramPaths.h"
+#include "app/World.h"
 #include "search/Search.h"
 
 #include <QObject>
@@ -14,8 +13,7 @@ class SearchCommands : public QObject {
 
  public:
   /// Results are shown on `map`; messages and the dialog stand over its window.
-  SearchCommands(MapView& map, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Search::State& state);
+  SearchCommands(MapView& map, World& world, Search::State& state);
 
   /// Asks for a term and shows the first entity that matches.
   void miFind_Click();
@@ -33,8 +31,6 @@ class SearchCommands : public QObject {
   void Report(const Search::Outcome& outcome);
 
   MapView& map_;
-  const ProgramPaths& paths_;
-  LOCAL::Language& language_;
-  IniOps::Cache& files_;
+  World& world_;
   Search::State& state_;
 };

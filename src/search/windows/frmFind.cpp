@@ -57,12 +57,9 @@ constexpr DialogDesign WindowDesign = {.name = u"frmFind",
 
 }  // namespace
 
-frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-                 IniOps::Cache& files, Search::State& state)
+frmFind::frmFind(QWidget* parent, World& world, Search::State& state)
     : Dialog(parent, WindowDesign),
-      paths_(paths),
-      language_(language),
-      files_(files),
+      world_(world),
       state_(state),
       lblFind(Control<QLabel>(u"lblFind")),
       txtFind(Control<QLineEdit>(u"txtFind")),
@@ -73,8 +70,8 @@ frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
       btnAbort(Control<QPushButton>(u"btnAbort")) {
   LoadState();
   new NameSuggestions(*txtFind, [this] {
-    IniOps::Snapshot names(files_);
-    return Search::AllNames(names, language_, paths_);
+    IniOps::Snapshot files(world_.cache);
+    return Search::AllNames(files, world_.language, world_.paths);
   });
   connect(txtFind, &QLineEdit::textChanged, this, &frmFind::txtFind_Change);
   connect(rbNamesOnly, &QRadioButton::toggled, this,
@@ -82,7 +79,7 @@ frmFind::frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& la
   connect(rbDescsOnly, &QRadioButton::toggled, this,
           [this](bool chosen) { ChooseMode(Mode::Descriptions, chosen); });
   connect(btnFind, &QPushButton::clicked, this, &frmFind::btnFind_Click);
-  IniOps::Snapshot snapshot(files);
+  IniOps::Snapshot snapshot(world.cache);
   applyTexts(snapshot);
 }
 
@@ -96,7 +93,7 @@ void frmFind::LoadState() {
 
 void frmFind::applyTexts(IniOps::Snapshot& files) {
   const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(language_.Lookup(files, Section, key, english, german));
+    return ToQt(world_.language.Lookup(files, Section, key, english, german));
   };
   setWindowTitle(text(u"caption", u"Find", WindowDesign.caption));
   lblFind->setText(text(u"searchfor", u"Search for:", u"Suchen nach:"));
@@ -121,7 +118,7 @@ void frmFind::ChooseMode(Mode mode, bool chosen) {
 void frmFind::btnFind_Click() {
   btnFind->setEnabled(false);
   Q_EMIT SearchStarted();
-  IniOps::Snapshot files(files_);
-  result_ = Search::FindFirst(state_, files, language_, paths_, FromQt(txtFind->text()));
+  IniOps::Snapshot files(world_.cache);
+  result_ = Search::FindFirst(state_, files, world_, FromQt(txtFind->text()));
   accept();
 }

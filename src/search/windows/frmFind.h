@@ -1,8 +1,7 @@
 #pragma once
 
+#include "app/World.h"
 #include "controls/windows/Dialog.h"
-#include "i18n/LOCAL.h"
-#include "mapdata/world/ProgramPaths.h"
 #include "search/Search.h"
 
 #include <optional>
@@ -19,8 +18,7 @@ class frmFind : public Dialog {
   Q_OBJECT
 
  public:
-  frmFind(QWidget* parent, const ProgramPaths& paths, LOCAL::Language& language,
-          IniOps::Cache& files, Search::State& state);
+  frmFind(QWidget* parent, World& world, Search::State& state);
 
   /// What the search found; none while it did not run.
   [[nodiscard]] const std::optional<Search::Outcome>& Result() const { return result_; }
@@ -36,9 +34,7 @@ class frmFind : public Dialog {
   void ChooseMode(Search::Mode mode, bool chosen);
   void btnFind_Click();
 
-  const ProgramPaths& paths_;
-  LOCAL::Language& language_;
-  IniOps::Cache& files_;
+  World& world_;
   Search::State& state_;
   std::optional<Search::Outcome> result_;
 

@@ -2,6 +2,7 @@
 #include "app/MenuTable.h"
 #include "app/windows/Program.h"
 #include "controls/windows/GridListbox.h"
+#include "platform/ProgramInfo.h"
 #include "platform/windows/QtText.h"
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
@@ -211,9 +212,9 @@ TEST_F(MainWindow, AReducedEditionHidesWhatItLeavesOut) {
       ASSERT_TRUE(Start());
       EXPECT_EQ(Menu(u"mnuExtras").isVisible(), extras);
       EXPECT_EQ(Menu(u"mnuLanguage").isVisible(), languages);
-      EXPECT_EQ(
-          Window()->windowTitle().toStdString(),
-          std::string("Orvalis 1.0.0 RC-27 ") + (extras ? "" : "Lite") + (languages ? "" : " X"));
+      const Text edition = Texts::Join(extras ? u"" : u"Lite", languages ? u"" : u" X");
+      EXPECT_EQ(QtText::FromQt(Window()->windowTitle()),
+                Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", edition));
     }
   }
 }

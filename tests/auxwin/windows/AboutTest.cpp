@@ -1,6 +1,8 @@
 #include "auxwin/windows/frmAbout.h"
 
 #include "auxwin/windows/WindowFixture.h"
+#include "platform/ProgramInfo.h"
+#include "platform/windows/QtText.h"
 #include "support/DialogCheck.h"
 
 #include <QLabel>
@@ -8,14 +10,9 @@
 
 namespace {
 
-// The header of a wave file of 16-bit samples, and four of them.
-constexpr char Music[] =
-    "RIFF\x2C\0\0\0WAVEfmt \x10\0\0\0\x01\0\x01\0\x22\x56\0\0\x44\xAC\0\0\x02\0\x10\0data\x08\0\0\0"
-    "\0\0\0\0\0\0\0";
-
 class About : public WindowFixture {
  protected:
-  About() { folder.Write("orvalis.wav", std::string(Music, sizeof(Music))); }
+  About() { folder.Write("orvalis.wav", "music"); }
 
   std::unique_ptr<frmAbout> Open(const Text& edition = {}) {
     return std::make_unique<frmAbout>(nullptr, paths, language, files, desktop, launching, edition);
@@ -23,6 +20,10 @@ class About : public WindowFixture {
 
   static QLabel& Label(const frmAbout& window, const char* name) {
     return *window.findChild<QLabel*>(QString::fromLatin1(name));
+  }
+
+  static QString Version() {
+    return QStringLiteral("Version: ") + QtText::ToQt(ProgramInfo::Version);
   }
 
   [[nodiscard]] std::string Loop() const { return "loop " + folder.Native("orvalis.wav"); }
@@ -66,9 +67,9 @@ TEST_F(About, OnlyYesPlaysAndOnlyWhatPlayedIsStopped) {
 }
 
 TEST_F(About, MusicThatIsMissingOrBrokenRingsTheBellOnce) {
-  folder.Write("orvalis.wav", std::string(Music, 40));
+  desktop.isPlayable = false;
   Open().reset();
-  ExpectCalls({"beep", "stop"});
+  ExpectCalls({Loop(), "beep", "stop"});
   std::filesystem::remove(folder.Native("orvalis.wav"));
   Open().reset();
   ExpectCalls({"beep", "stop"});
@@ -77,15 +78,14 @@ TEST_F(About, MusicThatIsMissingOrBrokenRingsTheBellOnce) {
 TEST_F(About, NamesProgramVersionAndEdition) {
   const auto german = Open();
   EXPECT_EQ(german->windowTitle(), QStringLiteral("Über Orvalis "));
-  EXPECT_EQ(Label(*german, "lblVersion").text(), QStringLiteral("Version: 1.0.0 RC-27 "));
+  EXPECT_EQ(Label(*german, "lblVersion").text(), Version() + u' ');
   EXPECT_EQ(Label(*german, "lblTitle").text(), QStringLiteral("Orvalis"));
   const auto reduced = Open(u"Web Edition");
   EXPECT_EQ(reduced->windowTitle(), QStringLiteral("Über Orvalis Web Edition"));
   UseEnglish(EnglishTexts);
   const auto english = Open(u"Web Edition");
   EXPECT_EQ(english->windowTitle(), QStringLiteral("About Orvalis"));
-  EXPECT_EQ(Label(*english, "lblVersion").text(),
-            QStringLiteral("Version: 1.0.0 RC-27 Web Edition"));
+  EXPECT_EQ(Label(*english, "lblVersion").text(), Version() + QStringLiteral(" Web Edition"));
   EXPECT_EQ(Label(*english, "lblSources").text(), QStringLiteral("Travellers & books"));
 }
 

@@ -14,7 +14,7 @@ constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
 class Extras : public WindowFixture {
  protected:
   std::unique_ptr<frmExtras> Open() {
-    return std::make_unique<frmExtras>(nullptr, paths, language, files, launching);
+    return std::make_unique<frmExtras>(nullptr, world, launching);
   }
 
   static GridListbox& List(const frmExtras& window) {

@@ -21,7 +21,7 @@ constexpr double TwipsPerDot = 1440.0 / DotsPerInch;
 class Print : public WindowFixture {
  protected:
   std::unique_ptr<frmPrint> Open(const Twips2Pixel_Module::Twips& size = {9000, 6000}) {
-    return std::make_unique<frmPrint>(nullptr, language, files, desktop,
+    return std::make_unique<frmPrint>(nullptr, world, desktop,
                                       Printout{[size] { return size; },
                                                [this, size](QPainter& painter) {
                                                  ++painted;
@@ -112,7 +112,7 @@ TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
   name.setFont(WidgetTwips::Font(9.75, true));
   name.move(300, 200);
   Twips2Pixel_Module::Twips size;
-  frmPrint window(nullptr, language, files, desktop,
+  frmPrint window(nullptr, world, desktop,
                   {[&size] { return size; },
                    [&map](QPainter& painter) { PrintableWidget::Paint(map, painter, {}); }});
   // What is printed is as large as it is when Print is pressed.

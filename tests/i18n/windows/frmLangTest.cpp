@@ -147,7 +147,7 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
   const TemporaryFolder folder;
   folder.Write("LANG/English/English.lng", English);
   Session session(folder, u"Deutsch");
-  EXPECT_EQ(session.LabelText("lblVersion"), "1.0.0 RC-27");
+  EXPECT_EQ(session.LabelText("lblVersion"), QtText::ToQt(ProgramInfo::Version).toStdString());
   EXPECT_EQ(session.LabelText("lblAuthor"), QtText::ToQt(ProgramInfo::Author).toStdString());
   Q_EMIT session.List().RowClick(2);
   EXPECT_EQ(session.LabelText("lblCurrentLang"), "English");
@@ -159,7 +159,7 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
             (std::vector<std::string>{"open mailto:-x", "open http://http://a.example"}));
   QTest::keyClick(&session.dialog, Qt::Key_Escape);
   EXPECT_FALSE(session.dialog.isVisible());
-  EXPECT_EQ(session.language.CurrentLanguage, u"Deutsch");
+  EXPECT_EQ(session.language.CurrentLanguage(), u"Deutsch");
   EXPECT_TRUE(session.menus.empty());
   EXPECT_EQ(folder.Read("orvalis.ini"), "");
 }
@@ -189,9 +189,9 @@ TEST(frmLang, FourFoldersThroughStartUpAndSelect) {
     Session session(folder, u"F");
     const Text path = folder.Path(u"LANG/F/F.lng");
     const auto& language = session.language;
-    EXPECT_EQ(language.CurrentLanguage, test.started);
-    EXPECT_EQ(language.LanguageFolder, u"F");
-    EXPECT_EQ(language.LanguageFile, path);
+    EXPECT_EQ(language.CurrentLanguage(), test.started);
+    EXPECT_EQ(language.LanguageFolder(), u"F");
+    EXPECT_EQ(language.LanguageFile(), path);
     EXPECT_EQ(session.List().Text(), test.selectedAtStart);
     EXPECT_EQ(session.dialog.windowTitle().toStdString(), test.caption);
 
@@ -200,9 +200,9 @@ TEST(frmLang, FourFoldersThroughStartUpAndSelect) {
         session.List().Select(row);
     QTest::mouseClick(session.Find<QPushButton>("btnSelect"), Qt::LeftButton);
     EXPECT_FALSE(session.dialog.isVisible());
-    EXPECT_EQ(language.CurrentLanguage, test.chosen);
-    EXPECT_EQ(language.LanguageFolder, u"F");
-    EXPECT_EQ(language.LanguageFile, path);
+    EXPECT_EQ(language.CurrentLanguage(), test.chosen);
+    EXPECT_EQ(language.LanguageFolder(), u"F");
+    EXPECT_EQ(language.LanguageFile(), path);
     ASSERT_FALSE(session.menus.empty());
     EXPECT_EQ(session.menus[0], test.fileMenu);
     EXPECT_EQ(session.settingsAtChange, "[general]\r\nlanguage=F\r\n");
@@ -215,8 +215,8 @@ TEST(frmLang, GermanBringsEveryGermanTextBack) {
   folder.Write("orvalis.ini", "[general]\r\nlanguage=English\r\n");
   Session session(folder, u"English");
   session.Choose(u" Deutsch");
-  EXPECT_EQ(session.language.CurrentLanguage, u"Deutsch");
-  EXPECT_EQ(session.language.LanguageFile, u"*");
+  EXPECT_EQ(session.language.CurrentLanguage(), u"Deutsch");
+  EXPECT_EQ(session.language.LanguageFile(), u"*");
   EXPECT_EQ(session.menus, (std::vector<Text>{u"&Datei", u"&Beenden"}));
   EXPECT_EQ(session.settingsAtChange, "[general]\r\nlanguage=Deutsch\r\n");
 }
@@ -228,7 +228,7 @@ TEST(frmLang, WithoutASelectionSelectLeavesEverything) {
   ASSERT_EQ(session.List().ListIndex(), 0);
   QTest::mouseClick(session.Find<QPushButton>("btnSelect"), Qt::LeftButton);
   EXPECT_TRUE(session.dialog.isVisible());
-  EXPECT_EQ(session.language.CurrentLanguage, u" English ");
+  EXPECT_EQ(session.language.CurrentLanguage(), u" English ");
   EXPECT_TRUE(session.menus.empty());
 }
 
@@ -238,7 +238,7 @@ TEST(frmLang, SettingsThatCantHoldTheChoiceStayAsTheyWere) {
   folder.Write("orvalis.ini", "[general]\r\nlanguage=x\r\n");
   Session session(folder, u"Deutsch");
   session.Choose(u" Russki");
-  EXPECT_EQ(session.language.CurrentLanguage, u"Russki");
+  EXPECT_EQ(session.language.CurrentLanguage(), u"Russki");
   EXPECT_EQ(session.settingsAtChange, "[general]\r\nlanguage=x\r\n");
 }
 

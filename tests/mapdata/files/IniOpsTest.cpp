@@ -12,6 +12,7 @@
 
 namespace {
 
+using IniOps::WriteState;
 using Names = std::vector<Text>;
 
 std::string Header(const std::string& name) {
@@ -107,6 +108,21 @@ TEST(IniOps, KeepsAnOldFileUntilItsStampChanges) {
   EXPECT_EQ(IniOps::Snapshot(cache).IniRead(file, u"s", u"k", u""), u"2");
 }
 
+TEST(IniOps, TellsWhatBecameOfAFile) {
+  const TemporaryFolder folder;
+  folder.Write("a.ini", "[s]\r\n");
+  folder.Write("empty.ini", "");
+  std::ofstream(folder.Native("large.ini"));
+  std::filesystem::resize_file(folder.Native("large.ini"), IniOps::LargestFile + 1);
+  IniOps::Cache cache;
+  const auto state = [&](TextView name) { return cache.Get(folder.Path(name))->State(); };
+  EXPECT_EQ(state(u"A.ini"), ReadState::Read);
+  EXPECT_EQ(state(u"empty.ini"), ReadState::Empty);
+  EXPECT_EQ(state(u"none.ini"), ReadState::Missing);
+  EXPECT_EQ(state(u"large.ini"), ReadState::TooLarge);
+  EXPECT_EQ(state(u""), ReadState::Unreadable) << "a folder";
+}
+
 TEST(IniWrite, KeepsEveryOtherByte) {
   struct {
     std::string before;
@@ -123,6 +139,7 @@ TEST(IniWrite, KeepsEveryOtherByte) {
       {"[general]\r\nlanguage=1\r\n[general]\r\nlanguage=2\r\n",
        "[general]\r\nlanguage=Neu\r\n[general]\r\nlanguage=2\r\n"},
       {"language=0\r\n", "language=0\r\n[general]\r\nlanguage=Neu\r\n"},
+      {"[general]\nlanguage=1", "[general]\nlanguage=Neu\n"},
   };
 
   for (const auto& test : cases) {
@@ -138,15 +155,15 @@ TEST(IniWrite, LeavesTheFileWhenItCannotBeDone) {
   const std::string before = "[general]\r\nlanguage=Alt\r\n";
   folder.Write("a.ini", before);
   const auto write = [&](TextView value) {
-    IniOps::IniWrite(folder.Path(u"a.ini"), u"general", u"language", value);
-    return folder.Read("a.ini");
+    const WriteState state = IniOps::Write(folder.Path(u"a.ini"), u"general", u"language", value);
+    return std::pair(state, folder.Read("a.ini"));
   };
-  EXPECT_EQ(write(u"zwei\r\nZeilen"), before);
-  EXPECT_EQ(write(u"\u65E5"), before);
+  EXPECT_EQ(write(u"zwei\r\nZeilen"), std::pair(WriteState::BreaksLine, before));
+  EXPECT_EQ(write(u"\u65E5"), std::pair(WriteState::NotInCodePage, before));
   ::chmod(folder.Native("a.ini").c_str(), 0444);
-  EXPECT_EQ(write(u"Neu"), before) << "read-only, whoever asks";
+  EXPECT_EQ(write(u"Neu"), std::pair(WriteState::NotWritable, before)) << "whoever asks";
   ::chmod(folder.Native("a.ini").c_str(), 0640);
-  write(u"Neu");
+  EXPECT_EQ(write(u"Neu").first, WriteState::Written);
 
   struct stat status {};
 
@@ -154,6 +171,18 @@ TEST(IniWrite, LeavesTheFileWhenItCannotBeDone) {
   EXPECT_EQ(status.st_mode & 07777U, 0640U);
   IniOps::IniWrite(folder.Path(u"none/a.ini"), u"s", u"k", u"v");
   EXPECT_FALSE(std::filesystem::exists(folder.Native("none")));
+}
+
+TEST(IniWrite, ANewFileIsAsPrivateAsTheUserWants) {
+  const TemporaryFolder folder;
+  const mode_t before = ::umask(027);
+  IniOps::IniWrite(folder.Path(u"a.ini"), u"s", u"k", u"v");
+  EXPECT_EQ(::umask(before), 027U);
+
+  struct stat status {};
+
+  ::stat(folder.Native("a.ini").c_str(), &status);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
 }
 
 TEST(IniWrite, LeavesALinkALink) {

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr size_t BufferLength = 2047;
-
 std::string FromHex(const std::string& hex) {
   std::string bytes;
   for (size_t i = 0; i + 1 < hex.size(); i += 2)
@@ -35,12 +33,12 @@ std::map<std::string, std::string> Fields(const std::string& json) {
 std::string Answer(const ProfileFile& file, std::map<std::string, std::string>& call) {
   if (call["op"] == "names") {
     std::string names;
-    for (const std::string_view name : file.SectionNames())
-      names.append(name).push_back('\0');
+    for (const ProfileFile::Section& section : file.Sections())
+      names.append(section.name).push_back('\0');
     return names;
   }
   const auto value = file.Value(FromHex(call["section"]), FromHex(call["key"]));
-  return value ? std::string(value->substr(0, BufferLength)) : FromHex(call["default"]);
+  return value ? std::string(*value) : FromHex(call["default"]);
 }
 
 }  // namespace

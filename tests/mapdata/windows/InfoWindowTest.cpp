@@ -31,9 +31,9 @@ class InfoWindow : public testing::Test {
   InfoWindow() : language(folder.Path(u"info.data")) {
     paths.programFolder = folder.Path(u"");
     paths.picturesFolder = folder.Path(u"PICS/");
-    language.CurrentLanguage = LOCAL::German;
-    language.LanguageFolder = LOCAL::German;
-    language.LanguageRoot = folder.Path(u"LANG/");
+    language.CurrentLanguage() = LOCAL::German;
+    language.LanguageFolder() = LOCAL::German;
+    language.LanguageRoot() = folder.Path(u"LANG/");
     Write("info.data",
           u"[info]\r\nHändler Mara=Eine Händlerin.\\n\\nSie <b>feilscht</b> & lacht.\r\n"
           u"Mara=# Händler Mara \r\nRing=#Kreis\r\nKreis=#Ring\r\n");

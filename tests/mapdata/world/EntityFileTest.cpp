@@ -27,33 +27,37 @@ TEST(StringOps, SplitsInTwoWays) {
 
 TEST(StringOps, ReadsNumbersInTwoWays) {
   struct {
-    TextView text;
+    std::string_view text;
     int leading;
     std::optional<int> whole;
   } const cases[] = {
-      {u"512", 512, 512},
-      {u" 12abc", 12, std::nullopt},
-      {u" 300 ", 300, 300},
-      {u"", 0, std::nullopt},
-      {u"2.5", 2, 2},
-      {u"3.5", 4, 4},
-      {u"-7", -7, -7},
-      {u"+.6", 1, 1},
-      {u"1e3", 1, std::nullopt},
-      {u"inf", 0, std::nullopt},
-      {u"-", 0, std::nullopt},
-      {u".", 0, std::nullopt},
-      {u"1.2.3", 1, std::nullopt},
-      {u"99999", 32767, std::nullopt},
-      {u"1,5", 1, std::nullopt},
-      {u"0.50000000000000000000000000000000001", 0, 0},
+      {"512", 512, 512},
+      {" 12abc", 12, std::nullopt},
+      {" 300 ", 300, 300},
+      {"", 0, std::nullopt},
+      {"2.5", 2, 2},
+      {"3.5", 4, 4},
+      {"-7", -7, -7},
+      {"+.6", 1, 1},
+      {"1e3", 1, std::nullopt},
+      {"inf", 0, std::nullopt},
+      {"-", 0, std::nullopt},
+      {".", 0, std::nullopt},
+      {"1.2.3", 1, std::nullopt},
+      {"99999", 32767, std::nullopt},
+      {"1,5", 1, std::nullopt},
+      {"0.50000000000000000000000000000000001", 0, 0},
   };
 
   for (const auto& test : cases) {
     EXPECT_EQ(StringOps::LeadingNumber(test.text), test.leading);
     EXPECT_EQ(StringOps::WholeNumber(test.text), test.whole);
   }
-  EXPECT_EQ(StringOps::LeadingNumber(Text(5000, u'9')), 32767);
+  const StringOps::Number number = StringOps::ReadNumber(" 40000 px");
+  EXPECT_TRUE(number.read && number.clamped);
+  EXPECT_EQ(number.rest, "px");
+  EXPECT_FALSE(StringOps::ReadNumber("px").read);
+  EXPECT_EQ(StringOps::LeadingNumber(std::string(5000, '9')), 32767);
 }
 
 TEST(EntityFile, ThreeReadersOfOneValue) {
@@ -82,16 +86,26 @@ TEST(EntityFile, ThreeReadersOfOneValue) {
                  "[smiths]\r\nTom=7,8,*\r\n[chain]\r\nTom=#,smiths\r\n[t]\r\nTom=" + test.value);
     IniOps::Cache cache;
     IniOps::Snapshot files(cache);
-    GermanNames names;
-    const auto markers = EntityFile::ReadMarkers(files, file, u"t", names, 81);
+    const ProfileFile& data = files.File(file);
+    const GermanNames names;
+    const auto markers = EntityFile::ReadMarkers(data, u"t", files, names, 81);
     ASSERT_EQ(markers.size(), 1U);
     EXPECT_EQ(markers[0].position, test.marker) << test.value;
     EXPECT_EQ(markers[0].highlighted, test.value.find('*') != std::string::npos) << test.value;
-    EXPECT_EQ(EntityFile::ReadPicked(files, file, u"t", u"Tom"), test.picked) << test.value;
-    const auto found = EntityFile::ReadFound(files.File(file), "t", "Tom");
-    EXPECT_EQ(found.invalidLink, !test.found) << test.value;
-    EXPECT_EQ(found.position, test.found.value_or(Position())) << test.value;
+    EXPECT_EQ(EntityFile::ReadPicked(data, u"t", u"Tom"), test.picked) << test.value;
+    EXPECT_EQ(EntityFile::FoundPosition(EntityFile::Read(data, "t", "Tom")), test.found)
+        << test.value;
   }
+}
+
+TEST(EntityFile, TellsWhereEachPartStands) {
+  const ProfileFile file("[a]\nTom= #, b ,*\n[b]\nTom=12 , 7\n");
+  const auto entity = EntityFile::Read(file, "A", "tom");
+  EXPECT_EQ(file.PlaceOf(entity.value), (Place{2, 6}));
+  EXPECT_EQ(file.PlaceOf(*entity.link), (Place{2, 9}));
+  EXPECT_EQ(file.PlaceOf(EntityFile::ScannedFields(entity).y), (Place{4, 9}));
+  EXPECT_EQ(file.PlaceOf(EntityFile::SplitFields(entity).x), (Place{4, 5}));
+  EXPECT_TRUE(entity.highlighted);
 }
 
 TEST(EntityFile, DisabledLinesTakeTheirSlotAndOthersFollow) {
@@ -102,14 +116,15 @@ TEST(EntityFile, DisabledLinesTakeTheirSlotAndOthersFollow) {
   folder.Write("a.data", lines);
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
-  GermanNames names;
-  const auto markers = EntityFile::ReadMarkers(files, folder.Path(u"a.data"), u"t", names, 81);
+  const ProfileFile& data = files.File(folder.Path(u"a.data"));
+  const GermanNames names;
+  const auto markers = EntityFile::ReadMarkers(data, u"t", files, names, 81);
   ASSERT_EQ(markers.size(), 81U);
   EXPECT_TRUE(markers[1].disabled);
   EXPECT_EQ(markers[1].position, Position());
   EXPECT_FALSE(markers[2].disabled);
   EXPECT_EQ(markers[2].name, u"*Gamma");
-  const auto listed = EntityFile::ReadNames(files, folder.Path(u"a.data"), u"t", names);
+  const auto listed = EntityFile::ReadNames(data, u"t", files, names);
   ASSERT_EQ(listed.size(), 99U);
   EXPECT_EQ(listed[1], u"*Gamma");
 }
@@ -122,11 +137,11 @@ TEST(InfoFile, RedirectsOnceAndCutsForTooltips) {
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
   const auto same = [](TextView key) { return Text(key); };
-  const Text file = folder.Path(u"info.data");
-  EXPECT_EQ(InfoFile::ReadRedirected(files, file, u"A", same), u"#c");
-  EXPECT_EQ(InfoFile::ReadRedirected(files, file, u" b ", same), u"end");
+  const ProfileFile& file = files.File(folder.Path(u"info.data"));
+  EXPECT_EQ(InfoFile::ReadRedirected(file, u"A", same), u"#c");
+  EXPECT_EQ(InfoFile::ReadRedirected(file, u" b ", same), u"end");
   const auto tip = [&](TextView key) {
-    return InfoFile::TooltipOf(InfoFile::ReadEntry(files, file, key));
+    return InfoFile::TooltipOf(InfoFile::ReadEntry(file, key));
   };
   EXPECT_EQ(tip(u"breaks"), u"one two...");
   EXPECT_EQ(tip(u"blank"), u"");

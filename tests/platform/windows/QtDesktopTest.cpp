@@ -53,6 +53,20 @@ TEST(QtDesktop, HandsOverOneArgumentAndNeverAnOption) {
       << tools.folder.Read("log");
 }
 
+TEST(QtDesktop, PathsThatAreNoTextAreHandedOverAsTheyStand) {
+  const FakeTools tools;
+  QtDesktop desktop;
+  const std::string folder = tools.folder.Native("W\xE4lder");
+  std::filesystem::create_directory(folder);
+  EXPECT_EQ(desktop.Open(folder + "/a.html"), Desktop::Started);
+  EXPECT_TRUE(tools.Logged('<' + folder + "/a.html>\n")) << tools.folder.Read("log");
+  tools.folder.Write("W\xE4lder/tool.exe", "#!/bin/sh\npwd > out\n");
+  std::filesystem::permissions(folder + "/tool.exe", std::filesystem::perms::owner_all);
+  EXPECT_EQ(desktop.StartProgram(folder + "/tool.exe", folder), Desktop::Started);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tools.folder.Read("W\xE4lder/out") == folder + '\n'; }));
+  EXPECT_EQ(desktop.StartProgram(folder + "/none.exe", folder), Desktop::Refused);
+}
+
 TEST(QtDesktop, AsksTheDesktopForViewers) {
   const FakeTools tools;
   QtDesktop desktop;
@@ -110,6 +124,7 @@ TEST(PageWindow, ReadsOnlyWhatLiesBesideThePage) {
     return browser->loadResource(QTextDocument::ImageResource, QUrl(name)).toByteArray();
   };
   EXPECT_EQ(read(QStringLiteral("pic.txt")), QByteArray("picture"));
+  EXPECT_EQ(read(QStringLiteral("PIC.txt")), QByteArray("picture"));
   EXPECT_TRUE(read(QStringLiteral("../secret.txt")).isEmpty());
   EXPECT_TRUE(read(QStringLiteral("/etc/hostname")).isEmpty());
   EXPECT_TRUE(read(QStringLiteral("file:///etc/hostname")).isEmpty());

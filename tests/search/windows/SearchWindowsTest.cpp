@@ -9,7 +9,9 @@
 #include "search/windows/frmFind.h"
 #include "support/DialogCheck.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -89,9 +91,9 @@ class SearchWindows : public testing::Test {
   static constexpr int ListShift = 65;
 
   SearchWorld world_;
-  MapView map_{world_.cache, world_.language};
+  MapView map_{world_.world.cache, world_.world.language};
   Search::State state_;
-  SearchCommands search_{map_, world_.paths, world_.language, world_.cache, state_};
+  SearchCommands search_{map_, world_.world, state_};
   ctlLocation& item_ = Part<ctlLocation>("ITEM");
   NameLabel& caption_ = Part<NameLabel>("lblCaption");
   NameLabel& heading_ = Part<NameLabel>("lblMultiInfo");
@@ -101,12 +103,12 @@ class SearchWindows : public testing::Test {
 
 TEST_F(SearchWindows, DialogStandsAsDesignedInEveryLanguage) {
   Search::State state;
-  frmFind german(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind german(nullptr, world_.world, state);
   EXPECT_EQ(german.windowTitle(), QStringLiteral("Suchen"));
   CheckDialog(german);
   world_.SpeakEnglish(English);
   state.SearchTerm = u"Wolf";
-  frmFind english(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind english(nullptr, world_.world, state);
   EXPECT_EQ(english.windowTitle(), QStringLiteral("Find"));
   CheckDialog(english);
 }
@@ -114,7 +116,7 @@ TEST_F(SearchWindows, DialogStandsAsDesignedInEveryLanguage) {
 TEST_F(SearchWindows, DialogRemembersTermAndModeEvenWhenCancelled) {
   Search::State state;
   {
-    frmFind dialog(nullptr, world_.paths, world_.language, world_.cache, state);
+    frmFind dialog(nullptr, world_.world, state);
     dialog.show();
     auto* text = dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
     const auto* find = dialog.findChild<QPushButton*>(QStringLiteral("btnFind"));
@@ -131,7 +133,7 @@ TEST_F(SearchWindows, DialogRemembersTermAndModeEvenWhenCancelled) {
   EXPECT_EQ(state.SearchMode, Search::Mode::Descriptions);
   EXPECT_EQ(state.SearchTerm, u"");
   state.SearchTerm = u"Wolf ";
-  frmFind again(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind again(nullptr, world_.world, state);
   again.show();
   const auto* text = again.findChild<QLineEdit*>(QStringLiteral("txtFind"));
   EXPECT_EQ(text->selectedText(), QStringLiteral("Wolf "));
@@ -161,7 +163,7 @@ TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
 }
 
 TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
-  map_.Change(world_.paths.regions[0].picture, world_.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.regions[0].picture, world_.world.paths.regions[0].data, u"NPC");
   Find(QStringLiteral("Wolf"));
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
@@ -176,7 +178,7 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
 }
 
 TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
-  map_.Change(world_.paths.regions[0].picture, world_.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.regions[0].picture, world_.world.paths.regions[0].data, u"NPC");
   Find(QStringLiteral("Rand"));
   EXPECT_EQ(Part<QComboBox>("cboItems").currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());
@@ -195,6 +197,40 @@ TEST_F(SearchWindows, SpeaksTheLanguageOfTheMoment) {
   map_.resize(800, 600);
   EXPECT_EQ(item_.pos(), Pixel(500, 300, ListShift));
   EXPECT_TRUE(item_.isVisible());
+}
+
+TEST_F(SearchWindows, DownOffersNamesThatOnlyFillTheBox) {
+  world_.Write("ostrakh.data",
+               u"[NPC]\r\nÄrzte-Wolf=1,1\r\nwolf=3,3\r\n*Wolf X=1,1\r\n;Wolf Y=1,1\r\n");
+  Search::State state;
+  frmFind dialog(nullptr, world_.world, state);
+  dialog.show();
+  QApplication::setActiveWindow(&dialog);
+  auto& text = *dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
+  const auto* list = dialog.findChild<QCompleter*>()->popup();
+  const auto press = [&](Qt::Key key) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup ? popup : static_cast<QWidget*>(&text), key);
+  };
+  QTest::keyClicks(&text, QStringLiteral("WÔL"));
+  EXPECT_FALSE(list->isVisible()) << "typing opens nothing";
+  press(Qt::Key_Down);
+  ASSERT_TRUE(list->isVisible());
+  QStringList offered;
+  for (int row = 0; row < list->model()->rowCount(); ++row)
+    offered << list->model()->index(row, 0).data().toString();
+  EXPECT_EQ(offered.join(u'|').toStdString(), "Ärzte-Wolf|Wolf|wolf");
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_TRUE(dialog.isVisible()) << "Escape closes the list alone";
+  EXPECT_EQ(text.text(), QStringLiteral("WÔL"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(text.text(), QStringLiteral("Wolf"));
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_FALSE(dialog.Result()) << "no button is pressed";
 }
 
 TEST_F(SearchWindows, TellsOfAnInvalidLinkAndEnds) {
