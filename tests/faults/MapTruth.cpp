@@ -74,7 +74,7 @@ MapTruth::MapTruth(QMainWindow& window)
       world_(NativePath::FromBytes(PosixFile::ExecutableFolder())),
       size_(map_.size()) {
   IniOps::Snapshot files(world_.cache);
-  world_.language.StartUp(files, world_.paths.languageRoot, world_.ChosenLanguage());
+  world_.language.Start(files, world_.ChosenLanguage());
   const auto menus = MenuTable::Captions();
   const InterfaceTexts texts = world_.language.IsGerman()
                                    ? RestoreGerman(menus)

@@ -1,7 +1,6 @@
 #include "mapdata/windows/MapControls.h"
 
 #include "controls/windows/GermanOrder.h"
-#include "controls/windows/PlainToolTip.h"
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapFocus.h"
@@ -28,16 +27,6 @@ constexpr double HeadingPoints = 12;
 constexpr int RightGap = 110;
 constexpr int MostVisibleItems = 30;
 constexpr int LineWidth = 15360;
-
-class InfoButton : public QToolButton {
- public:
-  using QToolButton::QToolButton;
-
- protected:
-  bool event(QEvent* event) override {
-    return PlainToolTip::Show(*this, *event) || QToolButton::event(event);
-  }
-};
 
 template <typename Widget>
 Widget* Named(Widget* widget, QLatin1StringView name) {
@@ -90,7 +79,7 @@ MapControls::MapControls(QWidget* map)
                          QLatin1StringView("lblMultiInfo"))),
       slots_(new MarkerSlots(map, ITEM, lblMultiInfo)),
       cboItems(Named(new QComboBox(map), QLatin1StringView("cboItems"))),
-      btnInfo(Named(static_cast<QToolButton*>(new InfoButton(map)), QLatin1StringView("btnInfo"))),
+      btnInfo(Named(new QToolButton(map), QLatin1StringView("btnInfo"))),
       map_(map) {
   ITEM->hide();
   lblCaption->hide();
@@ -116,10 +105,10 @@ void MapControls::AddTo(MapFocus& focus, MapGestures& gestures) const {
     add(&slots_->Dot(slot), &slots_->Label(slot));
 }
 
-void MapControls::SetTexts(const QString& prompt, const QString& infoToolTip) {
+void MapControls::SetTexts(const QString& spokenPrompt, const QString& infoToolTip) {
   btnInfo->setToolTip(infoToolTip);
   btnInfo->setAccessibleName(infoToolTip);
-  cboItems->setAccessibleName(QString(prompt).remove(u'-').trimmed());
+  cboItems->setAccessibleName(spokenPrompt);
 }
 
 bool MapControls::Select(const QString& row) {

@@ -51,7 +51,7 @@ class MapControls {
   void AddTo(MapFocus& focus, MapGestures& gestures) const;
 
   /// The texts of list and button for a screen reader, and the button's tooltip.
-  void SetTexts(const QString& prompt, const QString& infoToolTip);
+  void SetTexts(const QString& spokenPrompt, const QString& infoToolTip);
 
   /// Selects the list's row of exactly this text; false, and none selected, if there is none.
   bool Select(const QString& row);

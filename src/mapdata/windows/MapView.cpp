@@ -7,7 +7,6 @@
 #include "mapdata/windows/MapGestures.h"
 #include "mapdata/windows/MapLook.h"
 #include "mapdata/windows/MapPointer.h"
-
 #include "mapdata/windows/NameLabel.h"
 #include "mapdata/windows/ShiftCursor.h"
 #include "mapdata/windows/ctlLocation.h"
@@ -57,9 +56,10 @@ void MapView::ConnectControls() {
   connect(pointer_, &MapPointer::InfoWanted, this, &MapView::InfoMulti);
 }
 
-void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted) {
+void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
+                       const Text& spokenPrompt) {
   prompt_ = prompt;
-  controls_->SetTexts(ToQt(prompt), ToQt(infoToolTip));
+  controls_->SetTexts(ToQt(spokenPrompt), ToQt(infoToolTip));
   pointer_->SetHighlightedText(ToQt(highlighted));
 }
 
@@ -151,12 +151,15 @@ void MapView::ShowPlan() {
   look_->Show(Plan(view_, names_, files));
 }
 
+const Text& MapView::Heading() const {
+  return look_->Plan().heading;
+}
+
 const Viewport& MapView::Part() const {
   return look_->Part();
 }
 
-void MapView::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
+void MapView::resizeEvent(QResizeEvent*) {
   Form_Resize();
 }
 
@@ -185,10 +188,6 @@ void MapView::btnInfo_Click() {
     controls_->cboItems->setFocus(Qt::ShortcutFocusReason);
   else
     InfoMulti(listed);
-}
-
-void MapView::lblCaption_DblClick() {
-  btnInfo_Click();
 }
 
 void MapView::InfoMulti(const Text& nameX) {

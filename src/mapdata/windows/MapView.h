@@ -49,8 +49,9 @@ class MapView : public QWidget {
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
   /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
-  /// reader says of a highlighted marker.
-  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted);
+  /// reader says of a highlighted marker, `spokenPrompt` what it says of the list.
+  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
+                const Text& spokenPrompt);
 
   /// Hides and resets everything on the map; the picture stays.
   void ClearUI();
@@ -91,6 +92,9 @@ class MapView : public QWidget {
   /// and what stands on it as sharp as the painter's device allows.
   void Paint(QPainter& painter);
 
+  /// The text in the top right corner; "" while there is none.
+  [[nodiscard]] const Text& Heading() const;
+
   /// The way of the keyboard over the markers.
   [[nodiscard]] MapFocus& Focus() { return *focus_; }
 
@@ -115,7 +119,7 @@ class MapView : public QWidget {
   void FillList();
   void cboItems_Click();
   void btnInfo_Click();
-  void lblCaption_DblClick();
+  void lblCaption_DblClick() { btnInfo_Click(); }
 
   IniOps::Cache& files_;
   const EntityNames& names_;

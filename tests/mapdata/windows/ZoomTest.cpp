@@ -32,7 +32,7 @@ class ZoomTest : public testing::Test {
     picture.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
     folder.Write("a.data",
                  "[t]\r\nWolf=256,192\r\nElch=300,192\r\nFern=900,700\r\nRand=1020,9\r\n");
-    view.SetTexts(u"  Wahl", u"Tip", u"marked");
+    view.SetTexts(u"  Wahl", u"Tip", u"marked", u"Wahl");
     view.resize(1000, 700);
     view.show();
     QApplication::setActiveWindow(&view);

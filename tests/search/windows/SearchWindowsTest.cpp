@@ -41,7 +41,7 @@ class SearchWindows : public testing::Test {
     world_.Write("skaldor.data", u"[NPC]\r\nWolf=900,700\r\nRand=1023,50\r\nUnklar=a,b\r\n");
     world_.Write("sarrakh.data", u"[NPC]\r\nOhne Bild=1,1\r\n");
     world_.Write("info.data", u"[info]\r\nWolf=Ein <b>Wolf</b>\\nallein\r\n");
-    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked");
+    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked", u"Prompt");
     map_.resize(1000, 700);
     map_.show();
   }
@@ -163,7 +163,8 @@ TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
 }
 
 TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
-  map_.Change(world_.world.paths.regions[0].picture, world_.world.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
+              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
   Find(QStringLiteral("Wolf"));
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
@@ -178,7 +179,8 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
 }
 
 TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
-  map_.Change(world_.world.paths.regions[0].picture, world_.world.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
+              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
   Find(QStringLiteral("Rand"));
   EXPECT_EQ(Part<QComboBox>("cboItems").currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());
