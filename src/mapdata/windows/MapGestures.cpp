@@ -63,7 +63,8 @@ bool MapGestures::eventFilter(QObject* watched, QEvent* event) {
       return Release();
     case QEvent::MouseButtonDblClick: {
       const auto& click = static_cast<const QMouseEvent&>(*event);
-      if (watched == picture_ && click.button() == Qt::LeftButton)
+      if (watched == picture_ && click.button() == Qt::LeftButton &&
+          click.modifiers() != Qt::ShiftModifier)
         Q_EMIT ZoomWanted(map_->mapFromGlobal(click.globalPosition().toPoint()), Closer);
       return false;
     }
