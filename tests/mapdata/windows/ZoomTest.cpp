@@ -212,3 +212,32 @@ TEST_F(ZoomTest, ShiftAndAClickCopyThePosition) {
   EXPECT_NEAR(closer.at(0).toInt(), 20 * 1024 / 1000, 1);
   EXPECT_NEAR(closer.at(1).toInt(), 30 * 768 / 700, 1);
 }
+
+TEST_F(ZoomTest, SurvivesTheSmallestMapAndAPictureThatBreaks) {
+  Wheel({500, 300}, {0, Notch * 6});
+  for (const QSize& size : {QSize(1, 1), QSize(3840, 2160), QSize(1, 1), QSize(1000, 700)}) {
+    view.resize(size);
+    Wheel({0, 0}, {0, Notch});
+    EXPECT_FALSE(view.grab().isNull());
+  }
+  EXPECT_GT(view.Part().Scale(), 1);
+  folder.Write("a.jpg", "broken");
+  view.resize(900, 700);
+  EXPECT_EQ(view.Part().Scale(), 1) << "the start picture";
+  EXPECT_TRUE(view.Focus().Markers().empty());
+}
+
+TEST_F(ZoomTest, StartsWithThePictureBesideTheProgram) {
+  QImage overview(64, 48, QImage::Format_RGB32);
+  overview.fill(Qt::blue);
+  overview.save(QString::fromStdString(folder.Native("overview.jpg")), "PNG");
+  MapView started(cache, names, nullptr, folder.Path(u"overview.jpg"));
+  started.resize(400, 300);
+  started.show();
+  const auto color = [&] { return started.grab().toImage().pixelColor(200, 150); };
+  EXPECT_EQ(color(), QColor(Qt::blue));
+  started.ChangeMulti(map, data, u"t", u"H", false);
+  EXPECT_NE(color(), QColor(Qt::blue));
+  started.ShowNoRegion();
+  EXPECT_EQ(color(), QColor(Qt::blue));
+}
