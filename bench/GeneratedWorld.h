@@ -28,18 +28,20 @@ class GeneratedWorld {
   /// Bytes of the data files and the information file.
   [[nodiscard]] size_t Bytes() const { return bytes_; }
 
+  [[nodiscard]] Text Folder() const { return folder_.Folder(); }
+
   [[nodiscard]] const ProgramPaths& Paths() const { return paths_; }
 
  private:
   std::string NewName();
-  std::string Region(size_t records);
+  std::string RegionOf(size_t records);
   std::string Descriptions(const WorldSize& size);
   std::string Language(const WorldSize& size);
   void Write(const std::string& name, const std::string& bytes);
 
   std::mt19937 random_{6};
   TemporaryFolder folder_;
-  ProgramPaths paths_;
+  ProgramPaths paths_{folder_.Folder(), ProfileFile({})};
   std::vector<std::string> names_;
   size_t bytes_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "app/MenuTable.h"
 #include "docs/Document.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/world/Settings.h"
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 
@@ -65,14 +66,29 @@ TEST(DocumentedCategories, AreTheCategoriesOfEachRegion) {
   const Table table = Document::Read("map-authors.md").Table("All categories");
   std::set<std::vector<std::string>> documented;
   for (const auto& row : table)
-    for (size_t region = 0; region < 5; ++region)
+    for (size_t region = 0; region < Regions.size(); ++region)
       if (const std::string& mode = row.at(FirstRegion + region); mode != "–")
         documented.insert({std::to_string(region), row[0], mode});
   std::set<std::vector<std::string>> offered;
   for (const MenuRow& row : MenuTable::Rows())
     if (row.kind == MenuRow::Kind::Category)
-      offered.insert({std::to_string(row.region), Narrow(row.category), Mode(row.mode)});
+      offered.insert(
+          {std::to_string(static_cast<int>(*row.region)), Narrow(row.category), Mode(row.mode)});
   EXPECT_EQ(documented, offered);
+}
+
+TEST(DocumentedSettings, AreTheSettingsOfTheProgram) {
+  Table expected;
+  for (const Settings::Entry& entry : Settings::All) {
+    const bool builtIn = entry.kind == Settings::Kind::Address;
+    const std::string value = Narrow(entry.defaultValue);
+    expected.push_back(
+        {Narrow(entry.section), Narrow(entry.key), builtIn ? "a built-in address" : value});
+  }
+  Table documented = Document::Read("map-authors.md").Table("Settings");
+  for (auto& row : documented)
+    row.pop_back();
+  EXPECT_EQ(documented, expected);
 }
 
 TEST(DocumentedPerks, AreThePerksOfTheProgram) {

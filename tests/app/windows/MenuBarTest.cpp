@@ -89,7 +89,7 @@ TEST(MenuBar, ASwitchThroughTheWorldsLanguagesLeavesNothingBehind) {
   const auto rows = MenuTable::Captions();
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
-  LOCAL::Language language({});
+  LOCAL::Language language(ProgramPaths{});
   MenuBar bar;
   for (const TextView name : {u"English", u"Français", u"Deutsch"}) {
     const bool german = name == LOCAL::German;

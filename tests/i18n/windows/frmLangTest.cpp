@@ -5,7 +5,6 @@
 #include "platform/ProgramInfo.h"
 #include "support/DialogCheck.h"
 #include "support/RecordingDesktop.h"
-#include "support/StartedLanguage.h"
 #include "support/TemporaryFolder.h"
 
 #include <QGroupBox>
@@ -16,8 +15,6 @@
 
 #include <gtest/gtest.h>
 
-using IniOps::Snapshot;
-
 namespace {
 
 constexpr TextRow Menus[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
@@ -26,18 +23,13 @@ constexpr TextRow Menus[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
 // A program folder with languages, and a start with one of them.
 class Session {
  public:
+  RecordingDesktop desktop;
+
   Session(const TemporaryFolder& folder, TextView name)
-      : paths_{folder.Path(u""),
-               folder.Path(u"orvalis.ini"),
-               {},
-               {},
-               folder.Path(u"LANG/"),
-               {},
-               {}},
-        start_(files_),
-        language(start_, paths_.languageRoot, Text(name)),
-        launching_(paths_, desktop),
-        dialog(nullptr, paths_, language, files_, launching_, Menus) {
+      : world_(folder.Folder()),
+        launching_(world_.paths, desktop),
+        language(Started(world_, Text(name))),
+        dialog(nullptr, world_, launching_, Menus) {
     QObject::connect(&dialog, &frmLang::LanguageChanged,
                      [this, &folder](const InterfaceTexts& texts) {
                        menus = texts.menus;
@@ -73,18 +65,19 @@ class Session {
   }
 
  private:
-  IniOps::Cache files_;
-  ProgramPaths paths_;
-  Snapshot start_;
+  // As the start of the program chooses it.
+  static const LOCAL::Language& Started(World& world, const Text& name) {
+    IniOps::Snapshot files(world.cache);
+    world.language.Start(files, name);
+    world.language.CacheTranslationTable(files);
+    return world.language;
+  }
 
- public:
-  StartedLanguage language;
-  RecordingDesktop desktop;
-
- private:
+  World world_;
   Launching launching_;
 
  public:
+  const LOCAL::Language& language;
   frmLang dialog;
   std::vector<Text> menus;
   std::string settingsAtChange;
