@@ -138,6 +138,10 @@ class CheckRun {
 
   int Report() {
     const auto answer = Ask();
+    if (!HasLanguage(*answer)) {
+      Console::Complain("there is no language \"" + options_.language + "\" in this world");
+      return WrongUse;
+    }
     const Console::Style style = Console::OfOutput();
     std::string report;
     if (options_.diff)
@@ -156,6 +160,12 @@ class CheckRun {
       return WrongUse;
     }
     return StatusOf(*answer);
+  }
+
+  [[nodiscard]] bool HasLanguage(const Check::Answer& answer) const {
+    const Text language = FromArgument(options_.language);
+    return !answer.index.languages.empty() || language == u"all" || language == u"none" ||
+           language == LOCAL::German;
   }
 
   [[nodiscard]] int StatusOf(const Check::Answer& answer) const {
