@@ -81,7 +81,7 @@ std::optional<QSize> SizeOf(TextView path) {
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer);
   reader.setDecideFormatFromContent(true);
-  if (!IsKnownFormat(reader.format()) || !IsSensibleSize(reader.size()))
+  if (!IsKnownFormat(reader.format()) || !IsAllowedSize(reader.size()))
     return std::nullopt;
   return reader.size();
 }
