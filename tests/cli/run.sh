@@ -21,10 +21,9 @@ for case in */; do
     cp "$work.status" "$case/status"
     if [ -d "$case/after" ]; then rm -r "$case/after" && cp -r "$work" "$case/after"; fi
   fi
-  diff -u "$case/expected" "$work.out" || failed=1
-  diff -u "$case/status" "$work.status" || failed=1
-  if [ -d "$case/after" ]; then diff -r "$case/after" "$work" || failed=1; fi
-  [ "$failed" -eq 0 ] || echo "in case $case"
+  diff -u "$case/expected" "$work.out" && diff -u "$case/status" "$work.status" &&
+    { [ ! -d "$case/after" ] || diff -r "$case/after" "$work"; } ||
+    { echo "in case $case"; failed=1; }
   rm -r "$work" "$work.out" "$work.status"
 done
 exit "$failed"
