@@ -22,11 +22,10 @@ std::shared_ptr<const ProfileFile> Parsed(std::string bytes) {
 }
 
 // An empty file instead of one that could not be read.
-std::shared_ptr<const ProfileFile> NotRead(bool there,
-                                           const std::optional<PosixFile::Stamp>& stamp) {
-  const auto state = !there                               ? ReadState::Missing
-                     : stamp && stamp->size > LargestFile ? ReadState::TooLarge
-                                                          : ReadState::Unreadable;
+std::shared_ptr<const ProfileFile> NotRead(bool there, const PosixFile::Stamp& stamp) {
+  const auto state = !there                     ? ReadState::Missing
+                     : stamp.size > LargestFile ? ReadState::TooLarge
+                                                : ReadState::Unreadable;
   return std::make_shared<const ProfileFile>(std::string(), state);
 }
 
@@ -71,7 +70,7 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   }
   auto contents = stamp ? PosixFile::Read(*path, LargestFile) : std::nullopt;
   if (!contents)
-    return NotRead(path.has_value(), stamp);
+    return NotRead(path.has_value(), stamp.value_or(PosixFile::Stamp{}));
   auto profile = Parsed(std::move(contents->bytes));
   if (PosixFile::Now() - contents->stamp.modified < UntrustedAge)
     return profile;
