@@ -76,4 +76,14 @@ QImage Read(TextView path, QSize cover) {
                                                            : QImage::Format_RGB32);
 }
 
+std::optional<QSize> SizeOf(TextView path) {
+  QByteArray bytes = Bytes(path);
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  reader.setDecideFormatFromContent(true);
+  if (!IsKnownFormat(reader.format()) || !IsSensibleSize(reader.size()))
+    return std::nullopt;
+  return reader.size();
+}
+
 }  // namespace PictureReader

@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QSize>
 
+#include <optional>
+
 /// The one way in which picture files are read, whatever stands under their names.
 namespace PictureReader {
 
@@ -13,5 +15,9 @@ namespace PictureReader {
 /// (pixels), a JPEG is read at the smallest of 1/1, 1/2, 1/4 and 1/8 of its size that still covers
 /// it. A path that begins with ":/" is a picture built into the program.
 [[nodiscard]] QImage Read(TextView path, QSize cover = {});
+
+/// The size of the picture that `Read` would give, from its header alone; none if it gives none
+/// for what the header says.
+[[nodiscard]] std::optional<QSize> SizeOf(TextView path);
 
 }  // namespace PictureReader
