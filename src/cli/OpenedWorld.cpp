@@ -3,6 +3,7 @@
 #include "cli/Console.h"
 #include "cli/WorldFolder.h"
 #include "i18n/LanguageList.h"
+#include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 
 #include <CLI/CLI.hpp>
@@ -15,6 +16,13 @@ std::vector<Text> FromArguments(const std::vector<std::string>& arguments) {
   std::vector<Text> texts;
   std::ranges::transform(arguments, std::back_inserter(texts), &NativePath::FromBytes);
   return texts;
+}
+
+// A world may lack some of its regions.
+bool IsThere(const World& world) {
+  return std::ranges::any_of(world.paths.regions, [](const ProgramPaths::RegionFiles& region) {
+    return FileSystem::FileExists(region.data);
+  });
 }
 
 // By its own name, or by that of its folder.
@@ -64,6 +72,10 @@ std::optional<Contents> Read(const Choice& choice) {
     return std::nullopt;
   }
   auto world = std::make_unique<World>(*folder);
+  if (!IsThere(*world)) {
+    Console::Complain("there is no world in " + NativePath::ToBytes(*folder));
+    return std::nullopt;
+  }
   if (choice.language.empty()) {
     ChooseAsSet(*world);
   } else if (!Choose(*world, NativePath::FromBytes(choice.language))) {
