@@ -12,26 +12,16 @@ constexpr std::array<const char*, 8> Trades = {"H\xE4ndler ", "Schmied ", "J\xE4
                                                "Alchemist ",  "Druide ",  "Wolf ",     "Truhe "};
 constexpr std::array<const char*, 12> Syllables = {"ma", "ra",  "bor", "kel", "in", "tha",
                                                    "ul", "gor", "fen", "dis", "ho", "wen"};
-constexpr std::array<const char*, 5> Stems = {"arvenna", "skaldor", "sarrakh", "ostrakh",
-                                              "ancestors"};
 constexpr size_t LinesOfSection = 80;
 constexpr size_t LinksOfSection = 16;
 constexpr WorldSize Measured = {32'765, 16'000, 200, 5'000};
 
-Text Wide(const std::string& ascii) {
-  return {ascii.begin(), ascii.end()};
-}
-
 }  // namespace
 
 GeneratedWorld::GeneratedWorld(const WorldSize& size) {
-  paths_.languageRoot = folder_.Path(u"LANG/");
-  paths_.infoData = folder_.Path(u"info.data");
-  for (size_t i = 0; i < Stems.size(); ++i) {
-    const std::string stem = Stems[i];
-    paths_.regions[i] = {folder_.Path(Wide(stem + ".data")), folder_.Path(Wide(stem + ".jpg"))};
-    Write(stem + ".data", Region((size.records + i) / Stems.size()));
-  }
+  for (size_t i = 0; i < Regions.size(); ++i)
+    Write(NativePath::ToBytes(Regions[i].stem) + ".data",
+          RegionOf((size.records + i) / Regions.size()));
   Write("info.data", Descriptions(size));
   const size_t measured = bytes_;
   Write("LANG/English/English.lng", Language(size));
@@ -46,7 +36,7 @@ std::string GeneratedWorld::NewName() {
 }
 
 // Each section links to the one before it.
-std::string GeneratedWorld::Region(size_t records) {
+std::string GeneratedWorld::RegionOf(size_t records) {
   std::string region;
   size_t linkable = names_.size();
   for (size_t done = 0; done < records;) {

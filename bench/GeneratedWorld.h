@@ -32,14 +32,14 @@ class GeneratedWorld {
 
  private:
   std::string NewName();
-  std::string Region(size_t records);
+  std::string RegionOf(size_t records);
   std::string Descriptions(const WorldSize& size);
   std::string Language(const WorldSize& size);
   void Write(const std::string& name, const std::string& bytes);
 
   std::mt19937 random_{6};
   TemporaryFolder folder_;
-  ProgramPaths paths_;
+  ProgramPaths paths_{folder_.Folder(), ProfileFile({})};
   std::vector<std::string> names_;
   size_t bytes_ = 0;
 };

@@ -110,7 +110,7 @@ void ReadLanguageFile(benchmark::State& state) {
 
 void SwitchLanguage(benchmark::State& state) {
   const auto menus = MenuTable::Captions();
-  LOCAL::Language language({});
+  LOCAL::Language language(ProgramPaths{});
   for (auto _ : state) {
     IniOps::Cache cache;
     Snapshot files(cache);

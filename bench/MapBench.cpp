@@ -165,7 +165,7 @@ const Text& LanguageRoot() {
   return root;
 }
 
-void ShowMarkers(benchmark::State& state, EntityNames& names) {
+void ShowMarkers(benchmark::State& state, const EntityNames& names) {
   IniOps::Cache cache;
   MapView view(cache, names);
   view.resize(Screen);

@@ -18,9 +18,9 @@ constexpr int Rounds = 7;
 constexpr size_t RegionBytes = 1'000'000;
 
 // A region of one megabyte with a section for every perk among its other sections.
-class Region {
+class LargeRegion {
  public:
-  Region() {
+  LargeRegion() {
     std::string data;
     for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks) {
       data += Section(std::string(perk.key.begin(), perk.key.end()));
@@ -31,7 +31,7 @@ class Region {
     ::utimensat(AT_FDCWD, folder_.Native("skaldor.data").c_str(), longAgo, 0);
   }
 
-  [[nodiscard]] Text Data() const { return folder_.Path(u"skaldor.data"); }
+  [[nodiscard]] Text Folder() const { return folder_.Folder(); }
 
  private:
   static std::string Section(const std::string& name) {
@@ -45,15 +45,9 @@ class Region {
   TemporaryFolder folder_;
 };
 
-const Region& TheRegion() {
-  static const Region region;
+const LargeRegion& TheRegion() {
+  static const LargeRegion region;
   return region;
-}
-
-LOCAL::Language& German() {
-  static LOCAL::Language language({});
-  language.CurrentLanguage() = LOCAL::German;
-  return language;
 }
 
 void ShowOnce(QDialog& window) {
@@ -64,15 +58,15 @@ void ShowOnce(QDialog& window) {
 // The file is read each time, as at the first opening.
 void OpenViewer(benchmark::State& state) {
   for (auto _ : state) {
-    IniOps::Cache files;
-    frmPerks window(nullptr, TheRegion().Data(), German(), files);
+    World world(TheRegion().Folder());
+    frmPerks window(nullptr, world.paths.Of(Region::Skaldor).data, world);
     ShowOnce(window);
   }
 }
 
 void OpenReadyMadeTree(benchmark::State& state) {
-  IniOps::Cache files;
-  const frmPerks model(nullptr, TheRegion().Data(), German(), files);
+  World world(TheRegion().Folder());
+  const frmPerks model(nullptr, world.paths.Of(Region::Skaldor).data, world);
   const auto* tree = model.findChild<QTreeWidget*>();
   for (auto _ : state) {
     Dialog window(nullptr, model.Design());

@@ -21,15 +21,15 @@ constexpr TextView NoHit = u"Händler zzz";
 
 class Speaking : public LOCAL::Language {
  public:
-  Speaking(const GeneratedWorld& world, const Text& language) : Language(world.Paths().infoData) {
+  Speaking(const GeneratedWorld& world, const Text& language) : Language(world.Paths()) {
     IniOps::Cache cache;
     Snapshot files(cache);
-    StartUp(files, world.Paths().languageRoot, language);
+    Start(files, language);
     CacheTranslationTable(files);
   }
 };
 
-EntityCache Filled(const GeneratedWorld& world, LOCAL::Language& language) {
+EntityCache Filled(const GeneratedWorld& world, const LOCAL::Language& language) {
   IniOps::Cache cache;
   Snapshot files(cache);
   EntityCache entities;

@@ -12,12 +12,11 @@ using Fuzz::TakeField;
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
   static const Fuzz::InputFile file;
   std::string_view input(reinterpret_cast<const char*>(data), size);
-  file.Hold(input);
+  file.Hold(std::string("[general]\nlanguage=Other\n").append(input));
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
-  LOCAL::Language language(u"");
-  language.LanguageFile() = file.Path();
-  language.CurrentLanguage() = u"Other";
+  LOCAL::Language language(ProgramPaths{});
+  language.Choose(files, file.Path());
   language.CacheTranslationTable(files);
   ScannedNames rule(file.Path());
   rule.CacheTranslationTable(files);

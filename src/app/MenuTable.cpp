@@ -7,8 +7,11 @@ namespace {
 
 using Kind = MenuRow::Kind;
 
+// Of the language files.
+constexpr TextView Section = u"menus";
+
 constexpr MenuRow Menu(int level, TextView name, TextView german, TextView english) {
-  return {.level = level, .name = name, .caption = {name, english, german}};
+  return {.level = level, .name = name, .caption = {Section, name, english, german}};
 }
 
 constexpr MenuRow Command(int level, TextView name, Action action, TextView german,
@@ -67,8 +70,10 @@ constexpr MenuRow Keyed(TextView key, MenuRow row) {
 }
 
 constexpr std::array<MenuRow, 1> BarDivider(TextView name) {
-  return {
-      {{.kind = Kind::BarDivider, .name = name, .caption = {{}, u"|", u"|"}, .enabled = false}}};
+  return {{{.kind = Kind::BarDivider,
+            .name = name,
+            .caption = {{}, {}, u"|", u"|"},
+            .enabled = false}}};
 }
 
 constexpr auto File = std::to_array<MenuRow>({
@@ -322,9 +327,10 @@ constexpr auto Joined(const std::array<MenuRow, Sizes>&... parts) {
   return all;
 }
 
-constexpr auto All = Joined(File, InRegion(Region::Arvenna, Arvenna), InRegion(Region::Skaldor, Skaldor), InRegion(Region::Sarrakh, Sarrakh),
-                            BarDivider(u"sep13"), InRegion(Region::Ostrakh, Ostrakh), InRegion(Region::Ancestors, Ancestors),
-                            BarDivider(u"sep40"), FindExtrasHelp);
+constexpr auto All = Joined(
+    File, InRegion(Region::Arvenna, Arvenna), InRegion(Region::Skaldor, Skaldor),
+    InRegion(Region::Sarrakh, Sarrakh), BarDivider(u"sep13"), InRegion(Region::Ostrakh, Ostrakh),
+    InRegion(Region::Ancestors, Ancestors), BarDivider(u"sep40"), FindExtrasHelp);
 
 }  // namespace
 
@@ -334,8 +340,8 @@ std::span<const MenuRow> Rows() {
   return All;
 }
 
-std::vector<MenuCaption> Captions() {
-  std::vector<MenuCaption> captions;
+std::vector<TextRow> Captions() {
+  std::vector<TextRow> captions;
   for (const MenuRow& row : All)
     if (row.kind != Kind::BarDivider)
       captions.push_back(row.caption);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "i18n/InterfaceTexts.h"
+#include "i18n/TextRow.h"
 #include "mapdata/world/Regions.h"
 #include "platform/Text.h"
 
@@ -36,7 +36,7 @@ struct MenuRow {
   int level = 0;
   /// The control's name.
   TextView name = {};
-  MenuCaption caption = {};
+  TextRow caption = {};
   /// Section of the region's data file, exactly as written there.
   TextView category = {};
   DisplayMode mode = DisplayMode::List;
@@ -60,6 +60,6 @@ namespace MenuTable {
 [[nodiscard]] std::span<const MenuRow> Rows();
 
 /// The captions of the rows in their order, of all but the dividers in the bar.
-[[nodiscard]] std::vector<MenuCaption> Captions();
+[[nodiscard]] std::vector<TextRow> Captions();
 
 }  // namespace MenuTable

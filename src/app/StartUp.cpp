@@ -1,9 +1,11 @@
 #include "app/StartUp.h"
 
+#include "i18n/WindowTexts.h"
 #include "platform/NativePath.h"
 #include "platform/ProgramInfo.h"
 
 using Texts::Join;
+using WindowTexts::Row;
 
 namespace StartUp {
 
@@ -13,17 +15,12 @@ Text Caption(const Edition& edition) {
 
 Message FileNotFound(World& world, const Text& languageFolder, const Text& missing) {
   IniOps::Snapshot files(world.cache);
-  world.language.Start(files, languageFolder);
-  const Text shown = NativePath::ForDisplay(missing);
-  if (world.language.IsGerman())
-    return {Join(u"Die folgende Datei fehlt: ", shown,
-                 u"\r\nDas Programm kann nicht fortgesetzt werden."),
-            u"Fehler"};
-  const auto read = [&](TextView key) {
-    return files.IniRead(world.language.LanguageFile(), u"ui", key, u"");
-  };
-  const Text text = Texts::ReplaceAll(read(u"FileNotFound"), u"%s", shown);
-  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"), read(u"FileNotFoundCaption")};
+  LOCAL::Language& language = world.language;
+  language.Start(files, languageFolder);
+  const Text text = Texts::ReplaceAll(language.Lookup(files, Row(u"ui", u"FileNotFound")),
+                                      TextRow::Placeholder, NativePath::ForDisplay(missing));
+  return {Texts::ReplaceAll(text, u"\\n", u"\r\n"),
+          language.Lookup(files, Row(u"ui", u"FileNotFoundCaption"))};
 }
 
 }  // namespace StartUp

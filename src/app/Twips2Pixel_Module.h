@@ -4,6 +4,8 @@
 /// files to the map as it is displayed. Roundings are to the nearest, halves to even.
 namespace Twips2Pixel_Module {
 
+inline constexpr double TwipsPerInch = 1440;
+
 /// The frame that positions in data files are given in, whatever size the picture has.
 inline constexpr int FrameWidth = 1024;
 inline constexpr int FrameHeight = 768;

@@ -24,7 +24,8 @@ Viewer ViewerOf(TextView name) {
 Text LocalizedCopy(const LOCAL::Language& language, TextView name) {
   if (language.LanguageFolder() == LOCAL::German)
     return {};
-  return Texts::Join(language.LanguageRoot(), language.LanguageFolder(), FileSystem::Separator, name);
+  return Texts::Join(language.LanguageRoot(), language.LanguageFolder(), FileSystem::Separator,
+                     name);
 }
 
 Text PageBeside(TextView path) {

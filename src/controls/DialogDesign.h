@@ -1,5 +1,6 @@
 #pragma once
 
+#include "i18n/TextRow.h"
 #include "platform/Text.h"
 
 #include <span>
@@ -43,6 +44,8 @@ struct ControlDesign {
   TextView name;
   ControlKind kind = ControlKind::Label;
   TwipsRect place;
+  /// What it shows in the language of the moment; none for texts of its own.
+  const TextRow* caption = nullptr;
   TextView text = {};
   double points = 8.25;
   bool bold = false;
@@ -56,10 +59,11 @@ struct ControlDesign {
 /// Escape press; empty for none.
 struct DialogDesign {
   TextView name;
-  TextView caption;
+  /// None for a window that is titled by what it shows.
+  const TextRow* caption = nullptr;
   int width = 0;
   int height = 0;
-  TextView defaultButton;
-  TextView cancelButton;
+  TextView defaultButton = {};
+  TextView cancelButton = {};
   std::span<const ControlDesign> controls;
 };

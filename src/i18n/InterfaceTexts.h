@@ -1,18 +1,11 @@
 #pragma once
 
 #include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "platform/Text.h"
 
 #include <span>
 #include <vector>
-
-/// The caption of one menu or command: its key in section "menus" of a language file, what is
-/// shown where that is missing or empty, and the German caption.
-struct MenuCaption {
-  TextView key;
-  TextView english;
-  TextView german;
-};
 
 /// Every text of the main window that follows the language.
 struct InterfaceTexts {
@@ -20,6 +13,8 @@ struct InterfaceTexts {
   std::vector<Text> menus;
   /// The first row of the entity list; begins with a blank in every language.
   Text prompt;
+  /// What a screen reader says of that list: the words of its prompt.
+  Text spokenPrompt;
   Text infoToolTip;
   /// What a screen reader says of a highlighted marker.
   Text highlighted;
@@ -27,10 +22,10 @@ struct InterfaceTexts {
 
 /// The texts of the active language file.
 [[nodiscard]] InterfaceTexts Translate_UI(IniOps::Snapshot& files, const LOCAL::Language& language,
-                                          std::span<const MenuCaption> menus);
+                                          std::span<const TextRow> menus);
 
 /// The German texts beside the menus, which have theirs when the window is made.
 [[nodiscard]] InterfaceTexts Translate_UI_DE();
 
 /// All German texts, menus included: what a switch back to German needs.
-[[nodiscard]] InterfaceTexts RestoreGerman(std::span<const MenuCaption> menus);
+[[nodiscard]] InterfaceTexts RestoreGerman(std::span<const TextRow> menus);

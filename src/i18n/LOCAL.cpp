@@ -55,9 +55,12 @@ Language::Language(const ProgramPaths& paths)
     RegionWords_[static_cast<size_t>(row.region)].word = row.word;
 }
 
-Text Language::Lookup(IniOps::Snapshot& files, TextView section, TextView key, TextView english,
-                      TextView german) const {
-  return IsGerman() ? Text(german) : files.IniRead(languageFile_, section, key, english);
+Text Language::Lookup(IniOps::Snapshot& files, const TextRow& row) const {
+  return IsGerman() ? Text(row.german) : Translated(files, row);
+}
+
+Text Language::Translated(IniOps::Snapshot& files, const TextRow& row) const {
+  return files.IniRead(languageFile_, row.section, row.key, row.english);
 }
 
 void Language::Start(IniOps::Snapshot& files, const Text& folder) {

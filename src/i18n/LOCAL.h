@@ -1,6 +1,7 @@
 #pragma once
 
 #include "i18n/PrefixIndex.h"
+#include "i18n/TextRow.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityNames.h"
 #include "mapdata/world/ProgramPaths.h"
@@ -47,10 +48,11 @@ class Language : public EntityNames {
 
   [[nodiscard]] bool IsGerman() const { return currentLanguage_ == German; }
 
-  /// The text a window shows: `german` while German is active, else the entry of the language
-  /// file, `english` where that is missing or empty.
-  [[nodiscard]] Text Lookup(IniOps::Snapshot& files, TextView section, TextView key,
-                            TextView english, TextView german) const;
+  /// The text that a window shows: the German one while German is active, else `Translated`.
+  [[nodiscard]] Text Lookup(IniOps::Snapshot& files, const TextRow& row) const;
+
+  /// The entry of the language file, the English default where that is missing or empty.
+  [[nodiscard]] Text Translated(IniOps::Snapshot& files, const TextRow& row) const;
 
   /// Chooses the language of a folder under the language root; German if that holds no language
   /// file which declares its name.

@@ -59,7 +59,7 @@ Text FlagOf(TextView languageFile) {
 }
 
 InterfaceTexts Select(IniOps::Snapshot& files, LOCAL::Language& language, TextView settings,
-                      const Text& file, std::span<const MenuCaption> menus) {
+                      const Text& file, std::span<const TextRow> menus) {
   language.Choose(files, file);
   IniOps::IniWrite(settings, Settings::Language.section, Settings::Language.key,
                    language.LanguageFolder());

@@ -47,6 +47,6 @@ struct Details {
 /// settings, builds its table of entity names, and gives the main window's texts in it.
 [[nodiscard]] InterfaceTexts Select(IniOps::Snapshot& files, LOCAL::Language& language,
                                     TextView settings, const Text& file,
-                                    std::span<const MenuCaption> menus);
+                                    std::span<const TextRow> menus);
 
 }  // namespace LanguageList

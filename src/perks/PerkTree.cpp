@@ -1,5 +1,6 @@
 #include "perks/PerkTree.h"
 
+#include "i18n/WindowTexts.h"
 #include "mapdata/files/StringOps.h"
 #include "mapdata/world/Regions.h"
 #include "perks/PerkCatalogue.h"
@@ -14,40 +15,45 @@ using Texts::Join;
 
 namespace {
 
-constexpr TextView RegionSign = u"%s";
+constexpr const TextRow& CaptionRow = WindowTexts::Row(u"frmPerks", u"caption");
+constexpr const TextRow& RootRow = WindowTexts::Row(u"frmPerks", u"root");
 constexpr TextView PictureExtension = u"jpg";
 
 struct PerkedRegion {
   Region region;
-  TextView headingKey;
-  TextView germanHeading;
+  TextRow heading;
 };
 
 constexpr std::array<PerkedRegion, 3> PerkedRegions = {{
-    {Region::Arvenna, u"ArvennaTeachersFor", u"Arvenna: Lehrer für"},
-    {Region::Skaldor, u"SkaldorTeachersFor", u"Skaldor: Lehrer für"},
-    {Region::Sarrakh, u"SarrakhTeachersFor", u"Sarrakh: Lehrer für"},
+    {Region::Arvenna, PerkCatalogue::Named(u"ArvennaTeachersFor", u"", u"Arvenna: Lehrer für")},
+    {Region::Skaldor, PerkCatalogue::Named(u"SkaldorTeachersFor", u"", u"Skaldor: Lehrer für")},
+    {Region::Sarrakh, PerkCatalogue::Named(u"SarrakhTeachersFor", u"", u"Sarrakh: Lehrer für")},
 }};
 
 // The last one that the path names: a folder may be called like a data file.
 const PerkedRegion* RegionOf(TextView perksData) {
-  const auto found = std::find_if(PerkedRegions.rbegin(), PerkedRegions.rend(),
-                                  [perksData](const PerkedRegion& region) {
-                                    return StringOps::StrContains(
-                                        perksData, Join(RowOf(region.region).stem, u".data"));
-                                  });
+  const auto found = std::find_if(
+      PerkedRegions.rbegin(), PerkedRegions.rend(), [perksData](const PerkedRegion& region) {
+        return StringOps::StrContains(perksData, Join(RowOf(region.region).stem, u".data"));
+      });
   return found == PerkedRegions.rend() ? nullptr : &*found;
 }
 
 PerkTree::Node PerkNode(const Perk& perk, const PerkTree::Lookup& lookup) {
-  return {Text(perk.key), Text(1, perk.category),
-          lookup(PerkCatalogue::LanguageKey(perk), PerkCatalogue::English(perk), perk.german),
-          PerkTree::PerkPicture, false};
+  return {Text(perk.key), Text(1, perk.category), lookup(perk.caption), PerkTree::PerkPicture,
+          false};
 }
 
 }  // namespace
 
 namespace PerkTree {
+
+std::vector<TextRow> Headings() {
+  std::vector<TextRow> headings;
+  for (const PerkedRegion& region : PerkedRegions)
+    headings.push_back(region.heading);
+  return headings;
+}
 
 Text PerkRegion(TextView perksData) {
   const PerkedRegion* region = RegionOf(perksData);
@@ -55,19 +61,20 @@ Text PerkRegion(TextView perksData) {
 }
 
 Text WindowCaption(const Region& region, const Lookup& lookup) {
-  const Text german = Join(u"Lehrer für Perks in ", region.name);
-  return Texts::ReplaceAll(lookup(u"caption", u"Perks in %s", german), RegionSign, region.shown);
+  return Texts::ReplaceAll(lookup(CaptionRow), TextRow::Placeholder, region.shown);
 }
 
 std::vector<Node> Build(std::span<const Text> sectionNames, const Region& region,
                         const Lookup& lookup) {
-  const Text root = lookup(u"root", u"Perks in %s", Join(u"Lehrer in ", region.name));
-  std::vector<Node> nodes = {
-      {Text(RootKey), {}, Texts::ReplaceAll(root, RegionSign, region.shown), RootPicture, true}};
+  const Text root = lookup(RootRow);
+  std::vector<Node> nodes = {{Text(RootKey),
+                              {},
+                              Texts::ReplaceAll(root, TextRow::Placeholder, region.shown),
+                              RootPicture,
+                              true}};
   for (const Category& category : Categories)
-    nodes.push_back({Text(1, category.key), Text(RootKey),
-                     lookup(category.languageKey, category.english, category.german),
-                     category.picture, true});
+    nodes.push_back(
+        {Text(1, category.key), Text(RootKey), lookup(category.caption), category.picture, true});
   std::vector<const Perk*> shown;
   for (const Text& name : sectionNames) {
     const Perk* perk = PerkCatalogue::Find(name);
@@ -87,7 +94,7 @@ Text MapHeading(TextView perksData, TextView perkCaption, const Lookup& lookup) 
   const PerkedRegion* region = RegionOf(perksData);
   if (!region)
     return {};
-  return Join(lookup(region->headingKey, u"", region->germanHeading), u" ", perkCaption);
+  return Join(lookup(region->heading), u" ", perkCaption);
 }
 
 Text PicturePath(TextView perksData) {

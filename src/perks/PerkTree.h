@@ -1,5 +1,6 @@
 #pragma once
 
+#include "i18n/TextRow.h"
 #include "platform/Text.h"
 
 #include <functional>
@@ -35,8 +36,11 @@ struct Region {
   Text shown;
 };
 
-/// The text of the language under a key, or the English default; in German the German text.
-using Lookup = std::function<Text(TextView key, TextView english, TextView german)>;
+/// The text of a row in the language of the moment.
+using Lookup = std::function<Text(const TextRow& row)>;
+
+/// The headings of the map over the teachers of a perk, for the regions that have perks.
+[[nodiscard]] std::vector<TextRow> Headings();
 
 /// The name of the region whose data file this is; "" if none of the three that have perks.
 [[nodiscard]] Text PerkRegion(TextView perksData);

@@ -44,6 +44,6 @@ class Desktop {
   /// The names of the installed printers in the system's order.
   [[nodiscard]] virtual std::vector<Text> Printers() = 0;
 
-  /// Asks the user for a file to write; "" if there shall be none.
-  [[nodiscard]] virtual std::string AskFileToWrite(TextView caption, TextView suggestedName) = 0;
+  /// Asks the user for a PDF file to write; "" if there shall be none.
+  [[nodiscard]] virtual std::string AskPdfToWrite(TextView caption, TextView suggestedName) = 0;
 };

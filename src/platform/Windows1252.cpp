@@ -50,6 +50,14 @@ std::optional<std::string> Encode(TextView text) {
   return bytes;
 }
 
+bool IsLetterOrDigit(char16_t unit) {
+  constexpr TextView others = u"ŠšŒœŽžŸƒªºµ";
+  const char16_t lower = Lower(unit);
+  return (unit >= u'0' && unit <= u'9') || (lower >= u'a' && lower <= u'z') ||
+         (unit >= u'À' && unit <= u'ÿ' && unit != u'×' && unit != u'÷') ||
+         others.find(unit) != TextView::npos;
+}
+
 char16_t Lower(char16_t unit) {
   const auto byte = ByteOf(unit);
   return byte ? CharacterOf(Folds[*byte]) : unit;

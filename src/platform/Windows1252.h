@@ -38,4 +38,7 @@ inline constexpr std::array<unsigned char, 256> Folds = [] {
 /// The character in lower case, if it is a letter of the code page that has one; else itself.
 [[nodiscard]] char16_t Lower(char16_t unit);
 
+/// Whether the character is a letter of the code page or one of the ten digits.
+[[nodiscard]] bool IsLetterOrDigit(char16_t unit);
+
 }  // namespace Windows1252

@@ -1,5 +1,6 @@
 #include "search/Search.h"
 
+#include "i18n/WindowTexts.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
 
@@ -8,11 +9,10 @@
 using LOCAL::Language;
 using Texts::Join;
 using Texts::ReplaceAll;
+using WindowTexts::Row;
 
 namespace {
 
-constexpr TextView Section = u"frmFind";
-constexpr TextView TermSign = u"%s";
 constexpr TextView LineEnd = u"\r\n";
 constexpr TextView EmptyLine = u"\r\n\r\n";
 
@@ -66,8 +66,9 @@ Outcome FindFirst(State& state, IniOps::Snapshot& files, const World& world, Tex
       return *std::move(invalid);
   if (state.SearchMode == Mode::Descriptions)
     return OutcomeOf(state, FindDescription(state, 0));
-  return OutcomeOf(
-      state, world.language.IsGerman() ? FindName(state, 0) : FindTranslatedName(state, files, world.language));
+  return OutcomeOf(state, world.language.IsGerman()
+                              ? FindName(state, 0)
+                              : FindTranslatedName(state, files, world.language));
 }
 
 Outcome FindNext(State& state) {
@@ -77,12 +78,9 @@ Outcome FindNext(State& state) {
 }
 
 Message NotFoundMessage(const State& state, IniOps::Snapshot& files, const Language& language) {
-  if (language.IsGerman())
-    return {Join(u"Der Suchbegriff: \"", state.SearchTerm, u"\" konnte nicht gefunden werden!"),
-            u"Suche beendet"};
-  const Text text = files.IniRead(language.LanguageFile(), Section, u"notfoundmessage", u"");
-  return {ReplaceAll(text, TermSign, state.SearchTerm),
-          files.IniRead(language.LanguageFile(), Section, u"notfoundcaption", u"")};
+  const Text text = language.Lookup(files, Row(u"frmFind", u"notfoundmessage"));
+  return {ReplaceAll(text, TextRow::Placeholder, state.SearchTerm),
+          language.Lookup(files, Row(u"frmFind", u"notfoundcaption"))};
 }
 
 Message InvalidLinkMessage(const InvalidLink& link) {
@@ -92,10 +90,9 @@ Message InvalidLinkMessage(const InvalidLink& link) {
 }
 
 Text ResultHeading(const State& state, IniOps::Snapshot& files, const Language& language) {
-  if (language.IsGerman())
-    return Join(u" Suchergebnis für: ", state.SearchTerm, u" ");
-  const Text text = files.IniRead(language.LanguageFile(), Section, u"SearchResult", u"");
-  return ReplaceAll(text, TermSign, state.SearchTerm) + u" ";
+  const Text text = language.Lookup(files, Row(u"frmFind", u"SearchResult"));
+  const Text heading = ReplaceAll(text, TextRow::Placeholder, state.SearchTerm) + u" ";
+  return language.IsGerman() ? u" " + heading : heading;
 }
 
 }  // namespace Search

@@ -38,8 +38,8 @@ using Outcome = std::variant<Hit, NothingFound, InvalidLink>;
 
 /// Searches all entities from the first one for `term` in the mode of the state; fills the cache
 /// before if it is empty. Names are compared as they are shown in the language of this moment.
-[[nodiscard]] Outcome FindFirst(State& state, IniOps::Snapshot& files,
-                                const World& world, TextView term);
+[[nodiscard]] Outcome FindFirst(State& state, IniOps::Snapshot& files, const World& world,
+                                TextView term);
 
 /// Searches on behind the record found last. Names are compared as they were shown when the cache
 /// was filled.

@@ -68,8 +68,7 @@ class Reader {
       if (row.region != region_.region)
         continue;
       const auto level = static_cast<size_t>(row.level);
-      const Text caption = WithoutAccessKeys(world_.language.Lookup(
-          files_, u"menus", row.caption.key, row.caption.english, row.caption.german));
+      const Text caption = WithoutAccessKeys(world_.language.Lookup(files_, row.caption));
       if (row.kind == MenuRow::Kind::Menu)
         menus.at(level) = caption;
       else if (row.kind == MenuRow::Kind::Category)
@@ -79,9 +78,7 @@ class Reader {
   }
 
   void AddPerks() {
-    const auto lookup = [this](TextView key, TextView english, TextView german) {
-      return world_.language.Lookup(files_, u"frmPerks", key, english, german);
-    };
+    const auto lookup = [this](const TextRow& row) { return world_.language.Lookup(files_, row); };
     const auto nodes = PerkTree::Build(Sections(), {}, lookup);
     for (const PerkTree::Node& node : nodes) {
       const auto parent = std::ranges::find(nodes, node.parent, &PerkTree::Node::key);

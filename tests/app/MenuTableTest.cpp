@@ -19,22 +19,31 @@ const MenuRow& Row(TextView name) {
 }  // namespace
 
 TEST(MenuTable, HasEveryCategoryOfEveryRegion) {
-  std::array<int, 5> perRegion{};
+  std::array<int, Regions.size()> perRegion{};
   for (const MenuRow& row : MenuTable::Rows()) {
     if (row.kind != Kind::Category)
       continue;
-    ASSERT_GE(row.region, 0);
+    ASSERT_TRUE(row.region);
     EXPECT_FALSE(row.category.empty());
-    ++perRegion[static_cast<size_t>(row.region)];
+    ++perRegion[static_cast<size_t>(*row.region)];
   }
   EXPECT_EQ(perRegion, (std::array{41, 29, 43, 6, 7}));
+}
+
+TEST(MenuTable, OffersPerksWhereARegionHasThem) {
+  std::set<Region> offered;
+  for (const MenuRow& row : MenuTable::Rows())
+    if (row.action == Action::Perks)
+      offered.insert(row.region.value());
+  for (const RegionRow& row : Regions)
+    EXPECT_EQ(offered.contains(row.region), row.hasPerks);
 }
 
 TEST(MenuTable, CaptionsEveryMenuUnderAKeyOfItsOwn) {
   const auto captions = MenuTable::Captions();
   EXPECT_EQ(captions.size(), 180U);
   std::set<TextView> keys;
-  for (const MenuCaption& caption : captions) {
+  for (const TextRow& caption : captions) {
     EXPECT_TRUE(keys.insert(caption.key).second);
     EXPECT_FALSE(caption.english.empty());
     EXPECT_FALSE(caption.german.empty());

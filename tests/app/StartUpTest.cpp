@@ -1,22 +1,16 @@
 #include "app/StartUp.h"
 
-#include "app/Context.h"
 #include "platform/ProgramInfo.h"
-#include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr std::array<const char*, 5> Regions = {"arvenna", "skaldor", "sarrakh", "ostrakh",
-                                                "ancestors"};
-
 void WriteRegions(const TemporaryFolder& folder) {
-  for (const std::string region : Regions) {
-    folder.Write(region + ".data", "x");
-    folder.Write(region + ".jpg", "x");
-  }
+  for (const RegionRow& region : Regions)
+    for (const TextView extension : {u".data", u".jpg"})
+      folder.Write(NativePath::ToBytes(Texts::Join(region.stem, extension)), "x");
 }
 
 }  // namespace
@@ -33,11 +27,10 @@ TEST(StartUp, NamesTheEdition) {
       {"NoExtras=1\r\nNoLang=ja\r\nLocalizedString=English\r\n", u""},
   };
 
-  RecordingDesktop desktop;
   for (const auto& test : cases) {
     const TemporaryFolder folder;
     folder.Write("orvalis.ini", "[special]\r\n" + test.special);
-    EXPECT_EQ(StartUp::Caption(Context(folder.Folder(), desktop).edition),
+    EXPECT_EQ(StartUp::Caption(World(folder.Folder()).edition),
               Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", test.edition))
         << test.special;
   }
@@ -45,27 +38,25 @@ TEST(StartUp, NamesTheEdition) {
 
 TEST(StartUp, NamesTheFirstMissingFileAndOnlyThat) {
   const TemporaryFolder folder;
-  RecordingDesktop desktop;
-  const Context context(folder.Folder(), desktop);
+  const World world(folder.Folder());
   WriteRegions(folder);
-  EXPECT_FALSE(StartUp::MissingFile(context.paths)) << "descriptions are not required";
+  EXPECT_FALSE(world.MissingFile()) << "descriptions are not required";
   folder.Write("arvenna.jpg", "");
-  EXPECT_EQ(StartUp::MissingFile(context.paths), folder.Path(u"arvenna.jpg"));
+  EXPECT_EQ(world.MissingFile(), folder.Path(u"arvenna.jpg"));
   std::filesystem::remove(folder.Native("ostrakh.data"));
-  EXPECT_EQ(StartUp::MissingFile(context.paths), folder.Path(u"ostrakh.data"));
+  EXPECT_EQ(world.MissingFile(), folder.Path(u"ostrakh.data"));
   folder.Write("OSTRAKH.Data", "x");
-  EXPECT_EQ(StartUp::MissingFile(context.paths), folder.Path(u"arvenna.jpg"));
+  EXPECT_EQ(world.MissingFile(), folder.Path(u"arvenna.jpg"));
 }
 
 TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\nlang=sprachen\r\n[general]\r\nlanguage= Test \r\n");
   const auto message = [&] {
-    RecordingDesktop desktop;
-    Context context(folder.Folder(), desktop);
-    IniOps::Snapshot files(context.files);
-    const Text chosen = StartUp::ChosenLanguage(files, context.paths);
-    return StartUp::FileNotFound(files, context.paths, chosen, u"/x/arvenna.data");
+    World world(folder.Folder());
+    const Text chosen = world.ChosenLanguage();
+    EXPECT_TRUE(world.language.IsGerman()) << "opening chooses no language";
+    return StartUp::FileNotFound(world, chosen, u"/x/arvenna.data");
   };
   EXPECT_EQ(message().caption, u"Fehler");
   EXPECT_EQ(message().text,
@@ -80,11 +71,10 @@ TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
 TEST(StartUp, TakesFoldersFromTheSettings) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\npics=Bilder\r\nextras=\r\n");
-  RecordingDesktop desktop;
-  const Context context(folder.Folder(), desktop);
-  EXPECT_EQ(context.paths.picturesFolder, folder.Path(u"Bilder/"));
-  EXPECT_EQ(context.paths.extrasFolder, folder.Path(u"EXTRAS/"));
-  EXPECT_EQ(context.paths.languageRoot, folder.Path(u"LANG/"));
-  EXPECT_EQ(context.paths.programFolder, folder.Path(u"")) << "folders end with a separator";
-  EXPECT_EQ(context.paths.regions[4].picture, folder.Path(u"ancestors.jpg"));
+  const World world(folder.Folder());
+  EXPECT_EQ(world.paths.picturesFolder, folder.Path(u"Bilder/"));
+  EXPECT_EQ(world.paths.extrasFolder, folder.Path(u"EXTRAS/"));
+  EXPECT_EQ(world.paths.languageRoot, folder.Path(u"LANG/"));
+  EXPECT_EQ(world.paths.programFolder, folder.Path(u"")) << "folders end with a separator";
+  EXPECT_EQ(world.paths.Of(Region::Ancestors).picture, folder.Path(u"ancestors.jpg"));
 }

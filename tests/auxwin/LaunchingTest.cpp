@@ -23,17 +23,10 @@ struct Judged {
 // A program folder with a language of its own, and the state of a player who chose it.
 class Documented : public testing::Test {
  protected:
-  Documented() : language(paths.infoData), commands(paths, language, launching) {
-    paths.programFolder = folder.Path(u"");
-    paths.settings = folder.Path(u"orvalis.ini");
-    paths.languageRoot = folder.Path(u"LANG/");
-    language.LanguageRoot() = paths.languageRoot;
-    Choose(u"Deutsch");
-  }
-
-  void Choose(TextView languageFolder) {
-    language.CurrentLanguage() = languageFolder;
-    language.LanguageFolder() = languageFolder;
+  void Choose(TextView name) {
+    const Text file = LOCAL::FileOfLanguage(world.paths.languageRoot, name, u".lng");
+    IniOps::Snapshot files(world.cache);
+    world.language.Choose(files, name == LOCAL::German ? Text(LOCAL::BuiltIn) : file);
   }
 
   void ExpectCalls(const std::vector<std::string>& calls) {
@@ -42,11 +35,10 @@ class Documented : public testing::Test {
   }
 
   TemporaryFolder folder;
-  ProgramPaths paths;
-  LOCAL::Language language;
+  World world{folder.Folder()};
   RecordingDesktop desktop;
-  Launching launching{paths, desktop};
-  WebCommands commands;
+  Launching launching{world.paths, desktop};
+  WebCommands commands{world, launching};
 };
 
 constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
@@ -161,22 +153,22 @@ TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
   folder.Write("prog/orvalis.chm", "x");
   folder.Write("LANG/English/readme.html", "x");
   folder.Write("secret.html", "x");
+  ProgramPaths paths = world.paths;
   paths.programFolder = folder.Path(u"prog/");
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
-  EXPECT_EQ(launching.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);
-  EXPECT_EQ(launching.ShowPage(folder.Path(u"prog/..\\secret.html")), Desktop::Refused);
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/none\\..\\..\\secret.html")),
-            Desktop::FileMissing);
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG\\English\\..\\..\\secret.html")),
-            Desktop::Refused);
-  EXPECT_EQ(launching.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/none.pdf")), Desktop::FileMissing);
-  EXPECT_EQ(launching.StartProgram(folder.Path(u"secret.html")), Desktop::Refused);
+  Launching below(paths, desktop);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
+  EXPECT_EQ(below.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);
+  EXPECT_EQ(below.ShowPage(folder.Path(u"prog/..\\secret.html")), Desktop::Refused);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/none\\..\\..\\secret.html")), Desktop::FileMissing);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"LANG\\English\\..\\..\\secret.html")), Desktop::Refused);
+  EXPECT_EQ(below.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/none.pdf")), Desktop::FileMissing);
+  EXPECT_EQ(below.StartProgram(folder.Path(u"secret.html")), Desktop::Refused);
   EXPECT_TRUE(desktop.calls.empty());
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"LANG\\english\\readme.html")), Desktop::Started);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"LANG\\english\\readme.html")), Desktop::Started);
   std::filesystem::create_symlink(folder.Native("secret.html"), folder.Native("prog/linked.html"));
-  EXPECT_EQ(launching.ShellExec(folder.Path(u"prog/linked.html")), Desktop::Started);
+  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/linked.html")), Desktop::Started);
 }
 
 TEST_F(Documented, AddressesComeFromTheSettingsReadAtEachClick) {

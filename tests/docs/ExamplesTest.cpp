@@ -45,13 +45,9 @@ std::string Shown(const EntityFile::Position& position) {
 class Program {
  public:
   Program(const TemporaryFolder& folder, Attributes example)
-      : folder_(folder),
-        example_(std::move(example)),
-        paths_(StartUp::ComposePaths(files_, folder.Folder())),
-        language_(paths_.infoData) {
+      : folder_(folder), example_(std::move(example)), world_(folder.Folder()) {
     const Text named = Wide(example_["language"]);
-    language_.StartUp(files_, paths_.languageRoot,
-                      named.empty() ? StartUp::ChosenLanguage(files_, paths_) : named);
+    language_.Start(files_, named.empty() ? world_.ChosenLanguage() : named);
     language_.CacheTranslationTable(files_);
   }
 
@@ -78,10 +74,10 @@ class Program {
     return lines;
   }
 
-  Lines Caption() { return {Narrow(StartUp::Caption(StartUp::ReadEdition(files_, paths_)))}; }
+  Lines Caption() { return {Narrow(StartUp::Caption(world_.edition))}; }
 
   Lines Missing() {
-    const auto missing = StartUp::MissingFile(paths_);
+    const auto missing = world_.MissingFile();
     return {missing ? Narrow(missing->substr(folder_.Folder().size() + 1)) : "nothing"};
   }
 
@@ -108,7 +104,7 @@ class Program {
   std::string KeyOf(const Text& shown) { return Narrow(language_.Key(shown)); }
 
   std::string LanguageOf(const Text& folder) {
-    language_.StartUp(files_, paths_.languageRoot, folder);
+    language_.Start(files_, folder);
     return Narrow(language_.CurrentLanguage());
   }
 
@@ -133,8 +129,8 @@ class Program {
   }
 
   std::string PortraitOf(const Text& key) {
-    const ProfileFile& list = files_.File(Portraits::ListPath(paths_.picturesFolder));
-    const Text file = Portraits::PicturePath(list, paths_.picturesFolder, key);
+    const ProfileFile& list = files_.File(Portraits::ListPath(world_.paths.picturesFolder));
+    const Text file = Portraits::PicturePath(list, world_.paths.picturesFolder, key);
     const auto native = FileSystem::Resolve(file);
     return native && FileSystem::FileExists(file) ? native->substr(folder_.Native("").size())
                                                   : "placeholder";
@@ -151,10 +147,9 @@ class Program {
 
   const TemporaryFolder& folder_;
   Attributes example_;
-  IniOps::Cache cache_;
-  IniOps::Snapshot files_{cache_};
-  ProgramPaths paths_;
-  LOCAL::Language language_;
+  World world_;
+  IniOps::Snapshot files_{world_.cache};
+  LOCAL::Language& language_ = world_.language;
 };
 
 // Examples that show everything there is, line by line.

@@ -1,13 +1,15 @@
 // Holds the tables of the manuals against the tables of the program and the demonstration world.
+#include "app/AllTexts.h"
 #include "app/MenuTable.h"
-#include "auxwin/ExtrasTable.h"
 #include "docs/Document.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/world/Settings.h"
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -25,16 +27,28 @@ std::string Mode(DisplayMode mode) {
   return Names.at(static_cast<size_t>(mode));
 }
 
+// The rows of one section of the language files.
+std::vector<TextRow> TextsOf(const std::string& section) {
+  std::vector<TextRow> rows = AllTexts();
+  std::erase_if(rows, [&](const TextRow& row) { return Narrow(row.section) != section; });
+  return rows;
+}
+
 std::string Lower(TextView key) {
   return Narrow(Texts::Lower(key));
 }
 
-// The keys of all tables about one section, in lower case as the program looks them up.
-std::set<std::string> DocumentedKeys(const Document& document, const std::string& section) {
-  std::set<std::string> keys;
-  for (const Document::Row& row : document.rows)
+// As the manual writes what is shown without an entry.
+std::string Default(const TextRow& row) {
+  return row.english.empty() ? "–" : Narrow(row.english);
+}
+
+// The documented cells of each key of a section, by the key in lower case, as the program finds it.
+std::map<std::string, std::vector<std::string>> Documented(const std::string& section) {
+  std::map<std::string, std::vector<std::string>> keys;
+  for (const Document::Row& row : Document::Read("translators.md").rows)
     if (row.heading.starts_with('[' + section + ']'))
-      keys.insert(Lower(NativePath::FromBytes(row.cells.at(0))));
+      keys[Lower(NativePath::FromBytes(row.cells.at(0)))] = row.cells;
   return keys;
 }
 
@@ -42,7 +56,7 @@ std::set<std::string> DocumentedKeys(const Document& document, const std::string
 
 TEST(DocumentedMenus, AreTheMenusOfTheProgram) {
   Table expected;
-  for (const MenuCaption& menu : MenuTable::Captions())
+  for (const TextRow& menu : TextsOf("menus"))
     expected.push_back({Narrow(menu.key), Narrow(menu.english), Narrow(menu.german)});
   EXPECT_EQ(Document::Read("translators.md").Table("[menus]"), expected);
 }
@@ -52,47 +66,82 @@ TEST(DocumentedCategories, AreTheCategoriesOfEachRegion) {
   const Table table = Document::Read("map-authors.md").Table("All categories");
   std::set<std::vector<std::string>> documented;
   for (const auto& row : table)
-    for (size_t region = 0; region < 5; ++region)
+    for (size_t region = 0; region < Regions.size(); ++region)
       if (const std::string& mode = row.at(FirstRegion + region); mode != "–")
         documented.insert({std::to_string(region), row[0], mode});
   std::set<std::vector<std::string>> offered;
   for (const MenuRow& row : MenuTable::Rows())
     if (row.kind == MenuRow::Kind::Category)
-      offered.insert({std::to_string(row.region), Narrow(row.category), Mode(row.mode)});
+      offered.insert(
+          {std::to_string(static_cast<int>(*row.region)), Narrow(row.category), Mode(row.mode)});
   EXPECT_EQ(documented, offered);
+}
+
+TEST(DocumentedSettings, AreTheSettingsOfTheProgram) {
+  Table expected;
+  for (const Settings::Entry& entry : Settings::All) {
+    const bool builtIn = entry.kind == Settings::Kind::Address;
+    const std::string value = Narrow(entry.defaultValue);
+    expected.push_back(
+        {Narrow(entry.section), Narrow(entry.key), builtIn ? "a built-in address" : value});
+  }
+  Table documented = Document::Read("map-authors.md").Table("Settings");
+  for (auto& row : documented)
+    row.pop_back();
+  EXPECT_EQ(documented, expected);
 }
 
 TEST(DocumentedPerks, AreThePerksOfTheProgram) {
   Table expected;
   for (const PerkCatalogue::Perk& perk : PerkCatalogue::Perks)
-    expected.push_back({Narrow(PerkCatalogue::LanguageKey(perk)),
-                        Narrow(PerkCatalogue::English(perk)), Narrow(perk.german),
-                        Narrow(perk.key)});
+    expected.push_back({Narrow(perk.caption.key), Narrow(perk.caption.english),
+                        Narrow(perk.caption.german), Narrow(perk.key)});
   EXPECT_EQ(Document::Read("translators.md").Table("[frmPerks]: the perks"), expected);
 }
 
-TEST(DocumentedExtras, AreTheExtrasOfTheProgram) {
-  Table expected;
-  for (const Extra& extra : ExtrasTable)
-    expected.push_back({Narrow(extra.key), Narrow(extra.english), Narrow(extra.german)});
-  Table documented = Document::Read("translators.md").Table("[frmExtras]");
-  std::erase_if(documented,
-                [](const auto& row) { return row[0] == "caption" || row[0][0] == 'b'; });
-  EXPECT_EQ(documented, expected);
+TEST(AllTexts, AreUnderOneNameEach) {
+  std::set<std::string> names;
+  for (const TextRow& row : AllTexts())
+    EXPECT_TRUE(names.insert(Narrow(row.section) + '/' + Lower(row.key)).second) << Narrow(row.key);
 }
 
-class DocumentedSections : public testing::TestWithParam<const char*> {};
+class TextSections : public testing::TestWithParam<const char*> {};
 
-TEST_P(DocumentedSections, HaveTheKeysOfACompleteLanguage) {
+TEST_P(TextSections, AreDocumentedWithTheirDefaults) {
+  const auto documented = Documented(GetParam());
+  const auto rows = TextsOf(GetParam());
+  EXPECT_EQ(documented.size(), rows.size());
+  for (const TextRow& row : rows) {
+    ASSERT_TRUE(documented.contains(Lower(row.key))) << Narrow(row.key);
+    const auto& cells = documented.at(Lower(row.key));
+    EXPECT_EQ(cells.at(1), Default(row)) << Narrow(row.key);
+    const bool withGerman =
+        std::string("frmLang frmExtras frmPerks menus").find(GetParam()) != std::string::npos;
+    if (withGerman) {
+      EXPECT_EQ(cells.at(2), Narrow(row.german)) << Narrow(row.key);
+    }
+  }
+}
+
+TEST_P(TextSections, AreTranslatedWholeAndWithTheirPlaceholders) {
   const Text section = NativePath::FromBytes(GetParam());
-  const Text file = NativePath::FromBytes(ORVALIS_SOURCES "/world/LANG/English/English.lng");
-  std::set<std::string> translated;
-  for (const Text& key : IniOps::IniReadFile(file, section))
-    translated.insert(Lower(key));
-  EXPECT_FALSE(translated.empty());
-  EXPECT_EQ(DocumentedKeys(Document::Read("translators.md"), GetParam()), translated);
+  const auto rows = TextsOf(GetParam());
+  for (const std::string language : {"English", "Français"}) {
+    const Text file = NativePath::FromBytes(std::string(ORVALIS_SOURCES "/world/LANG/") + language +
+                                            "/" + language + ".lng");
+    std::set<std::string> translated;
+    for (const Text& key : IniOps::IniReadFile(file, section))
+      translated.insert(Lower(key));
+    EXPECT_EQ(translated.size(), rows.size()) << language;
+    for (const TextRow& row : rows) {
+      const Text text = IniOps::IniRead(file, section, row.key, u"");
+      EXPECT_TRUE(translated.contains(Lower(row.key))) << language << ": " << Narrow(row.key);
+      EXPECT_EQ(text.find(TextRow::Placeholder) != Text::npos, row.HasPlaceholder())
+          << language << ": " << Narrow(row.key);
+    }
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Translators, DocumentedSections,
+INSTANTIATE_TEST_SUITE_P(Languages, TextSections,
                          testing::Values("general", "menus", "ui", "frmLang", "frmFind", "frmAbout",
                                          "frmPrint", "frmInfo", "frmPerks", "frmExtras"));

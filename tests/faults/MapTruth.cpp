@@ -53,11 +53,6 @@ QString Padded(const QString& name) {
   return QStringLiteral(" %1 ").arg(name);
 }
 
-ProgramPaths ReadPaths(IniOps::Cache& cache) {
-  IniOps::Snapshot files(cache);
-  return StartUp::ComposePaths(files, NativePath::FromBytes(PosixFile::ExecutableFolder()));
-}
-
 std::string Said(const QString& what, const QString& is, const QString& should) {
   return QStringLiteral("%1 is %2 and not %3").arg(what, is, should).toStdString();
 }
@@ -72,10 +67,9 @@ MapTruth::MapTruth(QMainWindow& window)
     : QObject(&window),
       window_(window),
       map_(*window.centralWidget()),
-      paths_(ReadPaths(cache_)),
-      language_(paths_.infoData) {
+      world_(NativePath::FromBytes(PosixFile::ExecutableFolder())) {
   IniOps::Snapshot files(cache_);
-  language_.StartUp(files, paths_.languageRoot, StartUp::ChosenLanguage(files, paths_));
+  language_.Start(files, world_.ChosenLanguage());
   const auto menus = MenuTable::Captions();
   const InterfaceTexts texts =
       language_.IsGerman() ? RestoreGerman(menus) : Translate_UI(files, language_, menus);
@@ -111,8 +105,8 @@ void MapTruth::Watch(QWidget& dialog) {
     });
     connect(find, &frmFind::SearchStarted, this, [this, find] {
       IniOps::Snapshot files(cache_);
-      ShowHit(Search::FindFirst(search_, files, language_, paths_,
-                                FromQt(find->findChild<QLineEdit*>()->text())));
+      ShowHit(
+          Search::FindFirst(search_, files, world_, FromQt(find->findChild<QLineEdit*>()->text())));
     });
   } else if (const auto* language = qobject_cast<frmLang*>(&dialog)) {
     connect(language, &frmLang::LanguageChanged, this,
@@ -146,7 +140,7 @@ void MapTruth::SpeakAs(const InterfaceTexts& texts, const Text& file) {
 }
 
 void MapTruth::Category(const MenuRow& row) {
-  const auto& region = paths_.regions.at(static_cast<size_t>(row.region));
+  const auto& region = world_.paths.Of(row.region.value());
   const Text category(row.category);
   if (row.mode == DisplayMode::List || row.listFirst)
     ShowList(region.picture, region.data, category);

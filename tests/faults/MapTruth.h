@@ -73,9 +73,9 @@ class MapTruth : public QObject {
 
   QMainWindow& window_;
   QWidget& map_;
-  IniOps::Cache cache_;
-  ProgramPaths paths_;
-  LOCAL::Language language_;
+  World world_;
+  IniOps::Cache& cache_ = world_.cache;
+  LOCAL::Language& language_ = world_.language;
   std::vector<Text> captions_;
   QString prompt_;
   Search::State search_;

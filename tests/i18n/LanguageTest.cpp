@@ -9,8 +9,8 @@ using IniOps::Snapshot;
 
 namespace {
 
-constexpr MenuCaption MenuRows[] = {{u"mnuFile", u"File", u"&Datei"},
-                                    {u"miQuit", u"&Quit", u"&Beenden"}};
+constexpr TextRow MenuRows[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
+                                {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
 // Start-up with a folder name in the settings; the files are as the start finds them.
 class Started {
@@ -109,6 +109,8 @@ TEST(InterfaceTexts, AMissingOrEmptyEntryIsEnglishNeverGerman) {
   EXPECT_EQ(french.prompt, u"   -- Choisir %s --");
   EXPECT_EQ(french.infoToolTip, u"Displays informations about selected entity.");
   EXPECT_EQ(RestoreGerman(MenuRows).menus, (std::vector<Text>{u"&Datei", u"&Beenden"}));
+  EXPECT_EQ(french.spokenPrompt, u"Choisir s");
+  EXPECT_EQ(Translate_UI_DE().spokenPrompt, u"Bitte Auswählen");
   EXPECT_EQ(RestoreGerman(MenuRows).prompt, u"  ------------ Bitte Auswählen ------------");
   EXPECT_TRUE(Translate_UI_DE().menus.empty());
 }
@@ -143,4 +145,14 @@ TEST(InterfaceTexts, BadFilesGiveDefaults) {
     EXPECT_EQ(start.language.CurrentLanguage(), u"Deutsch") << test.name;
     EXPECT_EQ(Translate_UI(start.files, start.language, MenuRows).menus[0], test.file) << test.name;
   }
+}
+
+TEST(InterfaceTexts, APromptOfSignsAloneIsSpokenAsTheBuiltInOne) {
+  const TemporaryFolder folder;
+  folder.Write("LANG/Signs/Signs.lng",
+               "[general]\r\nlanguage=Signs\r\n[ui]\r\nComboBoxPrompt====\r\n");
+  Started start(folder, u"Signs");
+  const InterfaceTexts texts = Translate_UI(start.files, start.language, MenuRows);
+  EXPECT_EQ(texts.prompt, u"   ===");
+  EXPECT_EQ(texts.spokenPrompt, u"Please select");
 }

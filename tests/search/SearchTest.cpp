@@ -32,8 +32,8 @@ class Searching : public testing::Test {
   // The number found; none if nothing was found.
   std::optional<size_t> First(TextView term, Search::Mode mode = Search::Mode::Names) {
     state_.SearchMode = mode;
-    IniOps::Snapshot files(world_.cache);
-    return NumberOf(Search::FindFirst(state_, files, world_.language, world_.paths, term));
+    IniOps::Snapshot files(world_.world.cache);
+    return NumberOf(Search::FindFirst(state_, files, world_.world, term));
   }
 
   std::optional<size_t> Next() { return NumberOf(Search::FindNext(state_)); }
@@ -44,13 +44,13 @@ class Searching : public testing::Test {
   }
 
   Message NotFound() {
-    IniOps::Snapshot files(world_.cache);
-    return Search::NotFoundMessage(state_, files, world_.language);
+    IniOps::Snapshot files(world_.world.cache);
+    return Search::NotFoundMessage(state_, files, world_.world.language);
   }
 
   Text Heading() {
-    IniOps::Snapshot files(world_.cache);
-    return Search::ResultHeading(state_, files, world_.language);
+    IniOps::Snapshot files(world_.world.cache);
+    return Search::ResultHeading(state_, files, world_.world.language);
   }
 
   SearchWorld world_;
@@ -87,8 +87,8 @@ TEST_F(Searching, CachesEveryFindableLineInTheOrderOfTheFiles) {
     EXPECT_EQ(entity.X, Rows[i].x);
     EXPECT_EQ(entity.Y, Rows[i].y);
   }
-  EXPECT_EQ(state_.Cache.At(6).Database, world_.paths.regions[2].data);
-  EXPECT_EQ(state_.Cache.At(6).Map, world_.paths.regions[2].picture);
+  EXPECT_EQ(state_.Cache.At(6).Database, world_.world.paths.Of(Region::Sarrakh).data);
+  EXPECT_EQ(state_.Cache.At(6).Map, world_.world.paths.Of(Region::Sarrakh).picture);
 }
 
 TEST_F(Searching, MatchesTheStartOfNamesAndAnyPartOfDescriptions) {
@@ -144,7 +144,8 @@ TEST_F(Searching, CachesNamesAndDescriptionsInTheLanguageOfTheFirstSearch) {
   EXPECT_EQ(First(u"sells", Search::Mode::Descriptions), 1U);
   EXPECT_EQ(state_.Cache.At(1).Name, u"Merchant Mara");
   EXPECT_EQ(state_.Cache.At(0).Description, u"");
-  world_.language.CurrentLanguage() = LOCAL::German;
+  IniOps::Snapshot files(world_.world.cache);
+  world_.world.language.Choose(files, Text(LOCAL::BuiltIn));
   EXPECT_EQ(First(u"Merchant"), 1U);
 }
 
@@ -157,13 +158,12 @@ TEST_F(Searching, StopsAtTheFirstInvalidLink) {
     Search::State state;
     IniOps::Cache cache;
     IniOps::Snapshot files(cache);
-    const auto outcome =
-        Search::FindFirst(state, files, world_.language, world_.paths, TextView(u"Ada"));
+    const auto outcome = Search::FindFirst(state, files, world_.world, TextView(u"Ada"));
     const auto* link = std::get_if<InvalidLink>(&outcome);
     ASSERT_TRUE(link);
     EXPECT_EQ(Search::InvalidLinkMessage(*link).text,
-              Texts::Join(u"DB: ", world_.paths.regions[0].data, u"\r\n\r\n[NPC]\r\nTom=#,", target,
-                          u"\r\n\r\nLink-Target invalid!"));
+              Texts::Join(u"DB: ", world_.world.paths.Of(Region::Arvenna).data,
+                          u"\r\n\r\n[NPC]\r\nTom=#,", target, u"\r\n\r\nLink-Target invalid!"));
     EXPECT_EQ(Search::InvalidLinkMessage(*link).caption, u"Link Error");
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/NativePath.h"
 
 #include <set>
 
@@ -48,8 +49,8 @@ class RecordingDesktop : public Desktop {
 
   [[nodiscard]] std::vector<Text> Printers() override { return printers; }
 
-  [[nodiscard]] std::string AskFileToWrite(TextView, TextView) override {
-    calls.emplace_back("ask");
+  [[nodiscard]] std::string AskPdfToWrite(TextView, TextView suggestedName) override {
+    calls.push_back("ask " + NativePath::ToBytes(suggestedName));
     return fileToWrite;
   }
 };

@@ -1,3 +1,4 @@
+#include "app/AllTexts.h"
 #include "app/MenuTable.h"
 #include "auxwin/ExtrasTable.h"
 #include "mapdata/world/EntityFile.h"
@@ -23,7 +24,6 @@ const Text World = NativePath::FromBytes(ORVALIS_SOURCES "/world/");
 const Text LanguageRoot = World + u"LANG/";
 const Text German = World + u"info.data";
 constexpr TextView Languages[] = {u"English", u"Français"};
-constexpr TextView Regions[] = {u"arvenna", u"skaldor", u"sarrakh", u"ostrakh", u"ancestors"};
 constexpr TextView PlantSections[] = {u"dragonroots", u"goblinberries", u"kings sorrels"};
 constexpr size_t MostMarkers = 81;
 // Begins names that are put together from this word and another entry.
@@ -48,8 +48,8 @@ struct Line {
 class WorldTest : public testing::Test {
  protected:
   WorldTest() {
-    for (const TextView region : Regions) {
-      const Text data = Texts::Join(World, region, u".data");
+    for (const RegionRow& region : Regions) {
+      const Text data = Texts::Join(World, region.stem, u".data");
       for (const Text& section : files.IniSectionNames(data))
         for (const Text& key : files.IniReadFile(data, section))
           if (!EntityFile::IsDisabled(Windows1252::Encode(key).value()))
@@ -85,7 +85,7 @@ TEST_F(WorldTest, PutsEveryEntityIntoTheFrameOfItsPicture) {
 TEST_F(WorldTest, FillsEveryCategoryAndTeachesEveryPerk) {
   for (const MenuRow& row : MenuTable::Rows())
     if (row.kind == MenuRow::Kind::Category) {
-      const Text data = Texts::Join(World, Regions[static_cast<size_t>(row.region)], u".data");
+      const Text data = Texts::Join(World, RowOf(*row.region).stem, u".data");
       const size_t count = files.IniReadFile(data, row.category).size();
       const bool fits = row.mode == DisplayMode::List || count <= MostMarkers;
       EXPECT_TRUE(count > 0 && fits) << Bytes(row.name) << " " << count;
@@ -124,12 +124,8 @@ TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
       EXPECT_EQ(language.Key(shown), key) << Bytes(key) << " as " << Bytes(shown);
       EXPECT_EQ(language.Shown(files, shown), shown) << Bytes(shown);
     }
-    for (const MenuCaption& caption : MenuTable::Captions())
-      ExpectEntry(file, u"menus", caption.key);
-    for (const auto& category : PerkCatalogue::Categories)
-      ExpectEntry(file, u"frmPerks", category.languageKey);
-    for (const auto& perk : PerkCatalogue::Perks)
-      ExpectEntry(file, u"frmPerks", PerkCatalogue::LanguageKey(perk));
+    for (const TextRow& row : AllTexts())
+      ExpectEntry(file, Text(row.section), Text(row.key));
 
     const auto keyOf = [&](TextView shown) { return language.Key(shown); };
     for (const Text& key : files.IniReadFile(German, u"info")) {

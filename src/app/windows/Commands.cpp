@@ -9,18 +9,16 @@
 #include "mapdata/windows/MapView.h"
 #include "mapdata/windows/frmInfo.h"
 #include "perks/windows/frmPerks.h"
-#include "search/windows/SearchCommands.h"
 
 Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
     : QObject(&mainWindow),
       context_(context),
       map_(map),
       mainWindow_(mainWindow),
-      search_(new SearchCommands(map, context.world, context.search)) {
-  search_->setParent(this);
-  connect(search_, &SearchCommands::SearchStarted, this, &Commands::SearchStarted);
+      search_(map, context.world, context.search) {
+  connect(&search_, &SearchCommands::SearchStarted, this, &Commands::SearchStarted);
   // At once, and not after what still waits in the event loop.
-  connect(search_, &SearchCommands::EndRequested, &mainWindow, &QWidget::close);
+  connect(&search_, &SearchCommands::EndRequested, &mainWindow, &QWidget::close);
 }
 
 void Commands::Run(const MenuRow& row) {
@@ -31,9 +29,9 @@ void Commands::Run(const MenuRow& row) {
     case Action::Language:
       return ChooseLanguage();
     case Action::Find:
-      return search_->miFind_Click();
+      return search_.miFind_Click();
     case Action::FindAgain:
-      return search_->miFindAgain_Click();
+      return search_.miFindAgain_Click();
     case Action::Perks:
       return ShowPerks(*row.region);
     case Action::Extras:
@@ -66,7 +64,8 @@ void Commands::ChooseLanguage() {
 
 void Commands::Print() {
   const Printout printout{[this] { return map_.MapSize(); },
-                          [this](QPainter& painter) { map_.Paint(painter); }};
+                          [this](QPainter& painter) { map_.Paint(painter); },
+                          [this] { return map_.Heading(); }};
   frmPrint(&mainWindow_, context_.world, context_.desktop, printout).exec();
 }
 

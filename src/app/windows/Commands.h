@@ -1,11 +1,12 @@
 #pragma once
 
 #include "app/MenuTable.h"
+#include "i18n/InterfaceTexts.h"
+#include "search/windows/SearchCommands.h"
 
 #include <QWidget>
 
 class MapView;
-class SearchCommands;
 struct Context;
 
 /// What the commands do that show no category: each opens its window over the main window, or
@@ -40,6 +41,6 @@ class Commands : public QObject {
   Context& context_;
   MapView& map_;
   QWidget& mainWindow_;
-  SearchCommands* search_;
-  std::vector<MenuCaption> captions_ = MenuTable::Captions();
+  SearchCommands search_;
+  std::vector<TextRow> captions_ = MenuTable::Captions();
 };

@@ -5,10 +5,9 @@
 #include "app/windows/Commands.h"
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
+#include "i18n/InterfaceTexts.h"
 #include "mapdata/windows/MapView.h"
-#include "platform/windows/QtText.h"
-
-using QtText::ToQt;
+#include "platform/windows/WindowTitle.h"
 
 namespace {
 
@@ -26,7 +25,7 @@ frmMain::frmMain(Context& context)
       map_(new MapView(context.world.cache, context.world.language, this)),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
-  setWindowTitle(ToQt(StartUp::Caption(context.world.edition)));
+  WindowTitle::Set(*this, StartUp::Caption(context.world.edition));
   setMenuBar(menus_);
   setCentralWidget(map_);
   const QSize map = StartSize(*this);
@@ -46,8 +45,9 @@ frmMain::frmMain(Context& context)
 }
 
 void frmMain::ShowTexts(const InterfaceTexts& texts) {
+  toolkitTexts_.Speak(context_.world.language.CurrentLanguage());
   menus_->SetCaptions(texts.menus);
-  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted);
+  map_->SetTexts(texts.prompt, texts.infoToolTip, texts.highlighted, texts.spokenPrompt);
 }
 
 void frmMain::RunCategory(const MenuRow& row) {

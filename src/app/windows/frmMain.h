@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/windows/ToolkitTexts.h"
+
 #include <QMainWindow>
 
 class Commands;
@@ -29,4 +31,5 @@ class frmMain : public QMainWindow {
   MenuBar* menus_;
   MapView* map_;
   Commands* commands_;
+  ToolkitTexts toolkitTexts_;
 };

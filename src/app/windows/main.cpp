@@ -1,6 +1,7 @@
 #include "app/Context.h"
 #include "app/windows/Program.h"
 #include "controls/windows/FocusStyle.h"
+#include "controls/windows/PlainToolTips.h"
 #include "controls/windows/WidgetTwips.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
@@ -36,7 +37,9 @@ int main(int, char** argv) {
   int onlyName = 1;
   // A desktop's global menu loses top-level commands and the dividers between the regions.
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-  const QApplication application(onlyName, argv);
+  QApplication application(onlyName, argv);
+  PlainToolTips toolTips;
+  application.installEventFilter(&toolTips);
   UseProportionalFont();
   QApplication::setStyle(new FocusStyle(QApplication::style()->name()));
   QApplication::setWindowIcon(ProgramIcon());

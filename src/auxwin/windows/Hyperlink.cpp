@@ -49,13 +49,13 @@ Hyperlink::Hyperlink(QLabel& label, int color, int colorMouseOver, std::function
   font.setUnderline(true);
   label.setFont(font);
   label.setCursor(Qt::PointingHandCursor);
-  label.setFocusPolicy(Qt::TabFocus);
   label.setMouseTracking(true);
   label.installEventFilter(this);
   // The edges that count as the label's are its parent's pixels.
   label.parentWidget()->setMouseTracking(true);
   label.parentWidget()->installEventFilter(this);
   ApplyColor(color);
+  FollowText();
 }
 
 bool Hyperlink::eventFilter(QObject* watched, QEvent* event) {
@@ -67,6 +67,10 @@ bool Hyperlink::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Leave:
       FollowPointer(QCursor::pos());
       return false;
+    case QEvent::Show:
+    case QEvent::LayoutRequest:
+      FollowText();
+      return false;
     default:
       return watched == &label_ && LabelEvent(*event);
   }
@@ -75,13 +79,13 @@ bool Hyperlink::eventFilter(QObject* watched, QEvent* event) {
 bool Hyperlink::LabelEvent(QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
+      pressed_ = true;
       return true;
-    case QEvent::MouseButtonRelease: {
-      const auto& release = static_cast<const QMouseEvent&>(event);
-      if (release.button() == Qt::LeftButton && label_.rect().contains(release.pos()))
-        open_();
+    case QEvent::MouseButtonDblClick:
       return true;
-    }
+    case QEvent::MouseButtonRelease:
+      Release(static_cast<const QMouseEvent&>(event));
+      return true;
     case QEvent::KeyPress:
       if (!OpensLink(static_cast<const QKeyEvent&>(event)))
         return false;
@@ -96,6 +100,14 @@ bool Hyperlink::LabelEvent(QEvent& event) {
     default:
       return false;
   }
+}
+
+// The second release of a double click follows no press of its own.
+void Hyperlink::Release(const QMouseEvent& event) {
+  const bool clicked = pressed_ && event.button() == Qt::LeftButton;
+  pressed_ = false;
+  if (clicked && label_.rect().contains(event.pos()))
+    open_();
 }
 
 bool Hyperlink::PaintWithFocus(QEvent& event) {
@@ -114,6 +126,11 @@ bool Hyperlink::PaintWithFocus(QEvent& event) {
 void Hyperlink::FollowPointer(const QPoint& globalPoint) {
   const QRect withEdges = label_.rect().adjusted(0, 0, 1, 1);
   ApplyColor(withEdges.contains(label_.mapFromGlobal(globalPoint)) ? colorMouseOver_ : color_);
+}
+
+// There is nothing to open while the label is empty.
+void Hyperlink::FollowText() {
+  label_.setFocusPolicy(label_.text().isEmpty() ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void Hyperlink::ApplyColor(int color) {

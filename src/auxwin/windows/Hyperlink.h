@@ -8,10 +8,11 @@
 
 class Launching;
 class QLabel;
+class QMouseEvent;
 
 /// Makes a label a link: underlined, in one colour, in another while the pointer is over it; a
-/// click, or Enter or Space while it has the focus, opens it. A pointer exactly on the right or
-/// bottom edge, one pixel beyond the label, counts as over it.
+/// click, or Enter or Space while it has the focus, opens it; a link without text has none. A
+/// pointer exactly on the right or bottom edge, one pixel beyond the label, counts as over it.
 ///
 /// Colours are red + 256 x green + 65536 x blue.
 class Hyperlink : public QObject {
@@ -37,6 +38,8 @@ class Hyperlink : public QObject {
   Hyperlink(QLabel& label, int color, int colorMouseOver, std::function<void()> open);
   bool LabelEvent(QEvent& event);
   bool PaintWithFocus(QEvent& event);
+  void Release(const QMouseEvent& event);
+  void FollowText();
   void FollowPointer(const QPoint& globalPoint);
   void ApplyColor(int color);
 
@@ -45,5 +48,6 @@ class Hyperlink : public QObject {
   int colorMouseOver_;
   int currentColor_ = -1;
   bool painting_ = false;
+  bool pressed_ = false;
   std::function<void()> open_;
 };

@@ -2,31 +2,19 @@
 
 #include "auxwin/windows/Hyperlink.h"
 #include "controls/windows/WidgetTwips.h"
+#include "i18n/WindowTexts.h"
 #include "mapdata/files/FileSystem.h"
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QIcon>
 #include <QPushButton>
 
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
-
-constexpr TextView Disclaimer =
-    u"Nutzungsbedingungen: Die Karten von Orvalis sind kostenlos und dürfen nur zu "
-    u"nichtkommerziellen Zwecken verwendet werden. Ihre Veröffentlichung auf anderen Webseiten ist "
-    u"nur mit Erlaubnis der Autoren gestattet. Anfragen bitte an die oben genannte E-Mail-Adresse.";
-
-constexpr TextView Sources =
-    u"Quellen: Die Angaben auf den Karten stammen von den Seiten der Gemeinschaft, dem "
-    u"Duskhold-Archiv, der Kartenstube, dem Lagerfeuer und Wanderers Rast, sowie aus den "
-    u"Reisetagebüchern vieler Spieler, die Höhlen vermessen, Truhen gezählt und Lehrer nach "
-    u"ihrem Können gefragt haben. Ihnen allen gebührt Dank.";
-
-constexpr TextView ThanksTo =
-    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Halm, Jorin Kesselbach, Mathis "
-    u"Ohlendorf, Svea Brandlechner und Tilda Wiesengrund.";
 
 constexpr ControlDesign Controls[] = {
     {.name = u"picBanner",
@@ -47,23 +35,26 @@ constexpr ControlDesign Controls[] = {
      .place = {225, 3465, 5910, 240},
      .text = u"{Copyright}",
      .bold = true},
-    {.name = u"lblDescription",
-     .place = {225, 3840, 5925, 540},
-     .text = u"{Beschreibung}",
+    {.name = u"lblDescription", .place = {225, 3840, 5925, 540}, .bold = true},
+    {.name = u"lblEMailLabel",
+     .place = {225, 4485, 495, 240},
+     .caption = &Row(u"frmAbout", u"email"),
      .bold = true},
-    {.name = u"lblEMailLabel", .place = {225, 4485, 495, 240}, .text = u"eMail:", .bold = true},
     {.name = u"lblEMail",
      .place = {1095, 4485, 5100, 240},
      .text = ProgramInfo::EMail,
      .bold = true},
-    {.name = u"lblWebSiteLabel", .place = {240, 4815, 780, 240}, .text = u"WebSite:", .bold = true},
+    {.name = u"lblWebSiteLabel",
+     .place = {240, 4815, 780, 240},
+     .caption = &Row(u"frmAbout", u"website"),
+     .bold = true},
     {.name = u"lblWebSite",
      .place = {1095, 4815, 5100, 240},
      .text = ProgramInfo::WebSite,
      .bold = true},
-    {.name = u"lblDisclaimer", .place = {240, 5280, 5820, 945}, .text = Disclaimer, .bold = true},
-    {.name = u"lblSources", .place = {240, 6240, 5820, 1665}, .text = Sources, .bold = true},
-    {.name = u"lblThanksTo", .place = {240, 7800, 5820, 615}, .text = ThanksTo, .bold = true},
+    {.name = u"lblDisclaimer", .place = {240, 5280, 5820, 945}, .bold = true},
+    {.name = u"lblSources", .place = {240, 6240, 5820, 1665}, .bold = true},
+    {.name = u"lblThanksTo", .place = {240, 7800, 5820, 615}, .bold = true},
     {.name = u"LineGray", .kind = ControlKind::Line, .place = {0, 8595, 6240, 15}},
     {.name = u"linWhite", .kind = ControlKind::Line, .place = {-30, 8610, 6150, 15}},
     {.name = u"btnOK",
@@ -74,7 +65,6 @@ constexpr ControlDesign Controls[] = {
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmAbout",
-                                       .caption = u"Über...",
                                        .width = 6270,
                                        .height = 9330,
                                        .defaultButton = u"btnOK",
@@ -86,16 +76,17 @@ constexpr int BannerFrame = 2;
 constexpr int Gray = 0x808080;
 constexpr int White = 0xFFFFFF;
 
-// The labels that a language file has texts for.
-struct Translated {
+// Its paragraphs, shown as they stand.
+struct Paragraph {
   TextView label;
-  TextView key;
+  const TextRow& text;
 };
 
-constexpr Translated TranslatedLabels[] = {
-    {u"lblDescription", u"description"}, {u"lblEMailLabel", u"email"},
-    {u"lblWebSiteLabel", u"website"},    {u"lblDisclaimer", u"disclaimer"},
-    {u"lblSources", u"sources"},         {u"lblThanksTo", u"thanksto"},
+constexpr Paragraph Paragraphs[] = {
+    {u"lblDescription", Row(u"frmAbout", u"description")},
+    {u"lblDisclaimer", Row(u"frmAbout", u"disclaimer")},
+    {u"lblSources", Row(u"frmAbout", u"sources")},
+    {u"lblThanksTo", Row(u"frmAbout", u"thanksto")},
 };
 
 void Fill(QWidget& line, int color) {
@@ -115,7 +106,7 @@ frmAbout::frmAbout(QWidget* parent, World& world, Desktop& desktop, Launching& l
   ShowBanner();
   Fill(*Control<QWidget>(u"LineGray"), Gray);
   Fill(*Control<QWidget>(u"linWhite"), White);
-  applyTexts(snapshot, world.language, world.edition.text);
+  ShowTexts(snapshot, world.language, world.edition.text);
   // Not the first link, which Enter would open.
   Control<QPushButton>(u"btnOK")->setFocus();
 }
@@ -153,23 +144,16 @@ void frmAbout::ShowBanner() {
       QIcon(QStringLiteral(":/builtin/banner-about.png")).pixmap(banner.contentsRect().size()));
 }
 
-void frmAbout::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
-                          const Text& edition) {
-  setWindowTitle(ToQt(Texts::Join(u"Über ", ProgramInfo::Title, u" ", edition)));
+void frmAbout::ShowTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
+                         const Text& edition) {
+  const Text caption = language.Lookup(files, Row(u"frmAbout", u"caption"));
+  const Text title = Texts::Join(caption, u" ", ProgramInfo::Title);
+  WindowTitle::Set(*this, language.IsGerman() ? Texts::Join(title, u" ", edition) : title);
   Label(u"lblTitle").setText(ToQt(ProgramInfo::Title));
   Label(u"lblVersion")
       .setText(ToQt(Texts::Join(u"Version: ", ProgramInfo::Version, u" ", edition)));
   Label(u"lblCopyright").setText(ToQt(ProgramInfo::Copyright));
-  Label(u"lblDescription").setText(ToQt(ProgramInfo::Description));
-  if (!language.IsGerman())
-    ShowTranslation(files, language);
-}
-
-void frmAbout::ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& language) {
-  const auto text = [&](TextView key) {
-    return files.IniRead(language.LanguageFile(), u"frmAbout", key, u"");
-  };
-  setWindowTitle(ToQt(Texts::Join(text(u"caption"), u" ", ProgramInfo::Title)));
-  for (const Translated& translated : TranslatedLabels)
-    Label(translated.label).setText(ToQt(text(translated.key)));
+  for (const Paragraph& paragraph : Paragraphs)
+    Label(paragraph.label).setText(ToQt(language.Lookup(files, paragraph.text)));
+  ApplyTexts(files, language);
 }

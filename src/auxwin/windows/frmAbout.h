@@ -22,8 +22,7 @@ class frmAbout : public Dialog {
   void StartMusic(IniOps::Snapshot& files, const ProgramPaths& paths);
   void StopMusic();
   void ShowBanner();
-  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& edition);
-  void ShowTranslation(IniOps::Snapshot& files, const LOCAL::Language& language);
+  void ShowTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& edition);
 
   [[nodiscard]] QLabel& Label(TextView name) const { return *Control<QLabel>(name); }
 

@@ -3,12 +3,13 @@
 #include "auxwin/Documents.h"
 #include "auxwin/ExtrasTable.h"
 #include "controls/windows/GridListbox.h"
+#include "i18n/WindowTexts.h"
 
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
-using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
@@ -22,16 +23,16 @@ constexpr ControlDesign Controls[] = {
     {.name = u"btnSelect",
      .kind = ControlKind::Button,
      .place = {1800, 4680, 1095, 375},
-     .text = u"A&uswählen"},
+     .caption = &Row(u"frmExtras", u"btnSelect")},
     {.name = u"btnAbort",
      .kind = ControlKind::Button,
      .place = {3120, 4680, 1095, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmExtras", u"btnCancel")},
     {.name = u"imgList", .kind = ControlKind::Picture, .place = {120, 4680, 240, 240}},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmExtras",
-                                       .caption = u"Extras",
+                                       .caption = &Row(u"frmExtras", u"caption"),
                                        .width = 4335,
                                        .height = 5145,
                                        .defaultButton = u"btnSelect",
@@ -54,20 +55,15 @@ frmExtras::frmExtras(QWidget* parent, World& world, Launching& launching)
   glbExtras->SetSorted(true);
   glbExtras->SetCaption(u"Vorhandene Extras");
   IniOps::Snapshot snapshot(world.cache);
-  applyTexts(snapshot);
+  ApplyTexts(snapshot, language_);
+  FillList(snapshot);
   connect(btnSelect, &QPushButton::clicked, this, &frmExtras::btnSelect_Click);
   connect(glbExtras, &GridListbox::DblClick, this, &frmExtras::btnSelect_Click);
 }
 
-void frmExtras::applyTexts(IniOps::Snapshot& files) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return language_.Lookup(files, u"frmExtras", key, english, german);
-  };
-  setWindowTitle(ToQt(text(u"caption", u"Extras", u"Extras")));
-  btnSelect->setText(ToQt(text(u"btnSelect", u"Select", u"A&uswählen")));
-  btnAbort->setText(ToQt(text(u"btnCancel", u"Cancel", u"&Abbrechen")));
+void frmExtras::FillList(IniOps::Snapshot& files) {
   for (const Extra& extra : ExtrasTable)
-    Add(text(extra.key, extra.english, extra.german), extra.file);
+    Add(language_.Lookup(files, extra.name), extra.file);
 }
 
 void frmExtras::Add(TextView name, TextView File) {

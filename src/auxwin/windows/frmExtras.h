@@ -16,7 +16,7 @@ class frmExtras : public Dialog {
   frmExtras(QWidget* parent, World& world, Launching& launching);
 
  private:
-  void applyTexts(IniOps::Snapshot& files);
+  void FillList(IniOps::Snapshot& files);
   void Add(TextView name, TextView File);
   void btnSelect_Click();
   [[nodiscard]] Text Copy(TextView File) const;

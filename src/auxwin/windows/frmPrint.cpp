@@ -1,5 +1,8 @@
 #include "auxwin/windows/frmPrint.h"
 
+#include "auxwin/PrintName.h"
+#include "i18n/WindowTexts.h"
+
 #include "controls/windows/WidgetTwips.h"
 #include "platform/ProgramInfo.h"
 
@@ -15,14 +18,12 @@
 
 #include <algorithm>
 
-using QtText::FromQt;
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
 constexpr TextView PdfEntry = u"PDF";
-constexpr TextView PdfName = u"Orvalis.pdf";
-constexpr double TwipsPerInch = 1440;
 // As a part of the banner's width.
 constexpr double FadeWidth = 0.1;
 // Pixels of the picture.
@@ -33,7 +34,9 @@ constexpr ControlDesign Controls[] = {
      .kind = ControlKind::Picture,
      .place = {0, 0, 2235, 2325},
      .text = ProgramInfo::Title},
-    {.name = u"lblPrinters", .place = {1785, 240, 735, 255}, .text = u"Drucker:"},
+    {.name = u"lblPrinters",
+     .place = {1785, 240, 735, 255},
+     .caption = &Row(u"frmPrint", u"label")},
     {.name = u"cboPrinters",
      .kind = ControlKind::ComboBox,
      .place = {2520, 210, 2775, 315},
@@ -41,23 +44,23 @@ constexpr ControlDesign Controls[] = {
     {.name = u"rbQuerformat",
      .kind = ControlKind::OptionButton,
      .place = {2520, 840, 1335, 375},
-     .text = u"&Querformat"},
+     .caption = &Row(u"frmPrint", u"optionlandscape")},
     {.name = u"rbHochformat",
      .kind = ControlKind::OptionButton,
      .place = {3840, 840, 1335, 375},
-     .text = u"&Hochformat"},
+     .caption = &Row(u"frmPrint", u"optionportrait")},
     {.name = u"btnPrint",
      .kind = ControlKind::Button,
      .place = {2520, 1920, 1335, 375},
-     .text = u"&Drucken"},
+     .caption = &Row(u"frmPrint", u"buttonprint")},
     {.name = u"btnCancel",
      .kind = ControlKind::Button,
      .place = {4080, 1920, 1335, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmPrint", u"buttoncancel")},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
-                                       .caption = u"Karte Drucken",
+                                       .caption = &Row(u"frmPrint", u"caption"),
                                        .width = 5475,
                                        .height = 2415,
                                        .defaultButton = {},
@@ -66,8 +69,7 @@ constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
 
 }  // namespace
 
-frmPrint::frmPrint(QWidget* parent, World& world,
-                   Desktop& desktop, Printout printout)
+frmPrint::frmPrint(QWidget* parent, World& world, Desktop& desktop, Printout printout)
     : Dialog(parent, WindowDesign),
       desktop_(desktop),
       printout_(std::move(printout)),
@@ -82,7 +84,8 @@ frmPrint::frmPrint(QWidget* parent, World& world,
   FillPrinters();
   rbQuerformat->setChecked(true);
   IniOps::Snapshot snapshot(world.cache);
-  applyTexts(snapshot, world.language);
+  ApplyTexts(snapshot, world.language);
+  caption_ = world.language.Lookup(snapshot, *Design().caption);
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 
@@ -116,18 +119,6 @@ void frmPrint::FillPrinters() {
   cboPrinters->setCurrentIndex(0);
 }
 
-void frmPrint::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(language.Lookup(files, u"frmPrint", key, english, german));
-  };
-  setWindowTitle(text(u"caption", u"Print", u"Karte Drucken"));
-  lblPrinters->setText(text(u"label", u"Printers", u"Drucker:"));
-  rbQuerformat->setText(text(u"optionlandscape", u"Landscape", u"&Querformat"));
-  rbHochformat->setText(text(u"optionportrait", u"Portrait", u"&Hochformat"));
-  btnPrint->setText(text(u"buttonprint", u"Print", u"&Drucken"));
-  btnCancel->setText(text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
-}
-
 void frmPrint::btnPrint_Click() {
   QPrinter printer;
   if (ChoosePrinter(printer))
@@ -142,7 +133,7 @@ bool frmPrint::ChoosePrinter(QPrinter& printer) {
     return printer.outputFormat() == QPrinter::NativeFormat &&
            printer.printerName() == cboPrinters->currentText();
   }
-  const std::string file = desktop_.AskFileToWrite(FromQt(windowTitle()), PdfName);
+  const std::string file = desktop_.AskPdfToWrite(caption_, PrintName::Of(printout_.heading()));
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QFile::decodeName(QByteArray::fromStdString(file)));
   return !file.empty();
@@ -152,7 +143,8 @@ void frmPrint::PrintOn(QPrinter& printer) const {
   const auto screen = WidgetTwips::ScreenOf(*this);
   // Texts and outlines are printed as such, whatever the resolution: with the screen's, points are
   // as many units as on screen, and what was laid out there fits here too.
-  printer.setResolution(Twips2Pixel_Module::Round(TwipsPerInch / screen.twipsPerPixelX));
+  printer.setResolution(
+      Twips2Pixel_Module::Round(Twips2Pixel_Module::TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape
                                                        : QPageLayout::Portrait);
   // Queues that say nothing about colour would get a grey map.

@@ -14,11 +14,13 @@ class QPrinter;
 class QPushButton;
 class QRadioButton;
 
-/// What is printed, asked when Print is pressed: its size on screen in twips, and the function that
-/// paints it in pixels of the screen, on a painter whose origin is the left upper corner.
+/// What is printed, asked when Print is pressed: its size on screen in twips, the function that
+/// paints it in pixels of the screen, on a painter whose origin is the left upper corner, and its
+/// heading, which may be empty.
 struct Printout {
   std::function<Twips2Pixel_Module::Twips()> size;
   std::function<void(QPainter&)> paint;
+  std::function<Text()> heading = [] { return Text(); };
 };
 
 /// The print window: a printer, an orientation, and one page in the size that the map has on
@@ -28,19 +30,18 @@ class frmPrint : public Dialog {
   Q_OBJECT
 
  public:
-  frmPrint(QWidget* parent, World& world, Desktop& desktop,
-           Printout printout);
+  frmPrint(QWidget* parent, World& world, Desktop& desktop, Printout printout);
 
  private:
   void FillPrinters();
   void ShowBanner();
-  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language);
   void btnPrint_Click();
   [[nodiscard]] bool ChoosePrinter(QPrinter& printer);
   void PrintOn(QPrinter& printer) const;
 
   Desktop& desktop_;
   Printout printout_;
+  Text caption_;
   bool toFile_ = false;
 
   QLabel* imgBanner;

@@ -97,8 +97,7 @@ class WorldObject {
   QJsonObject Words() {
     QJsonObject words;
     for (const TextRow& row : PageTexts::Table)
-      words.insert(ToQt(row.key), ToQt(world_.language.Lookup(files_, row.section, row.key,
-                                                              row.english, row.german)));
+      words.insert(ToQt(row.key), ToQt(world_.language.Lookup(files_, row)));
     return words;
   }
 

@@ -1,11 +1,16 @@
 #include "controls/windows/Dialog.h"
 
+#include "controls/AccessKey.h"
+#include "controls/windows/DialogLayout.h"
+#include "controls/windows/GridListbox.h"
 #include "controls/windows/MakeControl.h"
-#include "controls/windows/TextFit.h"
 #include "controls/windows/WidgetTwips.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QEvent>
+#include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 
 using WidgetTwips::ToPixelsX;
@@ -19,10 +24,6 @@ QRect ToPixels(const QWidget& widget, const TwipsRect& twips) {
           ToPixelsX(screen, twips.width), ToPixelsY(screen, twips.height)};
 }
 
-QString WithoutAccessKey(QString caption) {
-  return caption.remove(u'&');
-}
-
 }  // namespace
 
 Dialog::Dialog(QWidget* parent, const DialogDesign& design)
@@ -31,7 +32,6 @@ Dialog::Dialog(QWidget* parent, const DialogDesign& design)
       design_(design) {
   setModal(true);
   setObjectName(QtText::ToQt(design.name));
-  setWindowTitle(QtText::ToQt(design.caption));
   setFixedSize(ToPixels(*this, {0, 0, design.width, design.height}).size());
   CreateControls();
   SetUpButtons();
@@ -48,13 +48,18 @@ void Dialog::CreateControls() {
   }
 }
 
+void Dialog::EndWithout(TextView control) const {
+  qFatal("%s has no such control: %s", qUtf8Printable(objectName()),
+         qUtf8Printable(QtText::ToQt(control)));
+}
+
 void Dialog::SetUpButtons() {
-  const auto* byEnter = Control<QPushButton>(design_.defaultButton);
-  for (auto* button : findChildren<QPushButton*>()) {
-    // Without a default button, Enter in a list would press the first one that is left so.
-    button->setAutoDefault(!design_.defaultButton.empty());
-    button->setDefault(button == byEnter && !design_.defaultButton.empty());
-  }
+  const bool hasDefault = !design_.defaultButton.empty();
+  // Without a default button, Enter in a list would press the first one that is left so.
+  for (auto* button : findChildren<QPushButton*>())
+    button->setAutoDefault(hasDefault);
+  if (hasDefault)
+    Control<QPushButton>(design_.defaultButton)->setDefault(true);
   if (!design_.cancelButton.empty())
     connect(Control<QPushButton>(design_.cancelButton), &QPushButton::clicked, this,
             &Dialog::reject);
@@ -88,24 +93,59 @@ void Dialog::showEvent(QShowEvent* event) {
 }
 
 void Dialog::FitTexts() {
-  for (const Placed& placed : controls_)
-    placed.control->setGeometry(placed.place);
+  std::vector<DialogLayout::Designed> designed;
   for (const Placed& placed : controls_) {
     QFont font = placed.control->font();
     font.setPointSizeF(placed.design->points);
-    const TextFit::Place fit = TextFit::Fit(*placed.control, placed.place, font);
-    placed.control->setGeometry(fit.rectangle);
+    designed.push_back({placed.control, placed.place, font});
+  }
+  const auto places = DialogLayout::Arrange(designed);
+  for (size_t i = 0; i < places.size(); ++i) {
+    QWidget& control = *controls_[i].control;
+    control.setGeometry(places[i].rectangle);
     // Setting a font asks for the next fitting, which must come to an end.
-    if (placed.control->font().pointSizeF() != fit.font.pointSizeF())
-      placed.control->setFont(fit.font);
+    if (control.font().pointSizeF() != places[i].font.pointSizeF())
+      control.setFont(places[i].font);
   }
   NameControls();
 }
 
+void Dialog::ApplyTexts(IniOps::Snapshot& files, const LOCAL::Language& language) {
+  if (design_.caption)
+    WindowTitle::Set(*this, language.Lookup(files, *design_.caption));
+  for (const Placed& placed : controls_)
+    if (placed.design->caption)
+      SetCaption(placed.design->name, language.Lookup(files, *placed.design->caption));
+}
+
+void Dialog::SetCaption(TextView name, TextView caption) {
+  auto* control = Control<QWidget>(name);
+  if (auto* label = qobject_cast<QLabel*>(control)) {
+    label->setBuddy(NamedBy(name));
+    label->setText(QtText::ToQt(label->buddy() ? Text(caption) : AccessKey::Without(caption)));
+  } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+    button->setText(QtText::ToQt(caption));
+  } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
+    frame->setTitle(QtText::ToQt(caption));
+  } else if (auto* list = qobject_cast<GridListbox*>(control)) {
+    list->SetCaption(caption);
+  }
+}
+
+QWidget* Dialog::NamedBy(TextView label) const {
+  for (const Placed& placed : controls_)
+    if (placed.design->namedBy == label)
+      return placed.control;
+  return nullptr;
+}
+
 void Dialog::NameControls() {
   for (const Placed& placed : controls_) {
-    if (!placed.design->namedBy.empty())
-      placed.control->setAccessibleName(
-          WithoutAccessKey(TextFit::TextOf(*Control<QWidget>(placed.design->namedBy))).trimmed());
+    if (placed.design->namedBy.empty())
+      continue;
+    const auto* label = Control<QLabel>(placed.design->namedBy);
+    const Text text = QtText::FromQt(label->text());
+    placed.control->setAccessibleName(
+        QtText::ToQt(Texts::Trim(label->buddy() ? AccessKey::Without(text) : text)));
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/DialogDesign.h"
+#include "i18n/LOCAL.h"
 #include "platform/windows/QtText.h"
 
 #include <QDialog>
@@ -9,9 +10,7 @@
 
 /// The base of all dialogs: modal, with a client area fixed in twips, made from a design table.
 ///
-/// Texts may be set at any time. A control whose text doesn't fit its designed rectangle grows to
-/// the right, then down, over free space only, and at last takes smaller type; its left and top
-/// edges and every rectangle whose text fits stay as designed.
+/// Texts may be set at any time; what doesn't fit as it was designed is arranged anew.
 class Dialog : public QDialog {
   Q_OBJECT
 
@@ -23,11 +22,22 @@ class Dialog : public QDialog {
   [[nodiscard]] const DialogDesign& Design() const { return design_; }
 
  protected:
-  /// The control of that name in the design; its kind must be that of `Type`.
+  /// The control of that name in the design, which must be there and of the kind of `Type`: the
+  /// program ends with a message if it isn't.
   template <typename Type>
   [[nodiscard]] Type* Control(TextView name) const {
-    return findChild<Type*>(QtText::ToQt(name));
+    auto* const control = findChild<Type*>(QtText::ToQt(name));
+    if (!control)
+      EndWithout(name);
+    return control;
   }
+
+  /// Shows the captions of the design in that language.
+  void ApplyTexts(IniOps::Snapshot& files, const LOCAL::Language& language);
+
+  /// Sets the caption of a label, button, frame or grid list of the design. "&" stands before the
+  /// letter of the access key; a label that names no control has none.
+  void SetCaption(TextView name, TextView caption);
 
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,6 +45,8 @@ class Dialog : public QDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
+  [[noreturn]] void EndWithout(TextView control) const;
+
   struct Placed {
     QWidget* control = nullptr;
     const ControlDesign* design = nullptr;
@@ -45,6 +57,7 @@ class Dialog : public QDialog {
   void SetUpButtons();
   void FitTexts();
   void NameControls();
+  [[nodiscard]] QWidget* NamedBy(TextView label) const;
 
   const DialogDesign& design_;
   std::vector<Placed> controls_;

@@ -7,7 +7,8 @@ GridListView::GridListView(std::function<void(int)> rowReached, QWidget* parent)
     : QTreeWidget(parent), rowReached_(std::move(rowReached)) {}
 
 bool GridListView::TakeKey(int key, Qt::KeyboardModifiers modifiers, int character) {
-  const QString text = character == 0 ? QString() : QString(QChar(character));
+  const QString text =
+      character == 0 ? QString() : QString(QChar(static_cast<char16_t>(character)));
   QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
   keyPressEvent(&event);
   return event.isAccepted();

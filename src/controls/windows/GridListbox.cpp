@@ -23,23 +23,10 @@ constexpr int PictureSize = 16;
 // Twips between the column's right edge and the list's.
 constexpr int ColumnMargin = 100;
 
-constexpr uint32_t SystemWindow = 0x80000005;
-constexpr uint32_t SystemWindowText = 0x80000008;
-constexpr uint32_t SystemButtonFace = 0x8000000F;
 constexpr uint32_t MidGray = 0x808080;
 
 QColor ColorOf(uint32_t number) {
-  const QPalette system;
-  switch (number) {
-    case SystemWindow:
-      return system.color(QPalette::Active, QPalette::Base);
-    case SystemWindowText:
-      return system.color(QPalette::Active, QPalette::Text);
-    case SystemButtonFace:
-      return system.color(QPalette::Active, QPalette::Button);
-    default:
-      return WidgetTwips::Color(static_cast<int>(number));
-  }
+  return WidgetTwips::Color(static_cast<int>(number));
 }
 
 bool BeginsWithWords(const QString& text, const QString& words) {
@@ -50,7 +37,8 @@ bool BeginsWithWords(const QString& text, const QString& words) {
 }  // namespace
 
 GridListbox::GridListbox(QWidget* parent)
-    : QWidget(parent), lvListView(new GridListView([this](int row) { Q_EMIT RowClick(row + 1); })) {
+    : QWidget(parent),
+      lvListView(new GridListView([this](int row) { Q_EMIT RowClick(*Rows(row + 1)); })) {
   lvListView->setParent(this);
   lvListView->setObjectName(QStringLiteral("lvListView"));
   lvListView->setColumnCount(1);
@@ -62,7 +50,7 @@ GridListbox::GridListbox(QWidget* parent)
   lvListView->header()->setStretchLastSection(false);
   setFocusProxy(lvListView);
   ConnectList();
-  ShowCaption();
+  NameList();
 }
 
 void GridListbox::ConnectList() {
@@ -71,13 +59,26 @@ void GridListbox::ConnectList() {
   lvListView->viewport()->setMouseTracking(true);
 }
 
+QPixmap GridListbox::Sized(const QPixmap& picture, double pixelRatio) {
+  constexpr QSize size(PictureSize, PictureSize);
+  if (picture.isNull() ||
+      (picture.deviceIndependentSize() == QSizeF(size) && picture.devicePixelRatio() == pixelRatio))
+    return picture;
+  QPixmap sized =
+      picture.scaled(size * pixelRatio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  sized.setDevicePixelRatio(pixelRatio);
+  return sized;
+}
+
 void GridListbox::AddItem(TextView sText, const QPixmap& spPicture, TextView Tag) {
   auto* item = new QTreeWidgetItem({ToQt(sText)});
   item->setData(0, TagRole, ToQt(Tag));
   if (!spPicture.isNull()) {
-    ImageList.push_back(spPicture);
-    item->setIcon(0, spPicture);
-    item->setData(0, SmallIconRole, static_cast<int>(ImageList.size()));
+    const size_t position = ImageList.size() + 1;
+    const QPixmap picture = Sized(spPicture, devicePixelRatio());
+    ImageList.push_back({FromQt(QStringLiteral("Key %1").arg(position)), picture});
+    item->setIcon(0, picture);
+    item->setData(0, SmallIconRole, static_cast<int>(position));
   }
   const QCollator standsBefore = GermanOrder();
   int at = 0;
@@ -99,16 +100,16 @@ void GridListbox::Refresh() {
   lvListView->viewport()->update();
 }
 
-QPixmap GridListbox::GetImage(std::span<const QPixmap> ilPictures, int iIndex) {
+QPixmap GridListbox::GetImage(std::span<const Picture> ilPictures, int iIndex) {
   const auto position = static_cast<size_t>(iIndex);
-  return iIndex > 0 && position <= ilPictures.size() ? ilPictures[position - 1] : QPixmap();
+  return iIndex > 0 && position <= ilPictures.size() ? ilPictures[position - 1].Pixmap : QPixmap();
 }
 
 std::optional<GridListbox::Row> GridListbox::Rows(int Index) const {
   const QTreeWidgetItem* item = lvListView->topLevelItem(Index - 1);
   if (!item)
     return std::nullopt;
-  return Row{FromQt(item->text(0)), FromQt(item->data(0, TagRole).toString()),
+  return Row{Index, FromQt(item->text(0)), FromQt(item->data(0, TagRole).toString()),
              item->data(0, SmallIconRole).toInt()};
 }
 
@@ -148,14 +149,23 @@ void GridListbox::SetSorted(bool sorted) {
   sorted_ = sorted;
   if (!sorted)
     return;
-  QTreeWidgetItem* current = lvListView->currentItem();
+  QTreeWidgetItem* selected = lvListView->selectedItems().value(0);
   auto items = lvListView->invisibleRootItem()->takeChildren();
   std::stable_sort(items.begin(), items.end(),
                    [standsBefore = GermanOrder()](const auto* a, const auto* b) {
                      return standsBefore(a->text(0), b->text(0));
                    });
   lvListView->addTopLevelItems(items);
-  lvListView->setCurrentItem(current);
+  if (selected)
+    lvListView->setCurrentItem(selected);
+}
+
+QFont GridListbox::Font() const {
+  return lvListView->font();
+}
+
+void GridListbox::SetFont(const QFont& font) {
+  lvListView->setFont(font);
 }
 
 bool GridListbox::Enabled() const {
@@ -179,10 +189,18 @@ void GridListbox::SetNoHeader(bool hidden) {
 
 void GridListbox::SetCaption(TextView caption) {
   caption_ = caption;
-  ShowCaption();
+  NameList();
 }
 
-void GridListbox::ShowCaption() {
+QString GridListbox::ShownCaption() const {
+  return ToQt(caption_);
+}
+
+void GridListbox::ShowCaption(const QString& caption) {
+  SetCaption(FromQt(caption));
+}
+
+void GridListbox::NameList() {
   lvListView->setHeaderLabel(ToQt(caption_));
   // A header that nobody sees is in no language: then the list is what its window is about.
   const QString name = NoHeader() ? window()->windowTitle() : ToQt(caption_);
@@ -225,28 +243,40 @@ bool GridListbox::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool GridListbox::HandleKey(QKeyEvent& event) {
-  int keyCode = event.key();
-  if (event.type() == QEvent::KeyRelease) {
-    Q_EMIT KeyUp(keyCode, EventCodes::Shift(event));
-    return keyCode == 0;
-  }
-  Q_EMIT KeyDown(keyCode, EventCodes::Shift(event));
-  const int typed = event.text().isEmpty() ? 0 : event.text().front().unicode();
-  int keyAscii = typed;
-  if (typed != 0 && keyCode != 0)
+  if (event.type() == QEvent::KeyPress)
+    return HandleKeyDown(event);
+  int16_t keyCode = EventCodes::KeyCode(event.key());
+  int16_t shift = EventCodes::Shift(event);
+  const bool known = keyCode != 0;
+  if (known)
+    Q_EMIT KeyUp(keyCode, shift);
+  return known && keyCode == 0;
+}
+
+bool GridListbox::HandleKeyDown(QKeyEvent& event) {
+  const int16_t pressed = EventCodes::KeyCode(event.key());
+  int16_t keyCode = pressed;
+  int16_t shift = EventCodes::Shift(event);
+  if (pressed != 0)
+    Q_EMIT KeyDown(keyCode, shift);
+  const bool swallowed = pressed != 0 && keyCode == 0;
+  const bool types = !event.text().isEmpty() && event.key() != Qt::Key_Delete;
+  const auto typed = types ? static_cast<int16_t>(event.text().front().unicode()) : int16_t{0};
+  int16_t keyAscii = typed;
+  if (typed != 0 && !swallowed)
     Q_EMIT KeyPress(keyAscii);
-  if (keyCode == event.key() && keyAscii == typed)
+  if (keyCode == pressed && keyAscii == typed)
     return false;
-  if (keyCode != 0 && (typed == 0 || keyAscii != 0))
-    event.setAccepted(lvListView->TakeKey(keyCode, event.modifiers(), keyAscii));
+  const int key = keyCode == pressed ? event.key() : EventCodes::QtKey(keyCode);
+  if (!swallowed && (typed == 0 || keyAscii != 0))
+    event.setAccepted(lvListView->TakeKey(key, event.modifiers(), keyAscii));
   return true;
 }
 
 void GridListbox::HandleMouse(const QMouseEvent& event) {
-  const int button = EventCodes::Button(event);
-  const int shift = EventCodes::Shift(event);
-  const auto x = static_cast<float>(event.position().x());
-  const auto y = static_cast<float>(event.position().y());
+  int16_t button = EventCodes::Button(event);
+  int16_t shift = EventCodes::Shift(event);
+  auto [x, y] = EventCodes::PositionOf(*this, event);
   const bool left = event.button() == Qt::LeftButton;
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -261,10 +291,13 @@ void GridListbox::HandleMouse(const QMouseEvent& event) {
       break;
     default:
       Q_EMIT MouseUp(button, shift, x, y);
-      if (left)
+      if (left && !afterDoubleClick_)
         Q_EMIT Click();
       break;
   }
+  // The release that ends a double click is no click of its own.
+  if (event.type() != QEvent::MouseMove)
+    afterDoubleClick_ = event.type() == QEvent::MouseButtonDblClick;
 }
 
 void GridListbox::resizeEvent(QResizeEvent* event) {
@@ -277,6 +310,6 @@ void GridListbox::resizeEvent(QResizeEvent* event) {
 void GridListbox::showEvent(QShowEvent* event) {
   savedForeColor_ = foreColor_;
   savedBackColor_ = backColor_;
-  ShowCaption();
+  NameList();
   QWidget::showEvent(event);
 }

@@ -17,23 +17,50 @@ class QMouseEvent;
 /// A list of texts, each with a picture of 16 x 16 pixels and a hidden tag where it is given them,
 /// in one column with a header. Rows are counted from 1; what names no row is passed over.
 ///
-/// Colours are red + 256 x green + 65536 x blue, or one of the system colours 0x80000005 (window
+/// Colours are red + 256 x green + 65536 x blue, or one of the system's, such as 0x80000005 (window
 /// background), 0x80000008 (window text) and 0x8000000F (button face).
 class GridListbox : public QWidget {
   Q_OBJECT
+  Q_PROPERTY(QFont Font READ Font WRITE SetFont RESET ResetFont)
+  Q_PROPERTY(uint32_t ForeColor READ ForeColor WRITE SetForeColor RESET ResetForeColor)
+  Q_PROPERTY(uint32_t BackColor READ BackColor WRITE SetBackColor RESET ResetBackColor)
+  Q_PROPERTY(int ListCount READ ListCount STORED false)
+  Q_PROPERTY(int ListIndex READ ListIndex STORED false)
+  Q_PROPERTY(bool Sorted READ Sorted WRITE SetSorted RESET ResetSorted)
+  Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled RESET ResetEnabled)
+  Q_PROPERTY(bool NoHeader READ NoHeader WRITE SetNoHeader RESET ResetNoHeader)
+  Q_PROPERTY(QString Caption READ ShownCaption WRITE ShowCaption RESET ResetCaption)
 
  public:
+  /// The number of the error that a property can't be set while the program runs.
+  static constexpr int SetNotSupportedAtRuntime = 382;
+  static constexpr uint32_t SystemWindow = 0x80000005;
+  static constexpr uint32_t SystemWindowText = 0x80000008;
+  static constexpr uint32_t SystemButtonFace = 0x8000000F;
+  static constexpr const char16_t* DefaultCaption = u"<caption>";
+
   /// A row as the host sees it.
   struct Row {
+    int Index = 0;
     ::Text Text;
     ::Text Tag;
     /// Position of the row's picture among all that were ever added, from 1; 0 without one.
     int SmallIcon = 0;
   };
 
+  /// A picture that was added to a row; its key is "Key", a blank and its position.
+  struct Picture {
+    ::Text Key;
+    QPixmap Pixmap;
+  };
+
   explicit GridListbox(QWidget* parent = nullptr);
 
-  /// Adds a row: at the end, or at its place where rows are sorted.
+  /// The picture as the list shows it on a screen of this many device pixels a pixel.
+  [[nodiscard]] static QPixmap Sized(const QPixmap& picture, double pixelRatio);
+
+  /// Adds a row: at the end, or at its place where rows are sorted. A picture of any size is made
+  /// 16 x 16 pixels, as fine as the screen shows them.
   void AddItem(TextView sText, const QPixmap& spPicture = {}, TextView Tag = {});
 
   /// Removes the row.
@@ -46,10 +73,10 @@ class GridListbox : public QWidget {
   void Refresh();
 
   /// All pictures that were ever added.
-  [[nodiscard]] std::span<const QPixmap> Pictures() const { return ImageList; }
+  [[nodiscard]] std::span<const Picture> Pictures() const { return ImageList; }
 
   /// The picture at this position of a list of them, from 1; a null one if there is none.
-  [[nodiscard]] static QPixmap GetImage(std::span<const QPixmap> ilPictures, int iIndex);
+  [[nodiscard]] static QPixmap GetImage(std::span<const Picture> ilPictures, int iIndex);
 
   /// There is nothing to tell about the control.
   void About() const {}
@@ -58,6 +85,11 @@ class GridListbox : public QWidget {
   [[nodiscard]] std::optional<Row> Rows(int Index) const;
 
   [[nodiscard]] int ListCount() const;
+
+  /// Neither can be set while the program runs: the answer is the number of that error.
+  [[nodiscard]] static int SetListCount(int) { return SetNotSupportedAtRuntime; }
+
+  [[nodiscard]] static int SetListIndex(int) { return SetNotSupportedAtRuntime; }
 
   /// The selected row's number; 0 if none is selected.
   [[nodiscard]] int ListIndex() const;
@@ -80,40 +112,60 @@ class GridListbox : public QWidget {
   /// Keeps rows in the order of the German alphabet without regard to letter case.
   void SetSorted(bool sorted);
 
+  void ResetSorted() { SetSorted(false); }
+
   [[nodiscard]] bool Enabled() const;
 
   /// Greys the list, or gives it back the colours that it had when it was last shown.
   void SetEnabled(bool enabled);
 
+  void ResetEnabled() { SetEnabled(true); }
+
   [[nodiscard]] bool NoHeader() const;
   void SetNoHeader(bool hidden);
+
+  void ResetNoHeader() { SetNoHeader(true); }
 
   [[nodiscard]] const ::Text& Caption() const { return caption_; }
 
   /// The header's text, and the list's name for a screen reader while the header is shown.
   void SetCaption(TextView caption);
 
+  void ResetCaption() { SetCaption(DefaultCaption); }
+
   [[nodiscard]] uint32_t ForeColor() const { return foreColor_; }
 
   void SetForeColor(uint32_t color);
+
+  void ResetForeColor() { SetForeColor(SystemWindowText); }
 
   [[nodiscard]] uint32_t BackColor() const { return backColor_; }
 
   void SetBackColor(uint32_t color);
 
+  void ResetBackColor() { SetBackColor(SystemWindow); }
+
+  /// The font of the rows and the header.
+  [[nodiscard]] QFont Font() const;
+
+  void SetFont(const QFont& font);
+
+  /// The font of what stands around the list.
+  void ResetFont() { SetFont(QFont()); }
+
  Q_SIGNALS:
   /// A row was pressed with any button, or reached by dragging or with the keyboard.
-  void RowClick(int Index);
-  /// A key, as Qt::Key, with 1 for Shift, 2 for Ctrl, 4 for Alt. The list receives the key that
-  /// the host leaves in `KeyCode`, nothing for 0.
-  void KeyDown(int& KeyCode, int Shift);
+  void RowClick(const GridListbox::Row& Item);
+  /// A key with its classic code, and 1 for Shift, 2 for Ctrl, 4 for Alt. The list receives the key
+  /// that the host leaves in `KeyCode`, nothing for 0.
+  void KeyDown(int16_t& KeyCode, int16_t& Shift);
   /// A character was typed; the list receives what the host leaves in `KeyAscii`, nothing for 0.
-  void KeyPress(int& KeyAscii);
-  void KeyUp(int& KeyCode, int Shift);
-  /// Mouse events: buttons 1 left, 2 right, 4 middle; the point is in pixels of the list.
-  void MouseDown(int Button, int Shift, float X, float Y);
-  void MouseMove(int Button, int Shift, float X, float Y);
-  void MouseUp(int Button, int Shift, float X, float Y);
+  void KeyPress(int16_t& KeyAscii);
+  void KeyUp(int16_t& KeyCode, int16_t& Shift);
+  /// Mouse events: buttons 1 left, 2 right, 4 middle; the point is in twips of the list.
+  void MouseDown(int16_t& Button, int16_t& Shift, float& X, float& Y);
+  void MouseMove(int16_t& Button, int16_t& Shift, float& X, float& Y);
+  void MouseUp(int16_t& Button, int16_t& Shift, float& X, float& Y);
   /// The left button clicked the list, whether on a row or not.
   void DblClick();
   void Click();
@@ -126,16 +178,20 @@ class GridListbox : public QWidget {
  private:
   void ConnectList();
   void ApplyColors();
-  void ShowCaption();
+  [[nodiscard]] QString ShownCaption() const;
+  void ShowCaption(const QString& caption);
+  void NameList();
   [[nodiscard]] bool HandleKey(QKeyEvent& event);
+  [[nodiscard]] bool HandleKeyDown(QKeyEvent& event);
   void HandleMouse(const QMouseEvent& event);
 
   GridListView* lvListView;
-  std::vector<QPixmap> ImageList;
-  ::Text caption_ = u"<caption>";
+  std::vector<Picture> ImageList;
+  ::Text caption_ = DefaultCaption;
   bool sorted_ = false;
-  uint32_t foreColor_ = 0x80000008;
-  uint32_t backColor_ = 0x80000005;
+  bool afterDoubleClick_ = false;
+  uint32_t foreColor_ = SystemWindowText;
+  uint32_t backColor_ = SystemWindow;
   uint32_t savedForeColor_ = foreColor_;
   uint32_t savedBackColor_ = backColor_;
 };

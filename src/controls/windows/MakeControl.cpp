@@ -1,12 +1,12 @@
 #include "controls/windows/MakeControl.h"
 
+#include "controls/windows/DialogLabel.h"
 #include "controls/windows/GridListbox.h"
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/QtText.h"
 
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -16,10 +16,7 @@
 namespace {
 
 QWidget* MakeLabel(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
-  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* label = new DialogLabel(parent);
   label->setText(text);
   return label;
 }

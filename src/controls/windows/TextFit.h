@@ -1,31 +1,30 @@
 #pragma once
 
 #include <QFont>
-#include <QRect>
+#include <QSize>
 #include <QString>
 
+class QLabel;
 class QWidget;
 
-/// Whether a control's text fits its rectangle, and how it grows where it doesn't. All lengths
-/// are pixels.
+/// How much room the text of a control takes. All lengths are pixels.
 namespace TextFit {
+
+/// Where a label's text may be broken into lines.
+enum class Breaks { BetweenWords, Anywhere };
 
 /// The text that a label, button or frame shows; empty for other controls.
 [[nodiscard]] QString TextOf(const QWidget& control);
 
 /// The size that the control needs in this font to show its whole text at most `width` wide; only
-/// labels get higher where they are narrower.
+/// labels get higher where they are narrower. Wider than `width` if that can't be done.
+[[nodiscard]] QSize Needed(const QWidget& control, const QFont& font, int width, Breaks breaks);
+
+/// The same for a text that is broken within words only where one alone is wider than `width`, as
+/// labels are painted.
 [[nodiscard]] QSize Needed(const QWidget& control, const QFont& font, int width);
 
-/// Where a control stands, and in which font.
-struct Place {
-  QRect rectangle;
-  QFont font;
-};
-
-/// The place that shows the whole text: `designed` if the text fits there, else it grows right,
-/// then down, as far as no visible neighbour and no edge of the parent is met; where even that is
-/// too little, in smaller type.
-[[nodiscard]] Place Fit(const QWidget& control, const QRect& designed, const QFont& font);
+/// How the painter is told to break and underline the label's text.
+[[nodiscard]] int PaintFlags(const QLabel& label, Breaks breaks);
 
 }  // namespace TextFit

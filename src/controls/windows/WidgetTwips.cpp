@@ -1,13 +1,43 @@
 #include "controls/windows/WidgetTwips.h"
 
+#include <QPalette>
 #include <QWidget>
 
 using Twips2Pixel_Module::Round;
 using Twips2Pixel_Module::Screen;
+using Twips2Pixel_Module::TwipsPerInch;
 
 namespace {
 
-constexpr double TwipsPerInch = 1440;
+// The roles of the system's colours by their numbers.
+QPalette::ColorRole SystemRole(int number) {
+  switch (number) {
+    case 0x05:
+      return QPalette::Base;
+    case 0x08:
+      return QPalette::Text;
+    case 0x0D:
+      return QPalette::Highlight;
+    case 0x0E:
+      return QPalette::HighlightedText;
+    case 0x10:
+      return QPalette::Dark;
+    case 0x11:
+      return QPalette::PlaceholderText;
+    case 0x07:
+    case 0x09:
+    case 0x12:
+      return QPalette::ButtonText;
+    case 0x14:
+      return QPalette::Light;
+    case 0x17:
+      return QPalette::ToolTipText;
+    case 0x18:
+      return QPalette::ToolTipBase;
+    default:
+      return QPalette::Button;
+  }
+}
 
 }  // namespace
 
@@ -41,6 +71,8 @@ QFont Font(double points, bool bold) {
 }
 
 QColor Color(int number) {
+  if (number < 0)
+    return QPalette().color(QPalette::Active, SystemRole(number & 0xFF));
   return {number & 0xFF, (number >> 8) & 0xFF, (number >> 16) & 0xFF};
 }
 

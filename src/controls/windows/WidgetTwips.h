@@ -27,7 +27,8 @@ namespace WidgetTwips {
 /// The program's font in points, fractions allowed.
 [[nodiscard]] QFont Font(double points, bool bold = false);
 
-/// The colour that a number stands for: red + 256 x green + 65536 x blue.
+/// The colour that a number stands for: red + 256 x green + 65536 x blue, or with its top bit set
+/// one of the system's, such as 0x80000005 for the ground of windows.
 [[nodiscard]] QColor Color(int number);
 
 }  // namespace WidgetTwips

@@ -1,22 +1,22 @@
 #include "i18n/windows/frmLang.h"
 
 #include "auxwin/windows/Hyperlink.h"
-#include "controls/windows/GridListbox.h"
+#include "i18n/WindowTexts.h"
 #include "platform/windows/PictureReader.h"
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
-constexpr int FlagSize = 16;
-
-constexpr ControlDesign Bold(TextView name, TwipsRect place, TextView text) {
+constexpr ControlDesign Bold(TextView name, TwipsRect place, const TextRow* caption,
+                             TextView text = {}) {
   return {.name = name,
           .place = place,
+          .caption = caption,
           .text = text,
           .points = 9.75,
           .bold = true,
@@ -31,20 +31,20 @@ constexpr ControlDesign Controls[] = {
     {.name = u"glbLang",
      .kind = ControlKind::GridList,
      .place = {120, 120, 4335, 4575},
-     .text = u"Vorhandene Sprachen",
+     .caption = &Row(u"frmLang", u"availablelangs"),
      .points = 9.75},
     {.name = u"btnSelect",
      .kind = ControlKind::Button,
      .place = {2040, 7200, 1095, 375},
-     .text = u"A&uswählen"},
+     .caption = &Row(u"frmLang", u"buttonselect")},
     {.name = u"btnAbort",
      .kind = ControlKind::Button,
      .place = {3360, 7200, 1095, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmLang", u"buttoncancel")},
     {.name = u"fraMetaData",
      .kind = ControlKind::Frame,
      .place = {120, 4800, 4335, 2295},
-     .text = u"Aktuelle Sprache"},
+     .caption = &Row(u"frmLang", u"currentlang")},
     {.name = u"imgCurrentLang",
      .kind = ControlKind::Picture,
      .place = {120, 360, 240, 240},
@@ -56,20 +56,20 @@ constexpr ControlDesign Controls[] = {
      .points = 12,
      .bold = true,
      .frame = u"fraMetaData"},
-    Bold(u"lblVersionCaption", {120, 840, 960, 240}, u"Version:"),
+    Bold(u"lblVersionCaption", {120, 840, 960, 240}, nullptr, u"Version:"),
     Regular(u"lblVersion", {1200, 840, 0, 240}, u"<version>"),
-    Bold(u"lblAuthorCaption", {120, 1200, 960, 240}, u"Autor:"),
+    Bold(u"lblAuthorCaption", {120, 1200, 960, 240}, &Row(u"frmLang", u"author")),
     Regular(u"lblAuthor", {1200, 1200, 0, 240}, u"<author>"),
-    Bold(u"lblEMailLabel", {120, 1560, 960, 240}, u"eMail:"),
+    Bold(u"lblEMailLabel", {120, 1560, 960, 240}, &Row(u"frmLang", u"email")),
     Regular(u"lblEMail", {1200, 1560, 0, 240}, u"<email>"),
-    Bold(u"lblWebSiteLabel", {120, 1890, 960, 240}, u"WebSite:"),
+    Bold(u"lblWebSiteLabel", {120, 1890, 960, 240}, &Row(u"frmLang", u"website")),
     Regular(u"lblWebSite", {1200, 1890, 0, 240}, u"<url>"),
     {.name = u"imgLangGerman", .kind = ControlKind::Picture, .place = {120, 7200, 240, 240}},
     {.name = u"imgNoFlag", .kind = ControlKind::Picture, .place = {480, 7200, 240, 240}},
 };
 
 constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
-                                         .caption = u"Sprache auswählen",
+                                         .caption = &Row(u"frmLang", u"caption"),
                                          .width = 4590,
                                          .height = 7695,
                                          .defaultButton = u"btnSelect",
@@ -78,37 +78,28 @@ constexpr DialogDesign LanguageDesign = {.name = u"frmLang",
 
 // Null if the file can't be read.
 QPixmap ReadFlag(TextView file) {
-  const QImage flag = PictureReader::Read(file);
-  if (flag.isNull())
-    return {};
-  return QPixmap::fromImage(
-      flag.scaled(FlagSize, FlagSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  return QPixmap::fromImage(PictureReader::Read(file));
 }
 
 }  // namespace
 
 frmLang::frmLang(QWidget* parent, World& world, Launching& launching,
-                 std::span<const MenuCaption> menus)
+                 std::span<const TextRow> menus)
     : Dialog(parent, LanguageDesign),
       paths_(world.paths),
       language_(world.language),
       cache_(world.cache),
       menus_(menus),
       glbLang(Control<GridListbox>(u"glbLang")),
-      fraMetaData(Control<QGroupBox>(u"fraMetaData")),
       imgCurrentLang(Control<QLabel>(u"imgCurrentLang")),
       lblCurrentLang(Control<QLabel>(u"lblCurrentLang")),
       lblVersion(Control<QLabel>(u"lblVersion")),
-      lblAuthorCaption(Control<QLabel>(u"lblAuthorCaption")),
       lblAuthor(Control<QLabel>(u"lblAuthor")),
-      lblEMailLabel(Control<QLabel>(u"lblEMailLabel")),
       lblEMail(Control<QLabel>(u"lblEMail")),
-      lblWebSiteLabel(Control<QLabel>(u"lblWebSiteLabel")),
       lblWebSite(Control<QLabel>(u"lblWebSite")),
       imgLangGerman(Control<QLabel>(u"imgLangGerman")),
       imgNoFlag(Control<QLabel>(u"imgNoFlag")),
-      btnSelect(Control<QPushButton>(u"btnSelect")),
-      btnAbort(Control<QPushButton>(u"btnAbort")) {
+      btnSelect(Control<QPushButton>(u"btnSelect")) {
   Hyperlink::CreateAddressLink(*lblEMail, launching, u"mailto:");
   Hyperlink::CreateAddressLink(*lblWebSite, launching, u"http://");
   imgLangGerman->hide();
@@ -118,16 +109,19 @@ frmLang::frmLang(QWidget* parent, World& world, Launching& launching,
   IniOps::Snapshot snapshot(cache_);
   FillList(snapshot);
   const bool german = language_.IsGerman();
-  ShowDetails(
-      LanguageList::ReadDetails(snapshot, german ? Text(LOCAL::BuiltIn) : language_.LanguageFile()));
-  imgCurrentLang->setPixmap(
-      german
-          ? imgLangGerman->pixmap()
-          : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot(), language_.LanguageFolder(), u".bmp")));
-  applyTexts(snapshot);
+  ShowDetails(LanguageList::ReadDetails(snapshot,
+                                        german ? Text(LOCAL::BuiltIn) : language_.LanguageFile()));
+  ShowFlag(german ? imgLangGerman->pixmap()
+                  : Flag(LOCAL::FileOfLanguage(language_.LanguageRoot(), language_.LanguageFolder(),
+                                               u".bmp")));
+  ApplyTexts(snapshot, language_);
   connect(glbLang, &GridListbox::RowClick, this, &frmLang::glbLang_RowClick);
   connect(glbLang, &GridListbox::DblClick, this, &frmLang::btnSelect_Click);
   connect(btnSelect, &QPushButton::clicked, this, &frmLang::btnSelect_Click);
+}
+
+void frmLang::ShowFlag(const QPixmap& flag) {
+  imgCurrentLang->setPixmap(GridListbox::Sized(flag, devicePixelRatio()));
 }
 
 void frmLang::FillList(IniOps::Snapshot& snapshot) {
@@ -155,28 +149,11 @@ QPixmap frmLang::Flag(TextView file) const {
   return flag.isNull() ? imgNoFlag->pixmap() : flag;
 }
 
-void frmLang::applyTexts(IniOps::Snapshot& snapshot) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return language_.Lookup(snapshot, u"frmLang", key, english, german);
-  };
-  setWindowTitle(ToQt(text(u"caption", u"Choose language", u"Sprache auswählen")));
-  glbLang->SetCaption(text(u"availablelangs", u"Available languages", u"Vorhandene Sprachen"));
-  fraMetaData->setTitle(ToQt(text(u"currentlang", u"Current language", u"Aktuelle Sprache")));
-  lblAuthorCaption->setText(ToQt(text(u"author", u"Author", u"Autor:")));
-  lblEMailLabel->setText(ToQt(text(u"email", u"eMail", u"eMail:")));
-  lblWebSiteLabel->setText(ToQt(text(u"website", u"Website", u"WebSite:")));
-  btnSelect->setText(ToQt(text(u"buttonselect", u"Select", u"A&uswählen")));
-  btnAbort->setText(ToQt(text(u"buttoncancel", u"Cancel", u"&Abbrechen")));
-}
-
-void frmLang::glbLang_RowClick(int Item) {
-  const auto row = glbLang->Rows(Item);
-  if (!row)
-    return;
+void frmLang::glbLang_RowClick(const GridListbox::Row& Item) {
   IniOps::Snapshot snapshot(cache_);
-  ShowDetails(LanguageList::ReadDetails(snapshot, row->Tag));
-  imgCurrentLang->setPixmap(row->Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
-                                                       : Flag(LanguageList::FlagOf(row->Tag)));
+  ShowDetails(LanguageList::ReadDetails(snapshot, Item.Tag));
+  ShowFlag(Item.Tag == LOCAL::BuiltIn ? imgLangGerman->pixmap()
+                                      : Flag(LanguageList::FlagOf(Item.Tag)));
 }
 
 void frmLang::btnSelect_Click() {

@@ -2,15 +2,14 @@
 
 #include "app/World.h"
 #include "controls/windows/Dialog.h"
+#include "controls/windows/GridListbox.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
 
 #include <span>
 
-class GridListbox;
 class Launching;
-class QGroupBox;
 class QLabel;
 class QPixmap;
 class QPushButton;
@@ -22,7 +21,7 @@ class frmLang : public Dialog {
 
  public:
   /// `menus` are the menus of the main window, whose texts go with `LanguageChanged`.
-  frmLang(QWidget* parent, World& world, Launching& launching, std::span<const MenuCaption> menus);
+  frmLang(QWidget* parent, World& world, Launching& launching, std::span<const TextRow> menus);
 
  Q_SIGNALS:
   /// Another language is current and stored in the settings; these are its texts. What the map
@@ -30,30 +29,25 @@ class frmLang : public Dialog {
   void LanguageChanged(const InterfaceTexts& texts);
 
  private:
-  void glbLang_RowClick(int Item);
+  void glbLang_RowClick(const GridListbox::Row& Item);
   void btnSelect_Click();
   void FillList(IniOps::Snapshot& snapshot);
   void ShowDetails(const LanguageList::Details& details);
+  void ShowFlag(const QPixmap& flag);
   [[nodiscard]] QPixmap Flag(TextView file) const;
-  void applyTexts(IniOps::Snapshot& snapshot);
 
   const ProgramPaths& paths_;
   LOCAL::Language& language_;
   IniOps::Cache& cache_;
-  std::span<const MenuCaption> menus_;
+  std::span<const TextRow> menus_;
   GridListbox* glbLang;
-  QGroupBox* fraMetaData;
   QLabel* imgCurrentLang;
   QLabel* lblCurrentLang;
   QLabel* lblVersion;
-  QLabel* lblAuthorCaption;
   QLabel* lblAuthor;
-  QLabel* lblEMailLabel;
   QLabel* lblEMail;
-  QLabel* lblWebSiteLabel;
   QLabel* lblWebSite;
   QLabel* imgLangGerman;
   QLabel* imgNoFlag;
   QPushButton* btnSelect;
-  QPushButton* btnAbort;
 };

@@ -1,7 +1,6 @@
 #include "mapdata/windows/MapView.h"
 
 #include "controls/windows/GermanOrder.h"
-#include "controls/windows/PlainToolTip.h"
 #include "controls/windows/PrintableWidget.h"
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/display/Placement.h"
@@ -116,15 +115,15 @@ void MapView::ConnectControls() {
   connect(slots_, &MarkerSlots::DotDoubleClicked, this, &MapView::DOT_DblClick);
   connect(slots_, &MarkerSlots::LabelMoved, this, &MapView::lblDOT_MouseMove);
   connect(slots_, &MarkerSlots::LabelDoubleClicked, this, &MapView::lblDOT_DblClick);
-  btnInfo->installEventFilter(this);
 }
 
-void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted) {
+void MapView::SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
+                       const Text& spokenPrompt) {
   prompt_ = prompt;
   highlighted_ = highlighted;
   btnInfo->setToolTip(ToQt(infoToolTip));
   btnInfo->setAccessibleName(ToQt(infoToolTip));
-  cboItems->setAccessibleName(ToQt(prompt).remove(u'-').trimmed());
+  cboItems->setAccessibleName(ToQt(spokenPrompt));
 }
 
 int MapView::WindowWidth() const {
@@ -225,6 +224,10 @@ void MapView::ShowHeading(const Text& caption) {
   lblMultiInfo->show();
 }
 
+Text MapView::Heading() const {
+  return lblMultiInfo->isHidden() ? Text() : FromQt(lblMultiInfo->text());
+}
+
 void MapView::PlaceHeading() {
   MoveTwips(*lblMultiInfo, {Placement::HeadingLeft(WidthInTwips(*lblMultiInfo), WindowWidth()), 0});
 }
@@ -272,10 +275,6 @@ void MapView::PlaceCaption(const Text& caption) {
             {Placement::SingleLabelLeft(itemAt_.x, WidthInTwips(*lblCaption), WindowWidth()),
              Placement::LabelTop(itemAt_.y)});
   lblCaption->show();
-}
-
-bool MapView::eventFilter(QObject*, QEvent* event) {
-  return PlainToolTip::Show(*btnInfo, *event);
 }
 
 void MapView::resizeEvent(QResizeEvent* event) {

@@ -30,8 +30,9 @@ class MapView : public QWidget {
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
   /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
-  /// reader says of a highlighted marker.
-  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted);
+  /// reader says of a highlighted marker, `spokenPrompt` what it says of the list.
+  void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
+                const Text& spokenPrompt);
 
   /// Hides and resets everything on the map; the picture stays.
   void ClearUI();
@@ -85,6 +86,9 @@ class MapView : public QWidget {
   /// Shows the text in the top right corner.
   void ShowHeading(const Text& caption);
 
+  /// The text in the top right corner; "" while there is none.
+  [[nodiscard]] Text Heading() const;
+
   /// The way of the keyboard over the markers.
   [[nodiscard]] MapFocus& Focus() { return *focus_; }
 
@@ -108,7 +112,6 @@ class MapView : public QWidget {
   void InfoRequested();
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -1,6 +1,5 @@
 #include "mapdata/windows/NameLabel.h"
 
-#include "controls/windows/PlainToolTip.h"
 #include "controls/windows/WidgetTwips.h"
 
 #include <QMouseEvent>
@@ -34,10 +33,6 @@ void NameLabel::SetTextColor(int color) {
   QPalette colors = palette();
   colors.setColor(QPalette::WindowText, wanted);
   setPalette(colors);
-}
-
-bool NameLabel::event(QEvent* event) {
-  return PlainToolTip::Show(*this, *event) || QLabel::event(event);
 }
 
 void NameLabel::leaveEvent(QEvent* event) {

@@ -22,7 +22,6 @@ class NameLabel : public QLabel {
   void DblClick();
 
  protected:
-  bool event(QEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -1,7 +1,6 @@
 #include "mapdata/windows/ctlLocation.h"
 
 #include "controls/windows/EventCodes.h"
-#include "controls/windows/PlainToolTip.h"
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/display/Placement.h"
 
@@ -42,14 +41,9 @@ void ctlLocation::SetBackColor(int color) {
   update();
 }
 
-bool ctlLocation::event(QEvent* event) {
-  return PlainToolTip::Show(*this, *event) || QWidget::event(event);
-}
-
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
-  Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event),
-                   static_cast<float>(event->position().x()),
-                   static_cast<float>(event->position().y()));
+  const auto position = EventCodes::PositionOf(*this, *event);
+  Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event), position.x, position.y);
 }
 
 void ctlLocation::mouseDoubleClickEvent(QMouseEvent* event) {

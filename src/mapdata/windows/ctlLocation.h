@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /// A marker on the map: a filled circle of 160 x 160 twips with an outline and a tooltip that
-/// names the entity. Colours are red + 256 x green + 65536 x blue.
+/// names the entity. Colours are red + 256 x green + 65536 x blue, or the system's.
 class ctlLocation : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QString Desc READ Desc WRITE SetDesc STORED false)
@@ -35,14 +35,13 @@ class ctlLocation : public QWidget {
   void ResetBackColor() { SetBackColor(Gold); }
 
  Q_SIGNALS:
-  /// The pointer moved over the marker; x and y are pixels from its top left corner. `button` is
+  /// The pointer moved over the marker; x and y are twips from its top left corner. `button` is
   /// the sum of 1 (left), 2 (right) and 4 (middle), `shift` of 1 (Shift), 2 (Ctrl) and 4 (Alt).
   void MouseMove(int button, int shift, float x, float y);
   /// The marker was double-clicked with the left button, or Enter was pressed on it.
   void DblClick();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

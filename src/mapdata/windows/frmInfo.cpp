@@ -1,14 +1,17 @@
 #include "mapdata/windows/frmInfo.h"
 
+#include "i18n/WindowTexts.h"
 #include "mapdata/world/InfoFile.h"
 #include "mapdata/world/Portraits.h"
 #include "platform/windows/PictureReader.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
@@ -33,12 +36,11 @@ constexpr ControlDesign Controls[] = {
     {.name = u"btnClose",
      .kind = ControlKind::Button,
      .place = {2880, 4560, 1335, 375},
-     .text = u"&Schließen"},
+     .caption = &Row(u"frmInfo", u"buttonclose")},
     {.name = u"imgBackup", .kind = ControlKind::Picture, .place = {600, 3720, 495, 495}},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmInfo",
-                                       .caption = u"<name>",
                                        .width = 6780,
                                        .height = 5040,
                                        .defaultButton = u"btnClose",
@@ -70,14 +72,8 @@ frmInfo::frmInfo(QWidget* parent, World& world, const Text& infoEntityName)
   txtInfo->setPlainText(ToQt(InfoFile::WithLineBreaks(description)));
   ShowPortrait(snapshot, world.paths, key);
   lblName->setText(ToQt(infoEntityName));
-  applyTexts(snapshot, language, name);
-}
-
-void frmInfo::applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language,
-                         const Text& name) {
-  setWindowTitle(ToQt(name));
-  btnClose->setText(
-      ToQt(language.Lookup(files, u"frmInfo", u"buttonclose", u"Close", u"&Schließen")));
+  WindowTitle::Set(*this, name);
+  ApplyTexts(snapshot, language);
 }
 
 void frmInfo::ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key) {

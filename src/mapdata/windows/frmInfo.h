@@ -16,7 +16,6 @@ class frmInfo : public Dialog {
   frmInfo(QWidget* parent, World& world, const Text& infoEntityName);
 
  private:
-  void applyTexts(IniOps::Snapshot& files, const LOCAL::Language& language, const Text& name);
   void ShowPortrait(IniOps::Snapshot& files, const ProgramPaths& paths, const Text& key);
 
   QLabel* lblName;

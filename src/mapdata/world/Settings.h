@@ -34,9 +34,9 @@ inline constexpr Entry TranslatorKit = {u"urls", u"tranlatorsdk", Kind::Address,
 inline constexpr Entry GamePatch = {u"urls", u"duskholdpatch", Kind::Address, u""};
 
 /// Every setting there is.
-inline constexpr std::array All = {Language, ExtrasFolder,    PicturesFolder, LanguageRoot,
-                                   NoExtras, NoLang,          LocalizedString, PlayMusic,
-                                   Download, TranslatorKit,   GamePatch};
+inline constexpr std::array All = {Language, ExtrasFolder,  PicturesFolder,  LanguageRoot,
+                                   NoExtras, NoLang,        LocalizedString, PlayMusic,
+                                   Download, TranslatorKit, GamePatch};
 
 /// The setting's value in that settings file.
 [[nodiscard]] Text Read(const ProfileFile& settings, const Entry& entry);

@@ -1,5 +1,8 @@
 #include "perks/windows/frmPerks.h"
 
+#include "i18n/WindowTexts.h"
+#include "platform/windows/WindowTitle.h"
+
 #include <QFile>
 #include <QHeaderView>
 #include <QIcon>
@@ -10,6 +13,7 @@
 
 using QtText::FromQt;
 using QtText::ToQt;
+using WindowTexts::Row;
 
 namespace {
 
@@ -21,15 +25,14 @@ constexpr ControlDesign Controls[] = {
     {.name = u"btnShow",
      .kind = ControlKind::Button,
      .place = {2880, 7680, 1335, 375},
-     .text = u"An&zeigen"},
+     .caption = &Row(u"frmPerks", u"ButtonShow")},
     {.name = u"btnAbort",
      .kind = ControlKind::Button,
      .place = {4440, 7680, 1335, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmPerks", u"ButtonCancel")},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmPerks",
-                                       .caption = u"<perks>",
                                        .width = 5895,
                                        .height = 8145,
                                        .defaultButton = u"btnAbort",
@@ -43,9 +46,7 @@ QIcon PictureOf(int number) {
 }
 
 PerkTree::Lookup LookupIn(IniOps::Snapshot& files, const LOCAL::Language& language) {
-  return [&files, &language](TextView key, TextView english, TextView german) {
-    return language.Lookup(files, u"frmPerks", key, english, german);
-  };
+  return [&files, &language](const TextRow& row) { return language.Lookup(files, row); };
 }
 
 }  // namespace
@@ -64,16 +65,12 @@ frmPerks::frmPerks(QWidget* parent, const Text& perksData, World& world)
   tvPerks->header()->hide();
   tvPerks->setIconSize({PictureSize, PictureSize});
   Fill(PerkTree::Build(snapshot.IniSectionNames(PerksData), region, lookup));
-  applyTexts(region, lookup);
+  const Text caption = PerkTree::WindowCaption(region, lookup);
+  WindowTitle::Set(*this, caption);
+  tvPerks->setAccessibleName(ToQt(caption));
+  ApplyTexts(snapshot, world.language);
   connect(btnShow, &QPushButton::clicked, this, &frmPerks::btnShow_Click);
   connect(tvPerks, &QTreeWidget::itemDoubleClicked, this, &frmPerks::btnShow_Click);
-}
-
-void frmPerks::applyTexts(const PerkTree::Region& region, const PerkTree::Lookup& lookup) {
-  setWindowTitle(ToQt(PerkTree::WindowCaption(region, lookup)));
-  tvPerks->setAccessibleName(windowTitle());
-  btnShow->setText(ToQt(lookup(u"ButtonShow", u"Show", u"An&zeigen")));
-  btnAbort->setText(ToQt(lookup(u"ButtonCancel", u"Abort", u"&Abbrechen")));
 }
 
 void frmPerks::Fill(const std::vector<PerkTree::Node>& nodes) {

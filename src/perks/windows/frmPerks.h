@@ -21,7 +21,6 @@ class frmPerks : public Dialog {
                       const Text& heading);
 
  private:
-  void applyTexts(const PerkTree::Region& region, const PerkTree::Lookup& lookup);
   void Fill(const std::vector<PerkTree::Node>& nodes);
   void btnShow_Click();
 

@@ -2,9 +2,10 @@
 
 #include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
+#include "platform/PageLimits.h"
 #include "platform/PosixFile.h"
-#include "platform/TamePage.h"
 #include "platform/windows/QtText.h"
+#include "platform/windows/WindowTitle.h"
 
 #include <QTextBrowser>
 #include <QUrl>
@@ -51,13 +52,16 @@ PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(paren
   auto* browser = new Browser(this, FolderOf(path));
   const auto page = PosixFile::Read(path, LargestFile);
   // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
-  browser->setHtml(
-      QtText::ToQt(TamePage::Of(NativePath::EntryName(page ? page->bytes : std::string()))));
+  const Text text = NativePath::EntryName(page ? page->bytes : std::string());
+  if (PageLimits::Hold(text))
+    browser->setHtml(QtText::ToQt(text));
+  else
+    browser->setPlainText(QtText::ToQt(text.substr(0, PageLimits::Characters)));
   const QString title = browser->documentTitle();
-  setWindowTitle(title.isEmpty()
-                     ? QtText::ToQt(NativePath::EntryName(path.substr(FolderOf(path).size())))
-                     : title);
-  browser->setAccessibleName(windowTitle());
+  const Text name = NativePath::EntryName(path.substr(FolderOf(path).size()));
+  const Text shown = title.isEmpty() ? name : QtText::FromQt(title);
+  WindowTitle::Set(*this, shown);
+  browser->setAccessibleName(QtText::ToQt(shown));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(browser);

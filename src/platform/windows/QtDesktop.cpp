@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMediaDevices>
 #include <QPrinterInfo>
@@ -20,6 +21,12 @@
 namespace {
 
 constexpr int MostMillisecondsToAsk = 3000;
+
+// Never the current one, which is the program's.
+QString FolderForDocuments() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
 
 bool HasProgram(const char* name) {
   return !QStandardPaths::findExecutable(QLatin1StringView(name)).isEmpty();
@@ -38,6 +45,13 @@ Desktop::Result QtDesktop::Open(const std::string& target) {
 }
 
 bool QtDesktop::HasViewer(const std::string& mimeType) {
+  auto& known = viewers_[mimeType];
+  if (!known)
+    known = AskForViewer(mimeType);
+  return *known;
+}
+
+bool QtDesktop::AskForViewer(const std::string& mimeType) {
   if (!HasProgram("xdg-open"))
     return false;
   // The desktop's opener also takes a browser that no desktop file names.
@@ -98,10 +112,21 @@ std::vector<Text> QtDesktop::Printers() {
   return names;
 }
 
-std::string QtDesktop::AskFileToWrite(TextView caption, TextView suggestedName) {
-  const QString start = QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                            .filePath(QtText::ToQt(suggestedName));
-  return QFile::encodeName(QFileDialog::getSaveFileName(QApplication::activeWindow(),
-                                                        QtText::ToQt(caption), start))
-      .toStdString();
+std::string QtDesktop::AskPdfToWrite(TextView caption, TextView suggestedName) {
+  const QString ending = QStringLiteral(".pdf");
+  QFileDialog dialog(QApplication::activeWindow(), QtText::ToQt(caption), FolderForDocuments(),
+                     QStringLiteral("PDF (*.pdf)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(ending);
+  dialog.selectFile(QtText::ToQt(suggestedName));
+  while (dialog.exec() == QDialog::Accepted) {
+    const QString file = dialog.selectedFiles().value(0);
+    if (file.endsWith(ending, Qt::CaseInsensitive))
+      return QFile::encodeName(file).toStdString();
+    // The dialog has asked whether the other name shall be overwritten.
+    dialog.selectFile(file + ending);
+    if (!QFile::exists(file + ending))
+      return QFile::encodeName(file + ending).toStdString();
+  }
+  return {};
 }

@@ -3,7 +3,9 @@
 #include "platform/Desktop.h"
 #include "platform/PosixFile.h"
 
+#include <map>
 #include <memory>
+#include <optional>
 
 class QSoundEffect;
 
@@ -22,9 +24,13 @@ class QtDesktop : public Desktop {
   void Beep() override;
   [[nodiscard]] Text UserLanguage() override;
   [[nodiscard]] std::vector<Text> Printers() override;
-  [[nodiscard]] std::string AskFileToWrite(TextView caption, TextView suggestedName) override;
+  [[nodiscard]] std::string AskPdfToWrite(TextView caption, TextView suggestedName) override;
 
  private:
+  [[nodiscard]] static bool AskForViewer(const std::string& mimeType);
+
+  // The answers so far: to ask can take seconds.
+  std::map<std::string, std::optional<bool>> viewers_;
   // Open while it is played: the sound library takes it by an alias.
   std::unique_ptr<PosixFile::OpenFile> soundFile_;
   std::unique_ptr<QSoundEffect> sound_;

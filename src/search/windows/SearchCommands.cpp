@@ -6,7 +6,7 @@
 #include "search/windows/frmFind.h"
 
 SearchCommands::SearchCommands(MapView& map, World& world, Search::State& state)
-    : QObject(&map), map_(map), world_(world), state_(state) {}
+    : map_(map), world_(world), state_(state) {}
 
 void SearchCommands::miFind_Click() {
   frmFind dialog(map_.window(), world_, state_);

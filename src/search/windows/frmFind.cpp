@@ -1,5 +1,7 @@
 #include "search/windows/frmFind.h"
 
+#include "i18n/WindowTexts.h"
+
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,43 +11,42 @@
 using QtText::FromQt;
 using QtText::ToQt;
 using Search::Mode;
+using WindowTexts::Row;
 
 namespace {
-
-constexpr TextView Section = u"frmFind";
 
 constexpr ControlDesign Controls[] = {
     {.name = u"txtFind",
      .kind = ControlKind::TextField,
      .place = {1320, 240, 4575, 330},
      .namedBy = u"lblFind"},
-    {.name = u"lblFind", .place = {120, 308, 1005, 195}, .text = u"Suchen nach:"},
+    {.name = u"lblFind", .place = {120, 308, 1005, 195}, .caption = &Row(u"frmFind", u"searchfor")},
     {.name = u"fraOptions",
      .kind = ControlKind::Frame,
      .place = {120, 700, 4095, 1095},
-     .text = u"Optionen"},
+     .caption = &Row(u"frmFind", u"options")},
     {.name = u"rbNamesOnly",
      .kind = ControlKind::OptionButton,
      .place = {120, 360, 2175, 255},
-     .text = u"Suche in den &Namen",
+     .caption = &Row(u"frmFind", u"searchinnames"),
      .frame = u"fraOptions"},
     {.name = u"rbDescsOnly",
      .kind = ControlKind::OptionButton,
      .place = {120, 720, 2535, 255},
-     .text = u"Suche in den &Beschreibungen",
+     .caption = &Row(u"frmFind", u"searchindescriptions"),
      .frame = u"fraOptions"},
     {.name = u"btnFind",
      .kind = ControlKind::Button,
      .place = {4560, 810, 1335, 375},
-     .text = u"&Suchen"},
+     .caption = &Row(u"frmFind", u"buttonfind")},
     {.name = u"btnAbort",
      .kind = ControlKind::Button,
      .place = {4560, 1440, 1335, 375},
-     .text = u"&Abbrechen"},
+     .caption = &Row(u"frmFind", u"buttoncancel")},
 };
 
 constexpr DialogDesign WindowDesign = {.name = u"frmFind",
-                                       .caption = u"Suchen",
+                                       .caption = &Row(u"frmFind", u"caption"),
                                        .width = 6030,
                                        .height = 1935,
                                        .defaultButton = u"btnFind",
@@ -73,7 +74,7 @@ frmFind::frmFind(QWidget* parent, World& world, Search::State& state)
           [this](bool chosen) { ChooseMode(Mode::Descriptions, chosen); });
   connect(btnFind, &QPushButton::clicked, this, &frmFind::btnFind_Click);
   IniOps::Snapshot snapshot(world.cache);
-  applyTexts(snapshot);
+  ApplyTexts(snapshot, world.language);
 }
 
 void frmFind::LoadState() {
@@ -82,20 +83,6 @@ void frmFind::LoadState() {
   txtFind->setFocus();
   txtFind_Change();
   (state_.SearchMode == Mode::Names ? rbNamesOnly : rbDescsOnly)->setChecked(true);
-}
-
-void frmFind::applyTexts(IniOps::Snapshot& files) {
-  const auto text = [&](TextView key, TextView english, TextView german) {
-    return ToQt(world_.language.Lookup(files, Section, key, english, german));
-  };
-  setWindowTitle(text(u"caption", u"Find", WindowDesign.caption));
-  lblFind->setText(text(u"searchfor", u"Search for:", u"Suchen nach:"));
-  fraOptions->setTitle(text(u"options", u"Options", u"Optionen"));
-  rbNamesOnly->setText(text(u"searchinnames", u"Search in names", u"Suche in den &Namen"));
-  rbDescsOnly->setText(
-      text(u"searchindescriptions", u"Search in descriptions", u"Suche in den &Beschreibungen"));
-  btnFind->setText(text(u"buttonfind", u"Find", u"&Suchen"));
-  btnAbort->setText(text(u"buttoncancel", u"Cancel", u"&Abbrechen"));
 }
 
 void frmFind::txtFind_Change() {

@@ -28,7 +28,6 @@ class frmFind : public Dialog {
   void SearchStarted();
 
  private:
-  void applyTexts(IniOps::Snapshot& files);
   void LoadState();
   void txtFind_Change();
   void ChooseMode(Search::Mode mode, bool chosen);

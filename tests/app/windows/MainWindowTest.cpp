@@ -65,7 +65,8 @@ class MainWindow : public testing::Test {
 
   bool Start() {
     program_.reset();
-    context_.emplace(folder_.Folder(), desktop_);
+    world_.emplace(folder_.Folder());
+    context_.emplace(*world_, desktop_);
     program_.emplace(*context_);
     return program_->Start();
   }
@@ -138,6 +139,7 @@ class MainWindow : public testing::Test {
 
   TemporaryFolder folder_;
   RecordingDesktop desktop_;
+  std::optional<World> world_;
   std::optional<Context> context_;
   std::optional<Program> program_;
 };

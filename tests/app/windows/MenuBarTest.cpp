@@ -73,7 +73,7 @@ TEST(MenuBar, HeadingFollowsTheCaptionsShown) {
   });
   EXPECT_EQ(bar.Heading(teachers), u"&Skaldor: &Lehrer");
   std::vector<Text> english;
-  for (const MenuCaption& caption : MenuTable::Captions())
+  for (const TextRow& caption : MenuTable::Captions())
     english.emplace_back(caption.english);
   bar.SetCaptions(english);
   EXPECT_EQ(bar.Heading(teachers), u"Skaldor: Teachers");
@@ -89,7 +89,7 @@ TEST(MenuBar, ASwitchThroughTheWorldsLanguagesLeavesNothingBehind) {
   const auto rows = MenuTable::Captions();
   IniOps::Cache cache;
   IniOps::Snapshot files(cache);
-  LOCAL::Language language({});
+  LOCAL::Language language(ProgramPaths{});
   MenuBar bar;
   for (const TextView name : {u"English", u"Français", u"Deutsch"}) {
     const bool german = name == LOCAL::German;

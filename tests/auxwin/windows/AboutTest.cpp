@@ -14,8 +14,8 @@ class About : public WindowFixture {
  protected:
   About() { folder.Write("orvalis.wav", "music"); }
 
-  std::unique_ptr<frmAbout> Open(const Text& edition = {}) {
-    return std::make_unique<frmAbout>(nullptr, paths, language, files, desktop, launching, edition);
+  std::unique_ptr<frmAbout> Open() {
+    return std::make_unique<frmAbout>(nullptr, world, desktop, launching);
   }
 
   static QLabel& Label(const frmAbout& window, const char* name) {
@@ -76,17 +76,19 @@ TEST_F(About, MusicThatIsMissingOrBrokenRingsTheBellOnce) {
 }
 
 TEST_F(About, NamesProgramVersionAndEdition) {
-  const auto german = Open();
-  EXPECT_EQ(german->windowTitle(), QStringLiteral("Über Orvalis "));
-  EXPECT_EQ(Label(*german, "lblVersion").text(), Version() + u' ');
-  EXPECT_EQ(Label(*german, "lblTitle").text(), QStringLiteral("Orvalis"));
-  const auto reduced = Open(u"Web Edition");
-  EXPECT_EQ(reduced->windowTitle(), QStringLiteral("Über Orvalis Web Edition"));
-  UseEnglish(EnglishTexts);
-  const auto english = Open(u"Web Edition");
-  EXPECT_EQ(english->windowTitle(), QStringLiteral("About Orvalis"));
-  EXPECT_EQ(Label(*english, "lblVersion").text(), Version() + QStringLiteral(" Web Edition"));
-  EXPECT_EQ(Label(*english, "lblSources").text(), QStringLiteral("Travellers & books"));
+  const auto whole = Open();
+  EXPECT_EQ(whole->windowTitle(), QStringLiteral("Über Orvalis "));
+  EXPECT_EQ(Label(*whole, "lblVersion").text(), Version() + u' ');
+  EXPECT_EQ(Label(*whole, "lblTitle").text(), QStringLiteral("Orvalis"));
+  folder.Write("orvalis.ini", "[special]\r\nNoExtras=yes\r\n");
+  World reduced(folder.Folder());
+  const frmAbout german(nullptr, reduced, desktop, launching);
+  EXPECT_EQ(german.windowTitle(), QStringLiteral("Über Orvalis Lite"));
+  SpeakEnglish(folder, reduced.language, EnglishTexts);
+  const frmAbout english(nullptr, reduced, desktop, launching);
+  EXPECT_EQ(english.windowTitle(), QStringLiteral("About Orvalis"));
+  EXPECT_EQ(Label(english, "lblVersion").text(), Version() + QStringLiteral(" Lite"));
+  EXPECT_EQ(Label(english, "lblSources").text(), QStringLiteral("Travellers & books"));
 }
 
 TEST_F(About, MissingTranslationsAreEmptyTexts) {
@@ -117,7 +119,7 @@ TEST_F(About, EnterClosesItAtOnce) {
 }
 
 TEST_F(About, KeepsWhatEveryDialogPromises) {
-  CheckDialog(*Open(u"Web Edition"));
-  UseEnglish(EnglishTexts);
   CheckDialog(*Open());
+  UseEnglish(EnglishTexts);
+  CheckTexts(*Open());
 }

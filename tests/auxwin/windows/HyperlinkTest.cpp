@@ -65,6 +65,23 @@ TEST(Hyperlink, OpensByClickEnterAndSpace) {
   EXPECT_EQ(window.opened, 3);
 }
 
+TEST(Hyperlink, ADoubleClickOpensOnce) {
+  LinkWindow window;
+  QTest::mouseClick(&window.label, Qt::LeftButton);
+  QTest::mouseDClick(&window.label, Qt::LeftButton);
+  QTest::mouseRelease(&window.label, Qt::LeftButton);
+  EXPECT_EQ(window.opened, 1);
+}
+
+TEST(Hyperlink, WithoutTextIsNoTabStop) {
+  LinkWindow window;
+  EXPECT_EQ(window.label.focusPolicy(), Qt::TabFocus);
+  window.label.clear();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.label.focusPolicy() == Qt::NoFocus; }));
+  window.label.setText(QStringLiteral("a@b.example"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.label.focusPolicy() == Qt::TabFocus; }));
+}
+
 TEST(Hyperlink, CanBeReadOnLightAndDarkGround) {
   const QPalette before = QApplication::palette();
   for (const QColor& ground : {QColor(Qt::white), QColor(239, 239, 239), QColor(53, 53, 53)}) {

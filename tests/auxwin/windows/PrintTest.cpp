@@ -26,7 +26,8 @@ class Print : public WindowFixture {
                                                [this, size](QPainter& painter) {
                                                  ++painted;
                                                  PaintMap(painter, size);
-                                               }});
+                                               },
+                                               [] { return Text(u" Arvenna: Lehrer "); }});
   }
 
   // Blue all over, a red square in each corner.
@@ -154,7 +155,7 @@ TEST_F(Print, NothingIsPrintedWithoutFileOrPrinter) {
   window->show();
   Press(*window, "btnPrint");
   EXPECT_FALSE(window->isVisible());
-  ExpectCalls({"ask"});
+  ExpectCalls({"ask Arvenna - Lehrer.pdf"});
   desktop.fileToWrite = folder.Native("no/such/folder/map.pdf");
   Press(*Open(), "btnPrint");
   desktop.printers = {u"Gone since"};
@@ -186,5 +187,5 @@ TEST_F(Print, KeepsWhatEveryDialogPromises) {
   UseEnglish(
       u"[frmPrint]\r\ncaption=Imprimer\r\nlabel=Imprimantes\r\noptionlandscape=Pa&ysage\r\n"
       u"buttonprint=&Imprimer la carte\r\nbuttoncancel=&Annuler\r\n");
-  CheckDialog(*Open());
+  CheckTexts(*Open());
 }

@@ -36,7 +36,6 @@ constexpr ControlDesign Controls[] = {
 };
 
 constexpr DialogDesign Design = {.name = u"frmSample",
-                                 .caption = u"Beispiel",
                                  .width = 4335,
                                  .height = 3500,
                                  .defaultButton = u"btnSelect",
@@ -44,7 +43,6 @@ constexpr DialogDesign Design = {.name = u"frmSample",
                                  .controls = Controls};
 
 constexpr DialogDesign WithoutDefault = {.name = u"frmSample",
-                                         .caption = u"Beispiel",
                                          .width = 4335,
                                          .height = 3500,
                                          .defaultButton = {},
@@ -60,6 +58,13 @@ QString Words(int count) {
   return QStringLiteral("Wegweiser ").repeated(count).trimmed();
 }
 
+// A dialog whose captions a test sets.
+class Captioned : public Dialog {
+ public:
+  using Dialog::Dialog;
+  using Dialog::SetCaption;
+};
+
 bool Fits(const QWidget& control) {
   const QSize needed = TextFit::Needed(control, control.font(), control.width());
   return needed.width() <= control.width() && needed.height() <= control.height();
@@ -69,6 +74,7 @@ bool Fits(const QWidget& control) {
 
 TEST(Dialog, PassesItsOwnChecks) {
   Dialog dialog(nullptr, Design);
+  dialog.setWindowTitle(QStringLiteral("Beispiel"));
   EXPECT_TRUE(dialog.isModal());
   EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMinMaxButtonsHint);
   CheckDialog(dialog);
@@ -100,13 +106,97 @@ TEST(Dialog, ALongTextGrowsRightThenDownOverFreeSpaceOnly) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return label->geometry() == designed; }));
 }
 
-TEST(Dialog, WhereNoSpaceIsLeftTheTypeGetsSmaller) {
+TEST(Dialog, ALabelThatNamesAControlHasItsAccessKeyOthersHaveNone) {
+  Captioned dialog(nullptr, Design);
+  dialog.SetCaption(u"lblTop", u"&Notiz && mehr");
+  dialog.SetCaption(u"lblBeside", u"&Daneben && mehr");
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  const auto* named = Find<QLabel>(dialog, "lblTop");
+  EXPECT_EQ(named->buddy(), Find<QPlainTextEdit>(dialog, "txtNote"));
+  EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtNote")->accessibleName(),
+            QStringLiteral("Notiz & mehr"));
+  EXPECT_EQ(Find<QLabel>(dialog, "lblBeside")->text(), QStringLiteral("Daneben & mehr"));
+  Find<QPushButton>(dialog, "btnSelect")->setFocus();
+  QTest::keyClick(&dialog, Qt::Key_N, Qt::AltModifier);
+  EXPECT_TRUE(named->buddy()->hasFocus());
+}
+
+TEST(Dialog, ValuesKeepTheirSigns) {
+  Dialog dialog(nullptr, Design);
+  Find<QLabel>(dialog, "lblTop")->setText(QStringLiteral("A & B && C"));
+  dialog.show();
+  EXPECT_EQ(Find<QLabel>(dialog, "lblTop")->text(), QStringLiteral("A & B && C"));
+  EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtNote")->accessibleName(),
+            QStringLiteral("A & B && C"));
+}
+
+TEST(Dialog, ARowOfButtonsTakesItsFreeSpaceBeforeTheTypeGetsSmaller) {
   Dialog dialog(nullptr, Design);
   dialog.show();
-  auto* button = Find<QPushButton>(dialog, "btnSelect");
-  button->setText(QStringLiteral("Ausgewähltes zeigen"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*button); }));
-  EXPECT_LT(button->geometry().right(), Find<QPushButton>(dialog, "btnAbort")->x());
+  auto* select = Find<QPushButton>(dialog, "btnSelect");
+  auto* abort = Find<QPushButton>(dialog, "btnAbort");
+  const QRect designed = abort->geometry();
+  const double points = select->font().pointSizeF();
+  select->setText(QStringLiteral("Choose this language now"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*select); }));
+  EXPECT_DOUBLE_EQ(select->font().pointSizeF(), points);
+  EXPECT_LT(select->geometry().right(), abort->x());
+  EXPECT_EQ(abort->geometry(), designed);
+  abort->setText(QStringLiteral("Leave everything as it was before"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*abort) && Fits(*select); }));
+  EXPECT_LT(select->geometry().right(), abort->x());
+  EXPECT_EQ(select->font(), abort->font());
+}
+
+TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
+  static constexpr ControlDesign controls[] = {
+      {.name = u"lblName", .place = {120, 120, 600, 240}},
+      {.name = u"txtName",
+       .kind = ControlKind::TextField,
+       .place = {800, 120, 2000, 240},
+       .namedBy = u"lblName"},
+      {.name = u"lblPlace", .place = {120, 400, 600, 240}},
+      {.name = u"lblValue", .place = {800, 400, 0, 240}},
+      {.name = u"lblBelow", .place = {120, 700, 600, 240}},
+  };
+  static constexpr DialogDesign design = {
+      .name = u"frmColumn", .width = 4000, .height = 1500, .controls = controls};
+  Captioned dialog(nullptr, design);
+  dialog.SetCaption(u"lblName", u"Name:");
+  dialog.SetCaption(u"lblPlace", u"Wohnort:");
+  Find<QLabel>(dialog, "lblValue")->setText(QStringLiteral("Tir Anath"));
+  dialog.show();
+  auto* field = Find<QWidget>(dialog, "txtName");
+  auto* value = Find<QLabel>(dialog, "lblValue");
+  const QPoint fieldAt = field->pos();
+  const QPoint valueAt = value->pos();
+  dialog.SetCaption(u"lblPlace", u"Heimatlicher Wohnort:");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return value->x() > valueAt.x(); }));
+  EXPECT_EQ(field->x() - fieldAt.x(), value->x() - valueAt.x()) << "one column";
+  EXPECT_EQ(value->y(), valueAt.y());
+  EXPECT_DOUBLE_EQ(Find<QLabel>(dialog, "lblPlace")->font().pointSizeF(), 8.25);
+  CheckTexts(dialog);
+  dialog.SetCaption(u"lblPlace", u"Ein Wohnort, für den auch der Rest des Fensters nicht reicht:");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*Find<QLabel>(dialog, "lblPlace")); }));
+  EXPECT_EQ(Find<QLabel>(dialog, "lblName")->font(), Find<QLabel>(dialog, "lblPlace")->font());
+  CheckTexts(dialog);
+}
+
+TEST(Dialog, AWordThatFitsNoLineIsBroken) {
+  static constexpr ControlDesign controls[] = {
+      {.name = u"lblMail", .place = {120, 120, 0, 240}},
+      {.name = u"lblSite", .place = {120, 480, 0, 240}},
+  };
+  static constexpr DialogDesign design = {
+      .name = u"frmWords", .width = 2500, .height = 900, .controls = controls};
+  Dialog dialog(nullptr, design);
+  Find<QLabel>(dialog, "lblMail")
+      ->setText(QStringLiteral("a.very.long.name.of.somebody@%1.example")
+                    .arg(QStringLiteral("hosting").repeated(2)));
+  Find<QLabel>(dialog, "lblSite")->setText(QStringLiteral("www.a.example"));
+  CheckTexts(dialog);
+  EXPECT_GT(Find<QLabel>(dialog, "lblSite")->width(), 0);
 }
 
 TEST(Dialog, GrowsInsideFramesToo) {

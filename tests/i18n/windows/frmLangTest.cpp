@@ -5,7 +5,6 @@
 #include "platform/ProgramInfo.h"
 #include "support/DialogCheck.h"
 #include "support/RecordingDesktop.h"
-#include "support/StartedLanguage.h"
 #include "support/TemporaryFolder.h"
 
 #include <QGroupBox>
@@ -16,28 +15,21 @@
 
 #include <gtest/gtest.h>
 
-using IniOps::Snapshot;
-
 namespace {
 
-constexpr MenuCaption Menus[] = {{u"mnuFile", u"File", u"&Datei"},
-                                 {u"miQuit", u"&Quit", u"&Beenden"}};
+constexpr TextRow Menus[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
+                             {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
 // A program folder with languages, and a start with one of them.
 class Session {
  public:
+  RecordingDesktop desktop;
+
   Session(const TemporaryFolder& folder, TextView name)
-      : paths_{folder.Path(u""),
-               folder.Path(u"orvalis.ini"),
-               {},
-               {},
-               folder.Path(u"LANG/"),
-               {},
-               {}},
-        start_(files_),
-        language(start_, paths_.languageRoot, Text(name)),
-        launching_(paths_, desktop),
-        dialog(nullptr, paths_, language, files_, launching_, Menus) {
+      : world_(folder.Folder()),
+        launching_(world_.paths, desktop),
+        language(Started(world_, Text(name))),
+        dialog(nullptr, world_, launching_, Menus) {
     QObject::connect(&dialog, &frmLang::LanguageChanged,
                      [this, &folder](const InterfaceTexts& texts) {
                        menus = texts.menus;
@@ -73,18 +65,19 @@ class Session {
   }
 
  private:
-  IniOps::Cache files_;
-  ProgramPaths paths_;
-  Snapshot start_;
+  // As the start of the program chooses it.
+  static const LOCAL::Language& Started(World& world, const Text& name) {
+    IniOps::Snapshot files(world.cache);
+    world.language.Start(files, name);
+    world.language.CacheTranslationTable(files);
+    return world.language;
+  }
 
- public:
-  StartedLanguage language;
-  RecordingDesktop desktop;
-
- private:
+  World world_;
   Launching launching_;
 
  public:
+  const LOCAL::Language& language;
   frmLang dialog;
   std::vector<Text> menus;
   std::string settingsAtChange;
@@ -149,7 +142,7 @@ TEST(frmLang, AClickShowsDetailsAndChangesNothing) {
   Session session(folder, u"Deutsch");
   EXPECT_EQ(session.LabelText("lblVersion"), QtText::ToQt(ProgramInfo::Version).toStdString());
   EXPECT_EQ(session.LabelText("lblAuthor"), QtText::ToQt(ProgramInfo::Author).toStdString());
-  Q_EMIT session.List().RowClick(2);
+  Q_EMIT session.List().RowClick(*session.List().Rows(2));
   EXPECT_EQ(session.LabelText("lblCurrentLang"), "English");
   EXPECT_EQ(session.LabelText("lblVersion"), "2");
   EXPECT_EQ(session.LabelText("lblAuthor"), "A. Writer");
@@ -261,8 +254,8 @@ TEST(frmLang, FlagsThatCantBeReadAreNoFlags) {
     return !flag.isNull() && flag.pixelColor(8, 8) == QColor(Qt::red);
   };
   EXPECT_FALSE(shown());
-  Q_EMIT session.List().RowClick(2);
+  Q_EMIT session.List().RowClick(*session.List().Rows(2));
   EXPECT_TRUE(shown());
-  Q_EMIT session.List().RowClick(3);
+  Q_EMIT session.List().RowClick(*session.List().Rows(3));
   EXPECT_FALSE(shown());
 }

@@ -28,12 +28,7 @@ std::string Picture(const QSize& size) {
 
 class InfoWindow : public testing::Test {
  protected:
-  InfoWindow() : language(folder.Path(u"info.data")) {
-    paths.programFolder = folder.Path(u"");
-    paths.picturesFolder = folder.Path(u"PICS/");
-    language.CurrentLanguage() = LOCAL::German;
-    language.LanguageFolder() = LOCAL::German;
-    language.LanguageRoot() = folder.Path(u"LANG/");
+  InfoWindow() {
     Write("info.data",
           u"[info]\r\nHändler Mara=Eine Händlerin.\\n\\nSie <b>feilscht</b> & lacht.\r\n"
           u"Mara=# Händler Mara \r\nRing=#Kreis\r\nKreis=#Ring\r\n");
@@ -50,38 +45,35 @@ class InfoWindow : public testing::Test {
   }
 
   void UseEnglish() {
-    SpeakEnglish(folder, language,
-                 u"[general]\r\nlanguage=English\r\n[entities]\r\nHändler=Merchant\r\n"
-                 u"[frmInfo]\r\nbuttonclose=&Done\r\n");
-    IniOps::Snapshot snapshot(files);
-    language.CacheTranslationTable(snapshot);
+    SpeakEnglish(folder, world.language,
+                 u"[entities]\r\nHändler=Merchant\r\n[frmInfo]\r\nbuttonclose=&Done\r\n");
+    IniOps::Snapshot files(world.cache);
+    world.language.CacheTranslationTable(files);
   }
 
   [[nodiscard]] QString Description(const Text& name) {
-    const frmInfo window(nullptr, paths, language, files, name);
+    const frmInfo window(nullptr, world, name);
     return window.findChild<QPlainTextEdit*>(QStringLiteral("txtInfo"))->toPlainText();
   }
 
   [[nodiscard]] QSize Portrait(const Text& name) {
-    const frmInfo window(nullptr, paths, language, files, name);
+    const frmInfo window(nullptr, world, name);
     return window.findChild<QLabel*>(QStringLiteral("picPortrait"))->pixmap().size();
   }
 
   [[nodiscard]] QSize Fallback() {
-    const frmInfo window(nullptr, paths, language, files, u"x");
+    const frmInfo window(nullptr, world, u"x");
     return window.findChild<QLabel*>(QStringLiteral("imgBackup"))->pixmap().size();
   }
 
   TemporaryFolder folder;
-  ProgramPaths paths;
-  LOCAL::Language language;
-  IniOps::Cache files;
+  World world{folder.Folder()};
 };
 
 }  // namespace
 
 TEST_F(InfoWindow, ShowsNameDescriptionAndLineBreaks) {
-  frmInfo window(nullptr, paths, language, files, u" Händler Mara ");
+  frmInfo window(nullptr, world, u" Händler Mara ");
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Händler Mara"));
   EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("lblName"))->text(),
             QStringLiteral(" Händler Mara "));
@@ -107,7 +99,7 @@ TEST_F(InfoWindow, PortraitsKeepTheirSizeAndTheirBox) {
   EXPECT_EQ(Portrait(u"Oben"), QSize(7, 7));
   for (const TextView name : {u"Fehlt", u"Ordner", u"Niemand"})
     EXPECT_EQ(Portrait(Text(name)), Fallback()) << ToQt(name).toStdString();
-  frmInfo window(nullptr, paths, language, files, u"Riese");
+  frmInfo window(nullptr, world, u"Riese");
   window.show();
   const auto* box = window.findChild<QLabel*>(QStringLiteral("picPortrait"));
   EXPECT_EQ(box->pixmap().size(), QSize(600, 700));
@@ -124,7 +116,7 @@ TEST_F(InfoWindow, ReadsTheLanguagesOwnFileUnderTheGermanKey) {
   EXPECT_EQ(Description(u"Merchant Mara"), QStringLiteral("A merchant."));
   EXPECT_EQ(Description(u"Mara"), QStringLiteral("A merchant."));
   EXPECT_EQ(Description(u"Ring"), QString());
-  const frmInfo window(nullptr, paths, language, files, u"Merchant Mara");
+  const frmInfo window(nullptr, world, u"Merchant Mara");
   EXPECT_EQ(window.findChild<QPushButton*>(QStringLiteral("btnClose"))->text(),
             QStringLiteral("&Done"));
 }
@@ -133,7 +125,7 @@ TEST_F(InfoWindow, KeepsWhatEveryDialogPromises) {
   Write("info.data", u"[info]\r\nRiese=" + Text(2000, u'a') + u"\r\n");
   for (const Text& name : {Text(u"Händler Mara"), Text(u"Riese"),
                            Text(u"Der sehr ehrenwerte Hofmeister und Schatzmeister von Arvenna")}) {
-    frmInfo window(nullptr, paths, language, files, name);
+    frmInfo window(nullptr, world, name);
     CheckDialog(window);
   }
 }

@@ -30,7 +30,7 @@ class MapFocusTest : public testing::Test {
     folder.Write("a.data",
                  "[t]\r\nWolf=200,300,*\r\n;Beta=300,300\r\nAmsel=400,300\r\nGrab=400,500\r\n");
     folder.Write("info.data", "[info]\r\nwolf=Heult.\r\n");
-    view.SetTexts(u"  -- Bitte --", u"Tip", u"hervorgehoben");
+    view.SetTexts(u"  -- Bitte --", u"Tip", u"hervorgehoben", u"Bitte");
     view.resize(1000, 700);
     view.show();
     QApplication::setActiveWindow(&view);

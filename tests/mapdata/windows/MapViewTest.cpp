@@ -37,7 +37,7 @@ class MapViewTest : public testing::Test {
         "[t]\r\nWolf=512,384,*\r\n;Beta=1,1\r\n\xC4pfel=300,200\r\nAlm=#,u\r\nEdge=1020,9\r\n"
         "bad=x,y\r\n[u]\r\nAlm=10,20\r\n[only]\r\n;x=1,1\r\n");
     folder.Write("info.data", "[info]\r\nwolf=a < b und c > d\r\n");
-    view.SetTexts(Text(Prompt), u"Tip", u"marked");
+    view.SetTexts(Text(Prompt), u"Tip", u"marked", u"Prompt");
     view.resize(1000, 700);
     view.show();
   }

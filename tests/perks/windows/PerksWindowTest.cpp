@@ -47,7 +47,7 @@ class PerksWindow : public testing::Test {
   }
 
   frmPerks& Open() {
-    window_.emplace(nullptr, world_.paths.regions[0].data, world_.language, world_.cache);
+    window_.emplace(nullptr, world_.world.paths.Of(Region::Arvenna).data, world_.world);
     QObject::connect(
         &*window_, &frmPerks::TeachersChosen,
         [this](const Text& picture, const Text& data, const Text& category, const Text& heading) {
@@ -104,8 +104,8 @@ TEST_F(PerksWindow, HandsThePerkOnAndCloses) {
   Tree().setCurrentItem(Node(QStringLiteral("Bogenschütze")));
   Show();
   ASSERT_TRUE(chosen_);
-  EXPECT_EQ(chosen_->picture, world_.paths.regions[0].picture);
-  EXPECT_EQ(chosen_->data, world_.paths.regions[0].data);
+  EXPECT_EQ(chosen_->picture, world_.world.paths.Of(Region::Arvenna).picture);
+  EXPECT_EQ(chosen_->data, world_.world.paths.Of(Region::Arvenna).data);
   EXPECT_EQ(chosen_->category, u"perk archer");
   EXPECT_EQ(chosen_->heading, u"Arvenna: Lehrer für Bogenschütze");
   EXPECT_FALSE(window_->isVisible());

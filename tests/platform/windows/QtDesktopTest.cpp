@@ -4,10 +4,13 @@
 #include "support/TemporaryFolder.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTimer>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -72,9 +75,58 @@ TEST(QtDesktop, AsksTheDesktopForViewers) {
   QtDesktop desktop;
   EXPECT_TRUE(desktop.HasViewer("text/html"));
   EXPECT_FALSE(desktop.HasViewer("application/vnd.ms-htmlhelp"));
+  const std::string asked = tools.folder.Read("log");
+  EXPECT_TRUE(desktop.HasViewer("text/html"));
+  EXPECT_FALSE(desktop.HasViewer("application/vnd.ms-htmlhelp"));
+  EXPECT_EQ(tools.folder.Read("log"), asked) << "asked once";
   qputenv("PATH", "/nonexistent");
-  EXPECT_FALSE(desktop.HasViewer("text/html"));
+  EXPECT_FALSE(QtDesktop().HasViewer("text/html"));
   EXPECT_EQ(desktop.Open("http://a.example"), Desktop::Refused);
+}
+
+namespace {
+
+// What the file dialog offers before it is answered with this name, and what comes of it.
+struct Asked {
+  QString folder;
+  QString name;
+  QStringList filters;
+  std::string result;
+};
+
+Asked AskForPdf(const QString& answer) {
+  Asked asked;
+  QTimer::singleShot(100, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    auto* name = dialog->findChild<QLineEdit*>();
+    asked.folder = dialog->directory().path();
+    asked.name = name->text();
+    asked.filters = dialog->nameFilters();
+    name->setText(answer);
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  asked.result = QtDesktop().AskPdfToWrite(u"Print", u"Arvenna - Lehrer.pdf");
+  return asked;
+}
+
+}  // namespace
+
+TEST(QtDesktop, AsksForPdfFilesInTheDocumentsFolderOrElseAtHome) {
+  const TemporaryFolder folder;
+  folder.Write("Documents/x", "");
+  const QByteArray home = qgetenv("HOME");
+  qputenv("HOME", QByteArray::fromStdString(folder.Native("")).chopped(1));
+  const Asked documents = AskForPdf(QStringLiteral("Karte"));
+  EXPECT_EQ(documents.folder.toStdString(), folder.Native("Documents"));
+  EXPECT_EQ(documents.name, QStringLiteral("Arvenna - Lehrer.pdf"));
+  EXPECT_EQ(documents.filters, QStringList(QStringLiteral("PDF (*.pdf)")));
+  EXPECT_EQ(documents.result, folder.Native("Documents/Karte.pdf"));
+  std::filesystem::remove_all(folder.Native("Documents"));
+  const Asked atHome = AskForPdf(QStringLiteral("Karte 1.2"));
+  EXPECT_EQ(atHome.folder.toStdString() + '/', folder.Native(""));
+  EXPECT_EQ(atHome.result, folder.Native("Karte 1.2.pdf"));
+  qputenv("HOME", home);
 }
 
 TEST(QtDesktop, EveryGermanIsDeu) {

@@ -39,7 +39,7 @@ class SearchWindows : public testing::Test {
     world_.Write("skaldor.data", u"[NPC]\r\nWolf=900,700\r\nRand=1023,50\r\nUnklar=a,b\r\n");
     world_.Write("sarrakh.data", u"[NPC]\r\nOhne Bild=1,1\r\n");
     world_.Write("info.data", u"[info]\r\nWolf=Ein <b>Wolf</b>\\nallein\r\n");
-    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked");
+    map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked", u"Prompt");
     map_.resize(1000, 700);
     map_.show();
   }
@@ -89,9 +89,9 @@ class SearchWindows : public testing::Test {
   static constexpr int ListShift = 65;
 
   SearchWorld world_;
-  MapView map_{world_.cache, world_.language};
+  MapView map_{world_.world.cache, world_.world.language};
   Search::State state_;
-  SearchCommands search_{map_, world_.paths, world_.language, world_.cache, state_};
+  SearchCommands search_{map_, world_.world, state_};
   ctlLocation& item_ = Part<ctlLocation>("ITEM");
   NameLabel& caption_ = Part<NameLabel>("lblCaption");
   NameLabel& heading_ = Part<NameLabel>("lblMultiInfo");
@@ -101,12 +101,12 @@ class SearchWindows : public testing::Test {
 
 TEST_F(SearchWindows, DialogStandsAsDesignedInEveryLanguage) {
   Search::State state;
-  frmFind german(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind german(nullptr, world_.world, state);
   EXPECT_EQ(german.windowTitle(), QStringLiteral("Suchen"));
   CheckDialog(german);
   world_.SpeakEnglish(English);
   state.SearchTerm = u"Wolf";
-  frmFind english(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind english(nullptr, world_.world, state);
   EXPECT_EQ(english.windowTitle(), QStringLiteral("Find"));
   CheckDialog(english);
 }
@@ -114,7 +114,7 @@ TEST_F(SearchWindows, DialogStandsAsDesignedInEveryLanguage) {
 TEST_F(SearchWindows, DialogRemembersTermAndModeEvenWhenCancelled) {
   Search::State state;
   {
-    frmFind dialog(nullptr, world_.paths, world_.language, world_.cache, state);
+    frmFind dialog(nullptr, world_.world, state);
     dialog.show();
     auto* text = dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
     const auto* find = dialog.findChild<QPushButton*>(QStringLiteral("btnFind"));
@@ -131,7 +131,7 @@ TEST_F(SearchWindows, DialogRemembersTermAndModeEvenWhenCancelled) {
   EXPECT_EQ(state.SearchMode, Search::Mode::Descriptions);
   EXPECT_EQ(state.SearchTerm, u"");
   state.SearchTerm = u"Wolf ";
-  frmFind again(nullptr, world_.paths, world_.language, world_.cache, state);
+  frmFind again(nullptr, world_.world, state);
   again.show();
   const auto* text = again.findChild<QLineEdit*>(QStringLiteral("txtFind"));
   EXPECT_EQ(text->selectedText(), QStringLiteral("Wolf "));
@@ -153,17 +153,18 @@ TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
   EXPECT_EQ(caption_.toolTip(), QStringLiteral("Ein <b>Wolf</b>\\nallein"));
   EXPECT_EQ(heading_.text(), QStringLiteral(" Suchergebnis für: Wol "));
   EXPECT_EQ(map_.InfoEntityName, u"Wolf");
-  EXPECT_EQ(map_.View.DataFile, world_.paths.regions[0].data);
+  EXPECT_EQ(map_.View.DataFile, world_.world.paths.Of(Region::Arvenna).data);
   search_.miFindAgain_Click();
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
-  EXPECT_EQ(map_.View.DataFile, world_.paths.regions[1].data);
+  EXPECT_EQ(map_.View.DataFile, world_.world.paths.Of(Region::Skaldor).data);
   EXPECT_EQ(MessageDuring([this] { search_.miFindAgain_Click(); }),
             QStringLiteral("Suche beendet|Der Suchbegriff: \"Wol\" konnte nicht gefunden werden!"));
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
 }
 
 TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
-  map_.Change(world_.paths.regions[0].picture, world_.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
+              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
   Find(QStringLiteral("Wolf"));
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
@@ -178,7 +179,8 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
 }
 
 TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
-  map_.Change(world_.paths.regions[0].picture, world_.paths.regions[0].data, u"NPC");
+  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
+              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
   Find(QStringLiteral("Rand"));
   EXPECT_EQ(map_.Items().currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());

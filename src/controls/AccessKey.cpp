@@ -1,0 +1,15 @@
+#include "controls/AccessKey.h"
+
+namespace AccessKey {
+
+Text Without(TextView caption) {
+  Text shown;
+  for (size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && ++i == caption.size())
+      break;
+    shown += caption[i];
+  }
+  return shown;
+}
+
+}  // namespace AccessKey
