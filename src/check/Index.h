@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AllTexts.h"
 #include "app/World.h"
 #include "check/Source.h"
 #include "i18n/LOCAL.h"
@@ -88,6 +89,8 @@ class Index {
   ::World world;
   IniOps::Snapshot files;
   const ProgramPaths& paths;
+  /// Every text that a language can have.
+  const std::vector<TextRow> texts = AllTexts();
   /// The world's folder, with a separator at its end.
   const Text& base;
   PictureOf pictureOf;

@@ -1,7 +1,6 @@
 #include "app/MenuTable.h"
 #include "check/Checks.h"
 #include "check/Edits.h"
-#include "check/KnownTexts.h"
 #include "check/Nearest.h"
 #include "check/Words.h"
 #include "i18n/LanguageList.h"
@@ -33,17 +32,6 @@ using Key = std::pair<Text, Text>;
 
 Key KeyOf(TextView section, TextView key) {
   return {Lower(section), Lower(key)};
-}
-
-// All texts by section and key.
-const std::map<Key, const KnownText*>& TextsByKey() {
-  static const auto texts = [] {
-    std::map<Key, const KnownText*> all;
-    for (const KnownText& text : KnownTexts())
-      all.emplace(KeyOf(text.section, text.key), &text);
-    return all;
-  }();
-  return texts;
 }
 
 // The letter behind "&" in lower case; 0 without one.
@@ -134,8 +122,8 @@ class LanguageCheck {
     if (Lower(section) == Entities || Lower(section) == Page)
       return;
     const Text key = Decoded(line.entry.key);
-    const auto known = TextsByKey().find(KeyOf(section, key));
-    if (known == TextsByKey().end())
+    const auto known = texts_.find(KeyOf(section, key));
+    if (known == texts_.end())
       return CheckUnknown(line, section, key);
     CheckBlanks(line, section, key);
     CheckSigns(line, *known->second);
@@ -145,9 +133,9 @@ class LanguageCheck {
 
   void CheckUnknown(const Source::Line& line, const Text& section, const Text& key) {
     std::vector<Text> keys;
-    for (const KnownText& text : KnownTexts())
+    for (const TextRow& text : index_.texts)
       if (Lower(text.section) == Lower(section))
-        keys.push_back(text.key);
+        keys.emplace_back(text.key);
     if (keys.empty())
       return;
     Finding& finding =
@@ -165,7 +153,7 @@ class LanguageCheck {
   void CheckSections() {
     std::set<Text> known = {Text(Entities), Text(Page)};
     std::vector<Text> names = {Text(Entities)};
-    for (const KnownText& text : KnownTexts())
+    for (const TextRow& text : index_.texts)
       if (known.insert(Lower(text.section)).second)
         names.emplace_back(text.section);
     for (const Source::Section& section : source_.Sections()) {
@@ -202,9 +190,9 @@ class LanguageCheck {
     finding.edits = {Edits::Replaced(source_, all, '"' + std::string(all) + '"')};
   }
 
-  void CheckSigns(const Source::Line& line, const KnownText& text) {
+  void CheckSigns(const Source::Line& line, const TextRow& text) {
     const Text value = Decoded(ProfileLines::Unquoted(line.entry.value));
-    if (text.hasPlaceholder) {
+    if (text.HasPlaceholder()) {
       if (!value.empty() && !StringOps::StrContains(value, Sign))
         Tell(Id::T08, line.entry.value, text.section, text.key, u"%s is lost").consequence =
             Join(Quoted(value), u" does not tell ", Missing(text));
@@ -219,7 +207,7 @@ class LanguageCheck {
       }
   }
 
-  [[nodiscard]] static Text Missing(const KnownText& text) {
+  [[nodiscard]] static Text Missing(const TextRow& text) {
     if (text.section == u"ui")
       return u"which file is missing";
     return text.section == u"frmPerks" ? u"the region" : u"what was searched for";
@@ -245,13 +233,13 @@ class LanguageCheck {
   // Keys that are missing or empty, by section.
   void CheckMissing() {
     std::map<TextView, std::vector<Text>> inEnglish;
-    for (const KnownText& text : KnownTexts()) {
+    for (const TextRow& text : index_.texts) {
       if (!ValueOf(text.section, text.key).empty() ||
           (text.section == General && text.key == u"language"))
         continue;
-      if (!text.english.empty())
-        inEnglish[text.section].push_back(text.key);
-      else if (text.key != u"website" && text.key != u"email")
+      if (!text.english.empty() && text.needed)
+        inEnglish[text.section].emplace_back(text.key);
+      else if (text.IsSerious() || text.key == u"version" || text.key == u"author")
         TellWithoutDefault(text);
     }
     for (auto& [section, keys] : inEnglish) {
@@ -262,7 +250,7 @@ class LanguageCheck {
     }
   }
 
-  void TellWithoutDefault(const KnownText& text) {
+  void TellWithoutDefault(const TextRow& text) {
     Finding& finding = Tell(Id::T06, HeaderOf(text.section), text.section, text.key,
                             Join(u"[", text.section, u"] has no ", Quoted(text.key)));
     finding.consequence = text.section == General       ? u"the language dialog shows nothing there"
@@ -337,6 +325,7 @@ class LanguageCheck {
   Findings& findings_;
   const Index::Language& language_;
   const Source& source_;
+  std::map<Key, const TextRow*> texts_;
 };
 
 void TellNoFile(const Index& index, Findings& findings, const Text& folder) {

@@ -1,7 +1,6 @@
 #include "check/Observed.h"
 
 #include "check/EntityLine.h"
-#include "check/KnownTexts.h"
 #include "check/Words.h"
 #include "mapdata/world/InfoFile.h"
 #include "mapdata/world/Portraits.h"
@@ -42,8 +41,8 @@ void ObserveLanguage(Index& index, const Index::Language& language, Observed& se
       seen[{language.info->name, u"info", name}] =
           Decoded(InfoFile::ReadRedirected(language.info->File(), bytes));
   }
-  for (const KnownText& text : KnownTexts())
-    seen[{language.file->name, Text(text.section), text.key}] =
+  for (const TextRow& text : index.texts)
+    seen[{language.file->name, Text(text.section), Text(text.key)}] =
         Decoded(language.file->File().Read(Words::Encoded(text.section), Words::Encoded(text.key)));
 }
 

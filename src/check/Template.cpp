@@ -1,6 +1,5 @@
 #include "check/Template.h"
 
-#include "check/KnownTexts.h"
 #include "check/Words.h"
 
 #include <algorithm>
@@ -27,7 +26,7 @@ class Writer {
     Comment("A language of Orvalis: save it as LANG/NAME/NAME.lng.");
     Comment("\"language\" and the folder may be called anything but \"Deutsch\", both alike.");
     std::vector<TextView> sections;
-    for (const KnownText& text : KnownTexts())
+    for (const TextRow& text : index_.texts)
       if (std::ranges::find(sections, text.section) == sections.end())
         sections.push_back(text.section);
     for (const TextView section : sections)
@@ -47,19 +46,21 @@ class Writer {
                : std::string();
   }
 
-  [[nodiscard]] std::string ValueOf(const KnownText& text) const {
+  [[nodiscard]] std::string ValueOf(const TextRow& text) const {
     std::string own = Own(Encoded(text.section), Encoded(text.key));
-    return own.empty() ? Encoded(question_.german ? text.german : text.english) : own;
+    // What a language says of itself is nobody else's.
+    const bool german = question_.german && text.section != u"general";
+    return own.empty() ? Encoded(german ? text.german : text.english) : own;
   }
 
-  [[nodiscard]] bool IsWanted(const KnownText& text) const {
+  [[nodiscard]] bool IsWanted(const TextRow& text) const {
     return !question_.missingOnly || Own(Encoded(text.section), Encoded(text.key)).empty();
   }
 
   void WriteSection(TextView section) {
-    std::vector<const KnownText*> texts;
+    std::vector<const TextRow*> texts;
     std::string empty;
-    for (const KnownText& text : KnownTexts()) {
+    for (const TextRow& text : index_.texts) {
       if (text.section != section || !IsWanted(text))
         continue;
       texts.push_back(&text);
@@ -72,7 +73,7 @@ class Writer {
     if (!empty.empty())
       Comment("Without a text of yours nothing is shown for: " + empty);
     Line('[' + Encoded(section) + ']');
-    for (const KnownText* text : texts)
+    for (const TextRow* text : texts)
       Line(Encoded(text->key) + '=' + AsValue(ValueOf(*text)));
   }
 

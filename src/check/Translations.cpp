@@ -1,6 +1,5 @@
 #include "check/Checks.h"
 #include "check/Edits.h"
-#include "check/KnownTexts.h"
 #include "check/Nearest.h"
 #include "check/Words.h"
 #include "i18n/PrefixIndex.h"
@@ -280,7 +279,7 @@ class TranslationCheck {
     for (const Translated& name : names_)
       if (!name.key && name.shown == Trim(name.name))
         untranslated_.push_back(name.name);
-    for (const KnownText& text : KnownTexts()) {
+    for (const TextRow& text : index_.texts) {
       const auto value = source_.File().Read(Encoded(text.section), Encoded(text.key));
       if (!text.german.empty() && text.german != text.english && Decoded(value) == text.german)
         untranslated_.push_back(Join(u"[", text.section, u"] ", text.key));
