@@ -144,7 +144,7 @@ TEST_P(TextSections, AreTranslatedWholeAndWithTheirPlaceholders) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, TextSections,
                          testing::Values("general", "menus", "ui", "frmLang", "frmFind", "frmAbout",
-                                         "frmPrint", "frmInfo", "frmPerks", "frmExtras"));
+                                         "frmPrint", "frmInfo", "page", "frmPerks", "frmExtras"));
 
 TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   Table ofWorlds;
