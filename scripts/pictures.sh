@@ -5,6 +5,6 @@ cd "$(dirname "$0")/.."
 
 scripts/install.sh run display test ci
 cmake --preset release
-cmake --build --preset release --target orvalis orvalis_world
+cmake --build --preset release --target orvalis program_folder
 dbus-run-session -- xvfb-run -a -s "-screen 0 1280x1000x24" \
   env PYTHONPATH=tests/endtoend python3 scripts/pictures.py build/release/bin docs/pictures

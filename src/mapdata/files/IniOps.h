@@ -45,6 +45,11 @@ class Snapshot {
   /// The same to keep: two that are the same object hold the same contents.
   [[nodiscard]] const std::shared_ptr<const ProfileFile>& Shared(TextView file);
 
+  /// Takes the contents for those of the file, which was not asked before.
+  void Assume(TextView file, std::shared_ptr<const ProfileFile> contents) {
+    seen_.push_back({Text(file), std::move(contents)});
+  }
+
   /// The value of the key, or the default if there is none or it is empty. Letter case and blanks
   /// around section and key don't count.
   [[nodiscard]] Text IniRead(TextView file, TextView section, TextView key, TextView defaultValue);

@@ -76,4 +76,16 @@ QImage Read(TextView path, QSize cover) {
                                                            : QImage::Format_RGB32);
 }
 
+std::optional<Encoded> ReadEncoded(TextView path) {
+  Encoded picture{Bytes(path), {}, {}};
+  QBuffer buffer(&picture.bytes);
+  QImageReader reader(&buffer);
+  reader.setDecideFormatFromContent(true);
+  picture.format = reader.format();
+  picture.size = reader.size();
+  if (!IsKnownFormat(picture.format) || !IsSensibleSize(picture.size))
+    return std::nullopt;
+  return picture;
+}
+
 }  // namespace PictureReader

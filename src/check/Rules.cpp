@@ -1,0 +1,316 @@
+#include "check/Rules.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using Rules::Confidence;
+using Rules::Fixing;
+using Rules::Id;
+using Rules::Rule;
+using Rules::Severity;
+
+constexpr auto Table = std::to_array<Rule>({
+    {Id::W01, u"W01", u"required-file", Severity::Fatal, Confidence::Sure, Fixing::None,
+     u"`sarrakh.data` missing or of 0 bytes", u"the program names the file and ends",
+     u"put the file there; in a data file one line `[NPC]` is enough"},
+    {Id::W02, u"W02", u"picture-unreadable", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a region's picture that is no picture, or over 16384 pixels a side, 40 million pixels or 64 "
+     u"MB",
+     u"the region shows the picture of the start and no markers",
+     u"save it as JPEG or PNG under the same name"},
+    {Id::W03, u"W03", u"picture-proportions", Severity::Note, Confidence::Sure, Fixing::None,
+     u"a picture of 1920 x 1080", u"it is stretched", u"4 : 3, best 2048 x 1536"},
+    {Id::W04, u"W04", u"two-spellings", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`PICS/A.jpg` beside `PICS/a.jpg`", u"which of the two shows depends on the system",
+     u"delete one"},
+    {Id::W05, u"W05", u"setting-unknown", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`[folder]`, `translatorsdk`", u"the setting is ignored", u"the spelling of the manual"},
+    {Id::W06, u"W06", u"setting-not-yes", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`NoExtras=1`", u"it counts as no", u"`yes`"},
+    {Id::W07, u"W07", u"folder-missing", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`pics=Bilder`, and no such folder", u"nothing in it is found",
+     u"create the folder or correct its name"},
+    {Id::W08, u"W08", u"document-missing", Severity::Note, Confidence::Sure, Fixing::None,
+     u"no `readme.html`", u"nothing opens; without the music the bell sounds",
+     u"add the page, at least as .html"},
+    {Id::W09, u"W09", u"language-setting", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`language=Englisch`, and no such folder", u"the program stays German",
+     u"the name of a folder of `LANG`"},
+    {Id::W10, u"W10", u"folder-deutsch", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a folder `LANG/deutsch` whose file declares another name",
+     u"it is opened at start instead of the built-in German", u"another name for the folder"},
+    {Id::W11, u"W11", u"data-unreadable", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a data file that nobody may read, or over 1 GB",
+     u"it reads as empty: every category is empty", u"check its permissions and size"},
+    {Id::F01, u"F01", u"utf-8", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`Händler` as the bytes c3 a4",
+     u"each such letter shows as two wrong ones, and names no longer match between files",
+     u"save as Windows-1252"},
+    {Id::F02, u"F02", u"utf-8-letter", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`Č` in UTF-8", u"the letter can't be shown", u"another letter: Windows-1252 lacks it"},
+    {Id::F03, u"F03", u"utf-16", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"a file with a NUL byte in every other place", u"no section is found",
+     u"save as Windows-1252"},
+    {Id::F04, u"F04", u"byte-order-mark", Severity::Note, Confidence::Sure, Fixing::Safe,
+     u"the bytes ef bb bf at the start", u"skipped here, other programs stumble over it",
+     u"remove it"},
+    {Id::F05, u"F05", u"undefined-byte", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"one of the bytes 81 8d 8f 90 9d", u"an invisible control character is part of the text",
+     u"type the letter again"},
+    {Id::F06, u"F06", u"line-before-section", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`Alrik=512,300` above the first section", u"the line belongs nowhere and is never read",
+     u"move it below its section"},
+    {Id::F07, u"F07", u"no-equals", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"`Alrik 512,300`", u"the whole line is a name, and stands in the top left corner",
+     u"`Alrik=512,300`"},
+    {Id::F08, u"F08", u"hash-comment", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`# The old grove` in a section", u"an entity in the top left corner",
+     u"move it above the first section, with `;` before it"},
+    {Id::F09, u"F09", u"comment-in-section", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`; herbs` in a section", u"it takes one of 81 markers", u"move it above the first section"},
+    {Id::F10, u"F10", u"comment-behind-value", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"`512,300 ; mill`",
+     u"the list shows nothing and the search 0 for Y; behind a `*` the highlight is lost",
+     u"remove the comment"},
+    {Id::F11, u"F11", u"value-too-long", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"a value of over 2047 characters", u"it is cut", u"shorten it"},
+    {Id::F12, u"F12", u"empty-value", Severity::Error, Confidence::Sure, Fixing::None, u"`Alrik=`",
+     u"it counts as missing: the marker stands in the top left corner", u"give it a position"},
+    {Id::F13, u"F13", u"tab-around-key", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"a tab before or behind a key",
+     u"the list of names keeps the tab, look-ups don't: the marker stands in the top left corner",
+     u"spaces instead of tabs"},
+    {Id::F14, u"F14", u"quoted-key", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`\"Alrik\"=1,2`", u"the quotes are part of the name", u"remove them"},
+    {Id::F15, u"F15", u"no-break-space", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"a no-break space around a number or in a key",
+     u"Y is 0 for the search, the list shows nothing; names differ between files", u"plain spaces"},
+    {Id::F16, u"F16", u"nameless", Severity::Warning, Confidence::Sure, Fixing::None, u"`=5,6`",
+     u"a marker without a name", u"name it"},
+    {Id::F17, u"F17", u"key-twice-in-file", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"one key twice in `info.data`, `pic.ini`, a language file or the settings",
+     u"only the first is read", u"keep one"},
+    {Id::S01, u"S01", u"header-case", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`[Teachers]`", u"the category is empty; the search finds its entities", u"`[teachers]`"},
+    {Id::S02, u"S02", u"header-blanks", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`[smiths ]`, `[smiths] ; all`, `[smiths`",
+     u"the category is empty, and the search finds nothing of it", u"`[smiths]` alone in its line"},
+    {Id::S03, u"S03", u"header-indented", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"blanks before `[smiths]`, below another section",
+     u"its lines join the section above, all in the top left corner, and so does a marker "
+     u"\"[smiths]\"",
+     u"remove the blanks"},
+    {Id::S04, u"S04", u"section-twice", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"`[smiths]` twice", u"only the first is read; the search lists its entities twice",
+     u"merge the two"},
+    {Id::S05, u"S05", u"section-spellings", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"`[npc]` above `[NPC]`",
+     u"the names come from one and the positions from the other: all stand in the top left corner",
+     u"merge the two"},
+    {Id::S06, u"S06", u"section-unknown", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`[techers]`", u"no menu shows it; the search finds its entities", u"the name of a category"},
+    {Id::S07, u"S07", u"section-elsewhere", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`[undead]` in Arvenna", u"this region has no menu for it",
+     u"one of the regions that have it"},
+    {Id::S08, u"S08", u"category-absent", Severity::Note, Confidence::Sure, Fixing::None,
+     u"a category without a line", u"the command shows an empty map", u"fill it, or leave it"},
+    {Id::S09, u"S09", u"over-81-lines", Severity::Error, Confidence::Sure, Fixing::None,
+     u"82 lines in a section with markers", u"the lines from the 82nd on have no marker",
+     u"split the section, or drop lines that are switched off"},
+    {Id::S10, u"S10", u"perk-unknown", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`[perk Acrobatics]`", u"the perk is not listed", u"the perk's key, letter for letter"},
+    {Id::P01, u"P01", u"not-a-number", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`left,top`, `(512,300)`", u"that number counts as 0; the list shows nothing",
+     u"two whole numbers"},
+    {Id::P02, u"P02", u"separator", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`512;300`, `512 300`, `512.300`", u"the marker stands at 512,512; the list shows nothing",
+     u"a comma"},
+    {Id::P03, u"P03", u"decimal-comma", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"`512,5,300`", u"the part behind the comma counts as Y", u"whole numbers"},
+    {Id::P04, u"P04", u"fraction", Severity::Note, Confidence::Sure, Fixing::Safe, u"`512.5,300`",
+     u"rounded, halves to even", u"whole numbers"},
+    {Id::P05, u"P05", u"one-number", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`512`, `512,`, `,300`", u"the missing number is guessed or 0", u"both numbers"},
+    {Id::P06, u"P06", u"trailing-text", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`512px,300px`", u"the marker is right; the list shows nothing and the search 0",
+     u"digits alone"},
+    {Id::P07, u"P07", u"outside-frame", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`1100,300`", u"the marker lies outside the picture", u"0 to 1024 across, 0 to 768 down"},
+    {Id::P08, u"P08", u"picture-pixels", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"positions of a whole section beyond the frame, within the picture",
+     u"all of them are displaced", u"times 1024/width and 768/height"},
+    {Id::P09, u"P09", u"origin", Severity::Note, Confidence::Guess, Fixing::None, u"`0,0`",
+     u"the marker stands in the top left corner, where mistakes land", u"look whether it is meant"},
+    {Id::P10, u"P10", u"mark", Severity::Warning, Confidence::Sure, Fixing::Unsafe, u"`512,300,+`",
+     u"it is not highlighted", u"`*`"},
+    {Id::P11, u"P11", u"key-twice", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"one name twice in a section", u"both lines stand at the first one's place", u"one line"},
+    {Id::P12, u"P12", u"equals-in-name", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`Haus = Hof=1,2`", u"the name ends at the first `=`", u"no `=` in names"},
+    {Id::P13, u"P13", u"same-point", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"two markers of a category at one point", u"the lower one can't be pointed at", u"move one"},
+    {Id::P14, u"P14", u"two-places", Severity::Note, Confidence::Guess, Fixing::None,
+     u"one name at two positions in one file", u"each section shows its own",
+     u"a link such as `#,NPC` if one is right"},
+    {Id::P15, u"P15", u"name-case", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`Schmied baldrun` beside `Schmied Baldrun`", u"one of the two is not translated",
+     u"one spelling"},
+    {Id::L01, u"L01", u"link-to-nothing", Severity::Fatal, Confidence::Sure, Fixing::Unsafe,
+     u"`Alrik=#,smiths` without an Alrik there",
+     u"the first search ends the program; the marker stands in the top left corner",
+     u"a section that holds the name"},
+    {Id::L02, u"L02", u"link-to-switched-off", Severity::Fatal, Confidence::Sure, Fixing::Unsafe,
+     u"a link to `;Alrik`", u"as a link to nothing", u"switch both off, or none"},
+    {Id::L03, u"L03", u"link-to-link", Severity::Error, Confidence::Sure, Fixing::Proved,
+     u"a link to a line that is a link",
+     u"followed one step only: the marker and the search stand at 0,0, the list shows nothing",
+     u"the section with the position"},
+    {Id::L04, u"L04", u"link-comma", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`#smiths`, `#;smiths`", u"no link: the marker stands in the top left corner", u"`#,smiths`"},
+    {Id::L05, u"L05", u"link-to-no-number", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a link to a line whose position can't be read", u"the same fault in two places",
+     u"mend the line that it leads to"},
+    {Id::I01, u"I01", u"description-orphan", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"a key that is no entity's name", u"the text is never shown",
+     u"the name as in the data file"},
+    {Id::I02, u"I02", u"star-forgotten", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`Name` for an entity `*Name`", u"it has no description", u"`*Name`"},
+    {Id::I03, u"I03", u"redirect-missing", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`#Alrk`, or a text that begins with `#`", u"no text; the tooltip shows it as it stands",
+     u"the key of an entry"},
+    {Id::I04, u"I04", u"redirect-chain", Severity::Warning, Confidence::Sure, Fixing::Proved,
+     u"a redirection to a redirection", u"the second is shown as it stands",
+     u"the key of the text itself"},
+    {Id::I05, u"I05", u"broken-line", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"a line without `=` below an entry", u"the text ends above it", u"`\\n` for a new line"},
+    {Id::I06, u"I06", u"no-info-section", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`info.data` without `[info]`", u"no entity has a description",
+     u"`[info]` above the entries"},
+    {Id::I07, u"I07", u"no-description", Severity::Note, Confidence::Sure, Fixing::None,
+     u"entities without a description", u"nothing is shown for them", u"see the list by --verbose"},
+    {Id::I08, u"I08", u"broken-line-section", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"a line below an entry that begins with `[`",
+     u"the text ends, and what follows is of another section", u"`\\n` for a new line"},
+    {Id::I09, u"I09", u"quotes-lost", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`Alrik=\"Halt!\", ruft er. \"Geh!\"`", u"the first and the last quote are taken off",
+     u"one more pair of quotes around the text"},
+    {Id::G01, u"G01", u"portrait-missing", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"a portrait that is missing or no picture", u"the placeholder is shown",
+     u"the name of a picture in the folder"},
+    {Id::G02, u"G02", u"portrait-unused", Severity::Note, Confidence::Sure, Fixing::None,
+     u"an entry of nobody, a picture without an entry, over 105 x 105 pixels", u"never shown; cut",
+     u"remove it; make it smaller"},
+    {Id::G03, u"G03", u"no-pics-section", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`pic.ini` without `[pics]`", u"every portrait is the placeholder",
+     u"`[pics]` above the entries"},
+    {Id::T01, u"T01", u"no-language-file", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a folder without a language file, or one that declares no `language`",
+     u"listed as \"?\"; chosen, its menus are English, its names German, and the next start is "
+     u"German",
+     u"`language=` in `[general]`"},
+    {Id::T02, u"T02", u"reserved-name", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`language=Deutsch`", u"nothing is translated", u"the language's own name"},
+    {Id::T03, u"T03", u"folder-name", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a folder `EN` of the language English", u"the folder's info.data is never read",
+     u"one name for both"},
+    {Id::T04, u"T04", u"entities-header", Severity::Error, Confidence::Sure, Fixing::Safe,
+     u"`[Entities]`", u"no name is translated", u"`[entities]` alone in its line"},
+    {Id::T05, u"T05", u"key-missing", Severity::Note, Confidence::Sure, Fixing::None,
+     u"keys that are missing or empty", u"shown in English",
+     u"fill them in: orvalis-world template --missing prints them"},
+    {Id::T06, u"T06", u"key-without-default", Severity::Error, Confidence::Sure, Fixing::None,
+     u"no `FileNotFound`, no `notfoundmessage`", u"an empty message or label", u"fill it in"},
+    {Id::T07, u"T07", u"key-unknown", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"`miArvenaTeachers`, `[frmFinds]`", u"never read", u"the spelling of the manual"},
+    {Id::T08, u"T08", u"placeholder", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"no `%s` in `FileNotFound`; `%d` in a menu",
+     u"the player is not told what is missing; shown as it stands",
+     u"put `%s` back, remove others"},
+    {Id::T09, u"T09", u"address-prefix", Severity::Warning, Confidence::Sure, Fixing::Safe,
+     u"`website=http://...`, `email=mailto:...`", u"opened with the prefix twice", u"without it"},
+    {Id::T10, u"T10", u"edge-blanks", Severity::Warning, Confidence::Sure, Fixing::Unsafe,
+     u"blanks at the ends of a text", u"they are lost", u"quotes around the text"},
+    {Id::T11, u"T11", u"access-key", Severity::Note, Confidence::Sure, Fixing::None,
+     u"a caption without `&` among others, where the German one has it", u"no Alt key for it",
+     u"`&` before a letter that is free in its menu"},
+    {Id::T12, u"T12", u"prefix-shadows", Severity::Error, Confidence::Sure, Fixing::Proved,
+     u"`Händler` above `Händlerin`", u"\"Merchantin Mara\"",
+     u"the longer key above the shorter one"},
+    {Id::T13, u"T13", u"round-trip", Severity::Error, Confidence::Sure, Fixing::None,
+     u"a shown name that leads to another key",
+     u"picked from a list it shows nothing, and it has no text and no portrait",
+     u"different translations"},
+    {Id::T14, u"T14", u"same-shown", Severity::Error, Confidence::Sure, Fixing::None,
+     u"two entities of a list under one name", u"the second can't be picked",
+     u"different translations"},
+    {Id::T15, u"T15", u"dead-key", Severity::Warning, Confidence::Sure, Fixing::Proved,
+     u"a key that begins no name", u"never used", u"the name as in the data files"},
+    {Id::T16, u"T16", u"region-word-in-key", Severity::Error, Confidence::Sure, Fixing::Proved,
+     u"`Tor nach Sarrakh` where `Sarrakh` is translated",
+     u"the region's word is replaced first: the key fits no more",
+     u"the translated word in the key"},
+    {Id::T17, u"T17", u"empty-translation", Severity::Error, Confidence::Sure, Fixing::None,
+     u"`Händler=`",
+     u"names that begin with it lose the word and begin with a blank: picked from a list they show "
+     u"nothing",
+     u"translate it"},
+    {Id::T18, u"T18", u"double-replace", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"`Bär` in `Bär im Bärental`", u"\"Bear im Bearental\"", u"the whole name as a key"},
+    {Id::T19, u"T19", u"info-keys-translated", Severity::Error, Confidence::Sure, Fixing::Unsafe,
+     u"translated names as the keys of a language's `info.data`", u"never found",
+     u"the German names as keys"},
+    {Id::T20, u"T20", u"info-coverage", Severity::Warning, Confidence::Sure, Fixing::None,
+     u"entities with a description in German alone", u"none is shown in the language",
+     u"translate them; see the list by --verbose"},
+    {Id::T21, u"T21", u"untranslated", Severity::Note, Confidence::Sure, Fixing::None,
+     u"names and captions as in German", u"shown in German",
+     u"translate them; see the list by --verbose"},
+    {Id::T22, u"T22", u"looks", Severity::Note, Confidence::Sure, Fixing::None,
+     u"a name of over 120 characters, a flag that is missing or not 16 x 16",
+     u"leaves the window; a neutral or stretched flag", u"a shorter name, a flag of 16 x 16"},
+});
+
+constexpr std::array<TextView, 4> Severities = {u"fatal", u"error", u"warning", u"note"};
+
+constexpr bool StandInOrder() {
+  for (size_t i = 0; i < Table.size(); ++i)
+    if (static_cast<size_t>(Table[i].id) != i)
+      return false;
+  return Table.back().id == Id::T22;
+}
+
+static_assert(StandInOrder());
+
+}  // namespace
+
+namespace Rules {
+
+std::span<const Rule> All() {
+  return Table;
+}
+
+const Rule& Of(Id id) {
+  return Table[static_cast<size_t>(id)];
+}
+
+const Rule* Find(TextView number) {
+  const Text wanted = Texts::Lower(number);
+  const auto found = std::ranges::find_if(
+      Table, [&wanted](const Rule& rule) { return Texts::Lower(rule.number) == wanted; });
+  return found == Table.end() ? nullptr : &*found;
+}
+
+TextView NameOf(Severity severity) {
+  return Severities[static_cast<size_t>(severity)];
+}
+
+std::optional<Severity> SeverityOf(TextView name) {
+  const auto found = std::ranges::find(Severities, name);
+  if (found == Severities.end())
+    return std::nullopt;
+  return static_cast<Severity>(found - Severities.begin());
+}
+
+}  // namespace Rules

@@ -1,0 +1,255 @@
+#include "check/CheckedWorld.h"
+#include "check/Words.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+// Each kind of mistake: a file that has it, and one that only looks like it.
+
+namespace {
+
+struct Case {
+  std::string rule;
+  std::string file;
+  std::string broken;
+  std::string innocent;
+  // What the result tells, or a part of it.
+  std::string result;
+  // The file once it is mended; "" where only its author can.
+  std::string mended = {};
+};
+
+const std::string German = "LANG/L/L.lng";
+
+std::string Lng(const std::string& lines) {
+  return "[general]\nlanguage=L\nversion=1\nauthor=A\n" + lines;
+}
+
+std::string Utf16(const std::string& text) {
+  std::string bytes = "\xFF\xFE";
+  for (const char byte : text)
+    bytes += std::string{byte, '\0'};
+  return bytes;
+}
+
+std::string Markers(int count) {
+  std::string lines = "[smiths]\n";
+  for (int i = 0; i < count; ++i)
+    lines += "S" + std::to_string(i) + "=" + std::to_string(i) + ",7\n";
+  return lines;
+}
+
+const std::vector<Case>& Cases() {
+  static const std::vector<Case> cases = {
+      {"W01", "sarrakh.data", "", "[NPC]", "names it and ends"},
+      {"W02", "arvenna.jpg", "nonsense", "1024x768", "no markers"},
+      {"W03", "arvenna.jpg", "1920x1080", "1365x1024", "stretched"},
+      {"W04", "Arvenna.DATA", "[NPC]\n", "", "depends on the system"},
+      {"W05", "orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\nNoLnag=no\n",
+       "[special]\nNoExtras=yes\nPlayMusic=no\nnolang=no\n", "ignored",
+       "[special]\nNoExtras=yes\nPlayMusic=no\nNoLang=no\n"},
+      {"W06", "orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\nNoLang=1\n",
+       "[special]\nNoExtras=yes\nPlayMusic=no\nNoLang=0\n", "choice of the language",
+       "[special]\nNoExtras=yes\nPlayMusic=no\nNoLang=yes\n"},
+      {"W07", "orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\n[folders]\npics=Bilder\n",
+       "[special]\nNoExtras=yes\nPlayMusic=no\n[folders]\npics=\n", "portraits"},
+      {"W09", "orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\n[general]\nlanguage=Latein\n",
+       "[special]\nNoExtras=yes\nPlayMusic=no\n[general]\nlanguage=Deutsch\n", "stays German"},
+      {"W10", "LANG/deutsch/deutsch.lng", "[general]\nlanguage=Bavarian\n",
+       "[general]\nlanguage=Deutsch\n", "Bavarian"},
+      {"F01", "arvenna.data", "[NPC]\nH\xC3\xA4ndler=1,2\nAlrik=3,4\n",
+       "[NPC]\nH\xE4ndler=1,2\nAlrik=3,4\n", "\"Händler\" is shown as \"HÃ¤ndler\"",
+       "[NPC]\nH\xE4ndler=1,2\nAlrik=3,4\n"},
+      {"F02", "arvenna.data", "[NPC]\n\xC4\x8C\x61p=1,2\nAlrik=3,4\n",
+       "[NPC]\n\xC4\x63p=1,2\nAlrik=3,4\n", "shown as"},
+      {"F03", "arvenna.data", Utf16("[NPC]\nAlrik=1,2\n"), "[NPC]\nAlrik=1,2\n", "no section",
+       "[NPC]\nAlrik=1,2\n"},
+      {"F04", "arvenna.data", "\xEF\xBB\xBF[NPC]\nAlrik=1,2\n", "[NPC]\nAlrik=1,2\n", "skipped",
+       "[NPC]\nAlrik=1,2\n"},
+      {"F05", "arvenna.data", "[NPC]\nAlrik=1,2\nX\x81=3,4\n", "[NPC]\nAlrik=1,2\nX\x80=3,4\n",
+       "control character"},
+      {"F06", "arvenna.data", "Cuno=3,4\n[NPC]\nAlrik=1,2\n", "# Persons\n[NPC]\nAlrik=1,2\n",
+       "never read"},
+      {"F07", "arvenna.data", "[smiths]\nAlrik 512,300\n", "[smiths]\nAlrik=512,300\n",
+       "marker stands at 0,0, the search shows it at 0,0", "[smiths]\nAlrik=512,300\n"},
+      {"F08", "arvenna.data", "[smiths]\nAlrik=1,2\n# The grove\n",
+       "# The grove\n[smiths]\nAlrik=1,2\n", "marker stands at 0,0"},
+      {"F09", "arvenna.data", "[smiths]\nAlrik=1,2\n; herbs\n", "[smiths]\nAlrik=1,2\n;Cuno=3,4\n",
+       "81 markers"},
+      {"F10", "arvenna.data", "[smiths]\nAlrik=5,6,* ; mill\n", "[smiths]\nAlrik=5,6,*\n",
+       "not highlighted", "[smiths]\nAlrik=5,6,*\n"},
+      {"F11", "info.data", "[info]\nAlrik=" + std::string(2050, 'x') + "\n",
+       "[info]\nAlrik=" + std::string(2047, 'x') + "\n", "last 3"},
+      {"F12", "arvenna.data", "[smiths]\nAlrik=\n", "[smiths]\nAlrik=\"1,2\"\n", "stands at 0,0"},
+      {"F13", "arvenna.data", "[smiths]\nAlrik\t=5,6\n", "[smiths]\nAlrik =\t5,6\n",
+       "marker stands at 0,0", "[smiths]\nAlrik =5,6\n"},
+      {"F15", "arvenna.data",
+       "[smiths]\nAlrik=5,\xA0"
+       "6\n",
+       "[smiths]\nAlrik=5, 6\n", "marker stands at 5,0, the search shows it at 5,0",
+       "[smiths]\nAlrik=5, 6\n"},
+      {"F16", "arvenna.data", "[smiths]\nAlrik=5,6\n=7,8\n", "[smiths]\nAlrik=5,6\n", "7,8"},
+      {"F17", "info.data", "[info]\nAlrik=One\nalrik=Two\n", "[info]\nAlrik=One\nBerta=Two\n",
+       "first of the two", "[info]\nAlrik=One\n"},
+      {"S01", "arvenna.data", "[Teachers]\nAlrik=1,2\nCuno=3,4\n", "[teachers]\nAlrik=1,2\n",
+       "category \"teachers\" is empty, the search finds its 2 entities",
+       "[teachers]\nAlrik=1,2\nCuno=3,4\n"},
+      {"S02", "arvenna.data", "[NPC]\nAlrik=1,2\n[smiths ]\nCuno=3,4\n",
+       "[NPC]\nAlrik=1,2\n[smiths]\nCuno=3,4\n", "search finds nothing of it",
+       "[NPC]\nAlrik=1,2\n[smiths]\nCuno=3,4\n"},
+      {"S03", "arvenna.data", "[hunters]\nAlrik=1,2\n  [smiths]\nCuno=3,4\n",
+       "  [hunters]\nAlrik=1,2\n", "1 entity is shown in category \"hunters\" at 0,0",
+       "[hunters]\nAlrik=1,2\n[smiths]\nCuno=3,4\n"},
+      {"S04", "arvenna.data", "[smiths]\nAlrik=1,2\n[smiths]\nCuno=3,4\n",
+       "[smiths]\nAlrik=1,2\n[hunters]\nCuno=3,4\n", "the 1 of the first one twice",
+       "[smiths]\nAlrik=1,2\nCuno=3,4\n"},
+      {"S05", "arvenna.data", "[npc]\nCuno=3,4\n[NPC]\nAlrik=1,2\n", "[NPC]\nAlrik=1,2\n",
+       "all stand at 0,0", "[NPC]\nCuno=3,4\nAlrik=1,2\n"},
+      {"S06", "arvenna.data", "[techers]\nAlrik=1,2\n", "[teachers]\nAlrik=1,2\n",
+       "search finds its 1 entity", "[teachers]\nAlrik=1,2\n"},
+      {"S07", "arvenna.data", "[NPC]\nAlrik=1,2\n[undead]\nCuno=3,4\n",
+       "[NPC]\nAlrik=1,2\n[perk alchemy]\nCuno=3,4\n", "no menu shows it"},
+      {"S09", "arvenna.data", Markers(82), Markers(81), "the first is \"S81\""},
+      {"S10", "arvenna.data", "[perk Acrobatics]\nAlrik=1,2\n", "[perk acrobatics]\nAlrik=1,2\n",
+       "not listed", "[perk acrobatics]\nAlrik=1,2\n"},
+      {"P01", "arvenna.data", "[NPC]\nAlrik=left,top\n", "[NPC]\nAlrik= 1 , 2 \n",
+       "picked from the list it shows nothing, the search shows it at 0,0"},
+      {"P02", "arvenna.data", "[smiths]\nAlrik=512;300\n", "[smiths]\nAlrik=512,300\n",
+       "marker stands at 512,512", "[smiths]\nAlrik=512,300\n"},
+      {"P03", "arvenna.data", "[smiths]\nAlrik=512,5,300\n", "[smiths]\nAlrik=512,5,*\n",
+       "stands at 512,5", "[smiths]\nAlrik=512,300\n"},
+      {"P04", "arvenna.data", "[smiths]\nAlrik=512.5,300\n", "[smiths]\nAlrik=512,300\n",
+       "stands at 512,300", "[smiths]\nAlrik=512,300\n"},
+      {"P05", "arvenna.data", "[smiths]\nAlrik=512,\n", "[smiths]\nAlrik=512,0\n",
+       "stands at 512,0"},
+      {"P06", "arvenna.data", "[smiths]\nAlrik=512px,300px\n", "[smiths]\nAlrik=512,300,*\n",
+       "marker stands at 512,300, the search shows it at 0,0", "[smiths]\nAlrik=512,300\n"},
+      {"P07", "arvenna.data", "[smiths]\nAlrik=1100,300\n", "[smiths]\nAlrik=1024,768\n",
+       "stands at 1100,300"},
+      {"P08", "arvenna.data", "[smiths]\nA=1400,300\nB=2000,1500\nC=1200,800\n",
+       "[smiths]\nA=700,150\nB=1000,750\nC=600,400\n", "3 markers lie outside",
+       "[smiths]\nA=700,150\nB=1000,750\nC=600,400\n"},
+      {"P09", "arvenna.data", "[smiths]\nAlrik=0,0\n", "[smiths]\nAlrik=0,1\n", "stands at 0,0"},
+      {"P10", "arvenna.data", "[smiths]\nAlrik=5,6,+\n", "[smiths]\nAlrik=5,6,\n", "stands at 5,6",
+       "[smiths]\nAlrik=5,6,*\n"},
+      {"P11", "arvenna.data", "[smiths]\nAlrik=1,2\nAlrik=3,4\n",
+       "[smiths]\nAlrik=1,2\n;Alrik=3,4\n", "marker stands at 1,2", "[smiths]\nAlrik=1,2\n"},
+      {"P12", "arvenna.data", "[smiths]\nHaus = Hof=1,2\n", "[smiths]\nHaus=1,2\n",
+       "stands at 0,2"},
+      {"P13", "arvenna.data", "[smiths]\nAlrik=1,2\nCuno=1,2\n", "[NPC]\nAlrik=1,2\nCuno=1,2\n",
+       "can't be pointed at"},
+      {"P14", "arvenna.data", "[NPC]\nAlrik=1,2\n[smiths]\nAlrik=3,4\n",
+       "[NPC]\nAlrik=1,2\n[smiths]\nAlrik=#,NPC\n", "stands at 3,4"},
+      {"P15", "skaldor.data", "[NPC]\nalrik=1,2\n", "[NPC]\nAlrik=1,2\n", "one of the two", "[NPC]\nAlrik=1,2\n"},
+      {"L01", "arvenna.data", "[NPC]\nAlrik=#,smiths\n[smiths]\nCuno=1,2\n",
+       "[NPC]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n", "search ends the program"},
+      {"L02", "arvenna.data", "[NPC]\nAlrik=#,smiths\n[smiths]\n;Alrik=1,2\n",
+       "[NPC]\n;Alrik=#,smiths\n[smiths]\n;Alrik=1,2\n", "search ends the program"},
+      {"L03", "arvenna.data",
+       "[NPC]\nAlrik=#,hunters\n[hunters]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n",
+       "[NPC]\nAlrik=#,smiths\n[hunters]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n", "shows nothing",
+       "[NPC]\nAlrik=#,smiths\n[hunters]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n"},
+      {"L04", "arvenna.data", "[hunters]\nAlrik=#smiths\n[smiths]\nAlrik=1,2\n",
+       "[hunters]\nAlrik= # , smiths\n[smiths]\nAlrik=1,2\n", "marker stands at 0,0",
+       "[hunters]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n"},
+      {"I01", "info.data", "[info]\nAlrk=He waits.\n", "[info]\nAlrik=#x\nX=He waits.\n",
+       "never shown", "[info]\nAlrik=He waits.\n"},
+      {"I03", "info.data", "[info]\nAlrik=#Bert\nBerta=She.\n",
+       "[info]\nAlrik=#Berta\nBerta=She.\n", "#Bert...", "[info]\nAlrik=#Berta\nBerta=She.\n"},
+      {"I04", "info.data", "[info]\nAlrik=#Berta\nBerta=#Baldrun\nBaldrun=He.\n",
+       "[info]\nAlrik=#Baldrun\nBerta=#Baldrun\nBaldrun=He.\n", "\"#Baldrun\" is shown",
+       "[info]\nAlrik=#Baldrun\nBerta=#Baldrun\nBaldrun=He.\n"},
+      {"I05", "info.data", "[info]\nAlrik=He\nwaits.\n", "[info]\nAlrik=He\\nwaits.\n",
+       "ends in the line above", "[info]\nAlrik=He\\nwaits.\n"},
+      {"I06", "info.data", "[infos]\nAlrik=He.\n", "[Info]\nAlrik=He.\n", "no entity"},
+      {"I08", "info.data", "[info]\nAlrik=He\n[who] waits.\nBerta=She.\n",
+       "[info]\nAlrik=He\\n[who] waits.\n", "1 line below",
+       "[info]\nAlrik=He\\n[who] waits.\nBerta=She.\n"},
+      {"I09", "info.data", "[info]\nAlrik=\"Halt!\", said he. \"Go!\"\n",
+       "[info]\nAlrik=\"\"Halt!\", said he. \"Go!\"\"\n", "begins Halt!\"",
+       "[info]\nAlrik=\"\"Halt!\", said he. \"Go!\"\"\n"},
+      {"G01", "PICS/pic.ini", "[pics]\nAlrik=none.jpg\n", "[pics]\nAlrik=\n", "placeholder"},
+      {"G02", "PICS/pic.ini", "[pics]\nNobody=../arvenna.jpg\n", "[pics]\nAlrik=\n", ""},
+      {"G03", "PICS/pic.ini", "[pic]\nAlrik=x.jpg\n", "[Pics]\nAlrik=\n", "placeholder"},
+      {"T01", German, "[menus]\nmnuFile=File\n", Lng(""), "listed as \"?\""},
+      {"T02", German, "[general]\nlanguage=Deutsch\n", Lng(""), "nothing is translated"},
+      {"T04", German, Lng("[Entities]\nAlrik=Al\n"), Lng("[entities]\nAlrik=Al\n"), "1 line",
+       Lng("[entities]\nAlrik=Al\n")},
+      {"T07", German, Lng("[menus]\nmiArvenaTeachers=x\n"), Lng("[Menus]\nMIARVENNATEACHERS=x\n"),
+       "never read", Lng("[menus]\nmiArvennaTeachers=x\n")},
+      {"T08", German, Lng("[ui]\nFileNotFound=Lost\n"), Lng("[ui]\nFileNotFound=Lost %s\n"),
+       "which file"},
+      {"T09", German, Lng("website=http://www.x.example\n"), Lng("website=www.x.example\n"),
+       "http://http://www", Lng("website=www.x.example\n")},
+      {"T10", German, Lng("[ui]\nHighlighted=lit \n"), Lng("[ui]\nHighlighted = lit\n"), "\"lit\"",
+       Lng("[ui]\nHighlighted=\"lit \"\n")},
+      {"T12", German, Lng("[entities]\nAl=El\nAlrik=Ulric\nBaldrun=Zed\nBerta=C\n"),
+       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=Zed\nBerta=C\n"),
+       "\"Elrik\" instead of \"Ulric\"",
+       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=Zed\nBerta=C\n")},
+      {"T13", German, Lng("[entities]\nAlrik=Zed\nBaldrun=Zed\nBerta=C\n"),
+       Lng("[entities]\nAlrik=A\nBaldrun=Zed\nBerta=C\n"), "\"Baldrun\" can't be picked"},
+      {"T15", German, Lng("[entities]\nAlrk=Al\nBaldrun=Zed\n"),
+       Lng("[entities]\nAlri=Al\nArvenna=A\n"), "never used",
+       Lng("[entities]\nAlrik=Al\nBaldrun=Zed\n")},
+      {"T17", German, Lng("[entities]\nAl=\nBaldrun=Zed\n"),
+       Lng("[entities]\nAlrik=\nBaldrun=Zed\n"), "is shown as \"rik\""},
+  };
+  return cases;
+}
+
+// What is told of worlds as small as these, whatever the case is about.
+bool IsNoise(const Text& rule) {
+  static const std::set<Text> noise = {u"W08", u"S08", u"I07", u"T05", u"T06",
+                                       u"T11", u"T20", u"T21", u"T22"};
+  return noise.contains(rule);
+}
+
+struct Told {
+  std::set<std::string> rules;
+  std::string results;
+};
+
+Told Tell(const CheckedWorld& world) {
+  Told told;
+  const auto answer = world.Answer();
+  for (const Finding& finding : answer->findings) {
+    const Text rule(Rules::Of(finding.rule).number);
+    if (IsNoise(rule))
+      continue;
+    told.rules.insert(NativePath::ToBytes(rule));
+    told.results += NativePath::ToBytes(finding.consequence) + "\n";
+  }
+  return told;
+}
+
+bool IsSafe(const std::string& rule) {
+  const auto fixing = Rules::Find(NativePath::FromBytes(rule))->fixing;
+  return fixing == Rules::Fixing::Safe || fixing == Rules::Fixing::Proved;
+}
+
+}  // namespace
+
+class Kinds : public testing::TestWithParam<Case> {};
+
+TEST_P(Kinds, AreToldOnceAndOnlyWhereTheyAre) {
+  const Case& test = GetParam();
+  if (test.broken.empty() && test.innocent.empty())
+    GTEST_SKIP();
+  CheckedWorld world;
+  world.Write(test.file, test.broken);
+  const Told told = Tell(world);
+  EXPECT_EQ(told.rules, std::set<std::string>{test.rule});
+  EXPECT_NE(told.results.find(test.result), std::string::npos) << told.results;
+  world.Mend(!IsSafe(test.rule));
+  EXPECT_EQ(world.Read(test.file), test.mended.empty() ? test.broken : test.mended);
+
+  CheckedWorld sound;
+  if (!test.innocent.empty())
+    sound.Write(test.file, test.innocent);
+  EXPECT_FALSE(Tell(sound).rules.contains(test.rule));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Kinds, testing::ValuesIn(Cases()),
+                         [](const auto& one) { return one.param.rule; });
