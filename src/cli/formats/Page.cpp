@@ -27,11 +27,12 @@ QByteArray BuiltIn(const char* name) {
   return file.readAll();
 }
 
-// The browser would ask for the map of the source.
-QByteArray WithoutSourceMap(QByteArray script) {
-  if (const qsizetype comment = script.lastIndexOf("//# sourceMappingURL"); comment >= 0)
-    script.truncate(comment);
-  return script;
+// A browser would ask for the source's map, which the last comment names.
+QByteArray WithoutSourceMap(QByteArray code) {
+  constexpr qsizetype OpeningSlashes = 2;
+  if (const qsizetype name = code.lastIndexOf("# sourceMappingURL"); name >= OpeningSlashes)
+    code.truncate(name - OpeningSlashes);
+  return code;
 }
 
 QByteArray HashesOf(std::initializer_list<QByteArray> parts) {
