@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 scripts/install.sh run
 cmake --preset release >build-configure.log 2>&1 || { cat build-configure.log; exit 1; }
 rm -f build-configure.log
-cmake --build --preset release --target orvalis program_folder
+cmake --build --preset release --target orvalis orvalis-world program_folder
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec build/release/bin/orvalis

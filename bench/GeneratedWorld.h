@@ -28,6 +28,8 @@ class GeneratedWorld {
   /// Bytes of the data files and the information file.
   [[nodiscard]] size_t Bytes() const { return bytes_; }
 
+  [[nodiscard]] Text Folder() const { return folder_.Folder(); }
+
   [[nodiscard]] const ProgramPaths& Paths() const { return paths_; }
 
  private:

@@ -4,8 +4,10 @@
 #include "app/Context.h"
 #include "app/windows/frmMain.h"
 #include "mapdata/windows/MapArea.h"
+#include "mapdata/windows/MapGestures.h"
 #include "mapdata/windows/MapView.h"
 #include "platform/PosixFile.h"
+#include "platform/windows/PictureReader.h"
 #include "platform/windows/QtText.h"
 #include "support/GermanNames.h"
 #include "support/RecordingDesktop.h"
@@ -14,10 +16,12 @@
 #include <benchmark/benchmark.h>
 
 #include <QAction>
+#include <QEventLoop>
 #include <QImageReader>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include <fstream>
 
@@ -109,8 +113,7 @@ void ResizeWithMarkers(benchmark::State& state) {
 
 void ResizePictureAlone(benchmark::State& state) {
   Window window;
-  if (!window.View().LoadPicture(World().Picture(0)))
-    state.SkipWithError("the picture can't be read");
+  window.View().Change(World().Picture(0), World().Data(0), u"no category");
   int step = 0;
   for (auto _ : state)
     state.SetIterationTime(window.Step(step++));
@@ -148,6 +151,133 @@ void PaintPlainPicture(benchmark::State& state) {
   int step = 0;
   for (auto _ : state)
     state.SetIterationTime(widget.Step(step++));
+}
+
+// A widget that paints a part of the picture, from the pixels that a view of this scale needs.
+class PlainPart : public QWidget {
+ public:
+  explicit PlainPart(double scale)
+      : picture_(PictureReader::Read(World().Picture(0), Screen * scale)), length_(1 / scale) {
+    resize(Screen);
+    show();
+    QApplication::processEvents();
+  }
+
+  double Step(int number) {
+    return Frame::Seconds(*this, [this, number] {
+      left_ = 0.1 + 0.01 * (number % 2);
+      update();
+    });
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(rect()), picture_,
+                      {left_ * picture_.width(), 0.1 * picture_.height(),
+                       length_ * picture_.width(), length_ * picture_.height()});
+  }
+
+ private:
+  QImage picture_;
+  double length_;
+  double left_ = 0;
+};
+
+template <int Percent>
+void PaintPart(benchmark::State& state) {
+  PlainPart widget(Percent / 100.0);
+  int step = 0;
+  for (auto _ : state)
+    state.SetIterationTime(widget.Step(step++));
+}
+
+// The main window with 81 markers and their names, in a closer view that is as sharp as it gets.
+class CloserWindow : public Window {
+ public:
+  explicit CloserWindow(double scale) {
+    Show(0);
+    Zoom(scale);
+    WaitForSharpFrame();
+  }
+
+  void Zoom(double factor) { Q_EMIT Gestures().ZoomWanted(View().rect().center(), factor); }
+
+  void Pan(const QPoint& by) { Q_EMIT Gestures().PanWanted(by); }
+
+  /// The processor time until what a zoom left to do is on the screen.
+  double WaitForSharpFrame() {
+    QApplication::processEvents();
+    const double start = ProcessSeconds();
+    QEventLoop untilPainted;
+    QTimer::singleShot(MostMilliseconds, &untilPainted, &QEventLoop::quit);
+    const QuitOnPaint quit(Map(), untilPainted);
+    untilPainted.exec();
+    return ProcessSeconds() - start;
+  }
+
+ private:
+  static constexpr int MostMilliseconds = 2000;
+
+  class QuitOnPaint : public QObject {
+   public:
+    QuitOnPaint(QWidget& widget, QEventLoop& loop) : loop_(loop) {
+      widget.installEventFilter(this);
+    }
+
+   protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Paint)
+        loop_.quit();
+      return false;
+    }
+
+   private:
+    QEventLoop& loop_;
+  };
+
+  MapGestures& Gestures() { return *View().findChild<MapGestures*>(); }
+};
+
+template <int Percent>
+void ZoomStep(benchmark::State& state) {
+  CloserWindow window(Percent / 100.0);
+  double factor = 1.02;
+  for (auto _ : state) {
+    state.SetIterationTime(
+        Frame::Seconds(window.Map(), [&window, factor] { window.Zoom(factor); }));
+    factor = 1 / factor;
+  }
+}
+
+template <int Percent>
+void PanStep(benchmark::State& state) {
+  CloserWindow window(Percent / 100.0);
+  int by = 20;
+  for (auto _ : state) {
+    state.SetIterationTime(Frame::Seconds(window.Map(), [&window, by] { window.Pan({by, by}); }));
+    by = -by;
+  }
+}
+
+void SharpFrame(benchmark::State& state) {
+  CloserWindow window(4);
+  for (auto _ : state) {
+    window.Zoom(0);
+    static_cast<void>(window.WaitForSharpFrame());
+    window.Zoom(4);
+    state.SetIterationTime(window.WaitForSharpFrame());
+  }
+}
+
+void ReadWholeJpeg(benchmark::State& state) {
+  for (auto _ : state) {
+    const double start = ProcessSeconds();
+    QImageReader reader(ToQt(World().Picture(0)));
+    benchmark::DoNotOptimize(reader.read());
+    state.SetIterationTime(ProcessSeconds() - start);
+  }
 }
 
 // 81 names in another language, from a file of 5,000 names.
@@ -330,6 +460,14 @@ int main(int argc, char** argv) {
   Measure("ResizeWithMarkers", ResizeWithMarkers, 8);
   Measure("ResizePictureAlone", ResizePictureAlone, 8);
   Measure("PaintPlainPicture", PaintPlainPicture, 8);
+  Measure("ZoomStepAt125", ZoomStep<125>, 8);
+  Measure("PanStepAt125", PanStep<125>, 8);
+  Measure("PaintPartAt125", PaintPart<125>, 8);
+  Measure("ZoomStepAt400", ZoomStep<400>, 8);
+  Measure("PanStepAt400", PanStep<400>, 8);
+  Measure("PaintPartAt400", PaintPart<400>, 8);
+  Measure("SharpFrame", SharpFrame, 1);
+  Measure("ReadWholeJpeg", ReadWholeJpeg, 1);
   Measure("ShowGermanMarkers", ShowGermanMarkers, 8);
   Measure("ShowTranslatedMarkers", ShowTranslatedMarkers, 8);
   Measure("FirstMoveOverName", FirstMoveOverName, 1);
@@ -337,8 +475,13 @@ int main(int argc, char** argv) {
   const Ratios::Ratio ratios[] = {
       {"ShowNewRegion", "ReadJpegAtWindowSize", 1.5},
       {"ShowKnownRegion", "ShowNewRegion", 0.2},
-      {"ResizeWithMarkers", "PaintPlainPicture", 3},
+      {"ResizeWithMarkers", "PaintPlainPicture", 2},
       {"ResizeWithMarkers", "ResizePictureAlone", 3},
+      {"ZoomStepAt125", "PaintPartAt125", 1.5},
+      {"PanStepAt125", "PaintPartAt125", 1.5},
+      {"ZoomStepAt400", "PaintPartAt400", 1.5},
+      {"PanStepAt400", "PaintPartAt400", 1.5},
+      {"SharpFrame", "ReadWholeJpeg", 1.3},
       {"ShowTranslatedMarkers", "ShowGermanMarkers", 1.5},
       {"FirstMoveOverName", "ReadInfoFile", 12},
       {"FurtherMoveOverName", "FirstMoveOverName", 0.01},

@@ -45,6 +45,36 @@ void ReadWithIniOps(benchmark::State& state) {
 
 BENCHMARK(ReadWithIniOps)->Repetitions(Rounds);
 
+// A file of 60,000 keys, whose names `nameOf` makes of their numbers, and one look-up in it.
+template <typename NameOf>
+void LookUpOnce(benchmark::State& state, NameOf nameOf) {
+  std::string bytes = "[a]\n";
+  for (unsigned key = 0; key < 60'000; ++key)
+    bytes += nameOf(key) + "=1,2\n";
+  for (auto _ : state) {
+    const ProfileFile file{std::string(bytes)};
+    benchmark::DoNotOptimize(file.Value("a", "none"));
+  }
+}
+
+void LookUpAmongOrdinaryNames(benchmark::State& state) {
+  LookUpOnce(state, [](unsigned key) { return "Name " + std::to_string(10'000'000'000 + key); });
+}
+
+// Signs that differ in the one bit that tells capital letters from small ones.
+void LookUpAmongSigns(benchmark::State& state) {
+  LookUpOnce(state, [](unsigned key) {
+    std::string name(16, '^');
+    for (unsigned bit = 0; bit < name.size(); ++bit)
+      if ((key >> bit & 1U) != 0)
+        name[bit] = '~';
+    return name;
+  });
+}
+
+BENCHMARK(LookUpAmongOrdinaryNames)->Repetitions(Rounds);
+BENCHMARK(LookUpAmongSigns)->Repetitions(Rounds);
+
 void ReadWithQSettings(benchmark::State& state) {
   // QSettings shares what it has read until nobody holds it, and then keeps it for a while.
   for (auto _ : state) {
@@ -108,7 +138,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int onlyName = 1;
   const QGuiApplication forPictures(onlyName, argv);
-  const Ratios::Ratio ratios[] = {{"ReadWithIniOps", "ReadWithGKeyFile", 1},
+  const Ratios::Ratio ratios[] = {{"LookUpAmongSigns", "LookUpAmongOrdinaryNames", 2},
+                                  {"ReadWithIniOps", "ReadWithGKeyFile", 1},
                                   {"ReadWithIniOps", "ReadWithInih", 1},
                                   {"ReadWithIniOps", "ReadWithQSettings", 1}};
   return Ratios::Run(argc, argv, ratios);

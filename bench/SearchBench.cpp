@@ -1,6 +1,6 @@
 #include "GeneratedWorld.h"
 #include "Ratios.h"
-#include "i18n/LOCAL.h"
+#include "app/World.h"
 #include "search/Search.h"
 
 #include <benchmark/benchmark.h>
@@ -19,13 +19,12 @@ constexpr double MemoryLimit = 3;
 // An eighth of all names begins like this term, none is it.
 constexpr TextView NoHit = u"Händler zzz";
 
-class Speaking : public LOCAL::Language {
+class Speaking : public World {
  public:
-  Speaking(const GeneratedWorld& world, const Text& language) : Language(world.Paths()) {
-    IniOps::Cache cache;
+  Speaking(const GeneratedWorld& generated, const Text& folder) : World(generated.Folder()) {
     Snapshot files(cache);
-    Start(files, language);
-    CacheTranslationTable(files);
+    language.Start(files, folder);
+    language.CacheTranslationTable(files);
   }
 };
 
@@ -39,9 +38,9 @@ EntityCache Filled(const GeneratedWorld& world, const LOCAL::Language& language)
 }
 
 void Fill(benchmark::State& state, const GeneratedWorld& world, const Text& language) {
-  Speaking speaking(world, language);
+  const Speaking speaking(world, language);
   for (auto _ : state)
-    benchmark::DoNotOptimize(Filled(world, speaking));
+    benchmark::DoNotOptimize(Filled(world, speaking.language));
 }
 
 void FillGerman(benchmark::State& state) {
@@ -65,10 +64,10 @@ void FillMillion(benchmark::State& state) {
 }
 
 Search::State ReadyToSearch() {
-  Speaking german(MeasuredWorld(), u"Deutsch");
+  const Speaking german(MeasuredWorld(), u"Deutsch");
   Search::State search;
   search.SearchTerm = NoHit;
-  search.Cache = Filled(MeasuredWorld(), german);
+  search.Cache = Filled(MeasuredWorld(), german.language);
   return search;
 }
 
@@ -95,23 +94,22 @@ void PlainStartsWith(benchmark::State& state) {
 
 void FindFirstTranslated(benchmark::State& state) {
   Search::State search = ReadyToSearch();
-  Speaking english(MeasuredWorld(), u"English");
+  const Speaking english(MeasuredWorld(), u"English");
   IniOps::Cache cache;
   for (auto _ : state) {
     Snapshot files(cache);
-    benchmark::DoNotOptimize(
-        Search::FindFirst(search, files, english, MeasuredWorld().Paths(), NoHit));
+    benchmark::DoNotOptimize(Search::FindFirst(search, files, english, NoHit));
   }
 }
 
 void TranslateNames(benchmark::State& state) {
   const auto names = NamesOf(ReadyToSearch().Cache);
-  Speaking english(MeasuredWorld(), u"English");
+  const Speaking english(MeasuredWorld(), u"English");
   IniOps::Cache cache;
   for (auto _ : state) {
     Snapshot files(cache);
     for (const Text& name : names)
-      benchmark::DoNotOptimize(english.LocalizeEntityName(files, name));
+      benchmark::DoNotOptimize(english.language.LocalizeEntityName(files, name));
   }
 }
 
@@ -123,9 +121,9 @@ size_t HeapBytes() {
 
 // What the cache keeps, the bytes of the information file included.
 bool MemoryHolds() {
-  Speaking german(MeasuredWorld(), u"Deutsch");
+  const Speaking german(MeasuredWorld(), u"Deutsch");
   const size_t before = HeapBytes();
-  const EntityCache cache = Filled(MeasuredWorld(), german);
+  const EntityCache cache = Filled(MeasuredWorld(), german.language);
   const double ratio =
       static_cast<double>(HeapBytes() - before) / static_cast<double>(MeasuredWorld().Bytes());
   std::cout << "memory of " << cache.Size() << " records / bytes of the files = " << ratio

@@ -67,6 +67,20 @@ void RequireOneLineChanged(std::string_view before, std::string_view after) {
   Require(lost.find_first_of("\r\n") == std::string_view::npos, "other lines keep their bytes");
 }
 
+// Every line stands where the file says it does, and nothing is between the lines.
+void RequirePlaces(const ProfileFile& file) {
+  std::string joined;
+  for (const ProfileLines::Line& line : ProfileLines::Lines(file.Bytes()))
+    joined.append(line.raw).append(line.end);
+  Require(joined == file.Bytes(), "the lines put together are the file");
+  size_t line = 0;
+  for (const ProfileFile::Section& section : file.Sections()) {
+    const auto place = file.PlaceOf(section.header);
+    Require(place && place->column == 1 && place->line > line, "headers have lines of their own");
+    line = place->line;
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
@@ -74,6 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
   const Entry entry{std::string(TakeField(input)), std::string(TakeField(input)),
                     std::string(TakeField(input))};
   const ProfileFile before{std::string(input)};
+  RequirePlaces(before);
   if (!CanBeAsked(entry))
     return 0;
   const std::string written = before.WithValue(entry.section, entry.key, entry.value);

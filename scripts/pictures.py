@@ -86,6 +86,8 @@ def german(camera):
     camera.dialog("info", "Mirka die Heilerin")
     keys("alt+a", "Escape", "Right", "Right", "Down", "Right", "h")
     camera.window("crowded")
+    keys("plus", "plus", "plus", "plus")
+    camera.window("closer")
     keys("ctrl+f")
     camera.program.dialog("^Suchen$")
     camera.program.type("Schmied")

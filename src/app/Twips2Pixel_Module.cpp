@@ -6,12 +6,12 @@
 
 namespace {
 
-// Not in 16 bits: a map beyond 32767 twips, as on every screen of 3840 pixels, keeps its markers
-// on their spots.
-int Resample(int frame, int mapLength, int twips) {
+// Not in 16 bits: a map beyond 32767 twips, as on every screen of 3840 pixels, keeps its markers on
+// their spots.
+int Resample(int frame, double mapLength, int twips) {
   if (frame == 0)
     return 0;
-  return Twips2Pixel_Module::Round(static_cast<double>(mapLength) / frame * twips);
+  return Twips2Pixel_Module::Round(mapLength / frame * twips);
 }
 
 }  // namespace
@@ -32,17 +32,17 @@ int PixelsToTwipsY(const Screen& screen, int pixels) {
   return Round(screen.twipsPerPixelY * pixels);
 }
 
-int ResampleX(const Screen& screen, int mapWidth, int twips) {
+int ResampleX(const Screen& screen, double mapWidth, int twips) {
   return Resample(PixelsToTwipsX(screen, FrameWidth), mapWidth, twips);
 }
 
-int ResampleY(const Screen& screen, int mapHeight, int twips) {
+int ResampleY(const Screen& screen, double mapHeight, int twips) {
   return Resample(PixelsToTwipsY(screen, FrameHeight), mapHeight, twips);
 }
 
-Twips PointOnMap(const Screen& screen, const Twips& mapSize, int x, int y) {
-  return {ResampleX(screen, mapSize.x, PixelsToTwipsX(screen, x)),
-          ResampleY(screen, mapSize.y, PixelsToTwipsY(screen, y))};
+Twips PointOnMap(const Screen& screen, const Twips& mapSize, int x, int y, double scale) {
+  return {ResampleX(screen, mapSize.x * scale, PixelsToTwipsX(screen, x)),
+          ResampleY(screen, mapSize.y * scale, PixelsToTwipsY(screen, y))};
 }
 
 }  // namespace Twips2Pixel_Module

@@ -14,6 +14,7 @@ inline constexpr int FrameHeight = 768;
 struct Screen {
   double twipsPerPixelX = 15;
   double twipsPerPixelY = 15;
+  bool operator==(const Screen&) const = default;
 };
 
 /// A point on the map, or a size, in twips.
@@ -33,12 +34,13 @@ struct Twips {
 [[nodiscard]] int PixelsToTwipsY(const Screen& screen, int pixels);
 
 /// Horizontal twips of the 1024-pixel frame as twips across a map `mapWidth` twips wide.
-[[nodiscard]] int ResampleX(const Screen& screen, int mapWidth, int twips);
+[[nodiscard]] int ResampleX(const Screen& screen, double mapWidth, int twips);
 
 /// Vertical twips of the 768-pixel frame as twips down a map `mapHeight` twips high.
-[[nodiscard]] int ResampleY(const Screen& screen, int mapHeight, int twips);
+[[nodiscard]] int ResampleY(const Screen& screen, double mapHeight, int twips);
 
-/// The position (x, y) of the frame on a map of the given size in twips.
-[[nodiscard]] Twips PointOnMap(const Screen& screen, const Twips& mapSize, int x, int y);
+/// The position (x, y) of the frame on a map of the given size in twips, enlarged by `scale`.
+[[nodiscard]] Twips PointOnMap(const Screen& screen, const Twips& mapSize, int x, int y,
+                               double scale = 1);
 
 }  // namespace Twips2Pixel_Module

@@ -8,18 +8,12 @@ namespace {
 
 using Addresses::Kind;
 using Addresses::Target;
+using Texts::IsDigit;
+using Texts::IsLetter;
 
 // What a URI may hold: besides letters and digits, these.
 constexpr std::string_view UriCharacters = "-._~:/?#[]@!$&'()*+,;=%";
 constexpr std::string_view MailCharacters = "-._~@+";
-
-bool IsLetter(char16_t unit) {
-  return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
-}
-
-bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
-}
 
 std::string Encoded(TextView text, std::string_view plain) {
   constexpr std::string_view hex = "0123456789ABCDEF";
@@ -61,12 +55,12 @@ Target Web(TextView address, TextView afterScheme) {
 
 namespace Addresses {
 
-Target Judge(TextView uri) {
+Target Classify(TextView uri) {
   const TextView text = Unquoted(Texts::Trim(uri));
   if (text.empty() || text.front() == u'-')
     return {};
   if (Texts::Lower(text.substr(0, 4)) == u"www.")
-    return Judge(Texts::Join(u"http://", text));
+    return Classify(Texts::Join(u"http://", text));
   const Text scheme = SchemeOf(text);
   if (scheme.empty())
     return {Kind::Path, {}, Text(text)};

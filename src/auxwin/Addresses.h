@@ -11,17 +11,17 @@ namespace Addresses {
 /// What can be done with a text that shall be opened.
 enum class Kind { Web, Mail, Path, Refused };
 
-/// A judged text: an address ready to be handed over (ASCII, as in a URI), or a path.
+/// A classified text: an address ready to be handed over (ASCII, as in a URI), or a path.
 struct Target {
   Kind kind = Kind::Refused;
   std::string address;
   Text path;
 };
 
-/// Judges the text without blanks and one pair of double quotes around it. Addresses of the web
+/// Classifies the text without blanks and one pair of double quotes around it. Addresses of the web
 /// stay as they are but for characters that no URI may hold; one without scheme that begins with
 /// "www." gets "http://". A mail address can't bring headers of its own. Any other scheme, and
 /// what begins with "-", is refused.
-[[nodiscard]] Target Judge(TextView uri);
+[[nodiscard]] Target Classify(TextView uri);
 
 }  // namespace Addresses

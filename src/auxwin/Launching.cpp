@@ -19,7 +19,7 @@ bool LeadsUp(std::string_view path) {
   return false;
 }
 
-// Judged is what will be opened, not how it was asked for. Links may lead out of the folder: a
+// What counts is what will be opened, not how it was asked for. Links may lead out of the folder: a
 // package's program folder is made of them.
 bool IsBelow(std::string_view file, TextView folder) {
   const auto resolved = FileSystem::Resolve(folder);
@@ -34,7 +34,7 @@ bool IsBelow(std::string_view file, TextView folder) {
 
 }  // namespace
 
-Launching::Judged Launching::Judge(TextView path) const {
+Launching::Checked Launching::Check(TextView path) const {
   const auto file = FileSystem::FileExists(path) ? FileSystem::Resolve(path) : std::nullopt;
   if (!file)
     return {Desktop::FileMissing, {}};
@@ -43,7 +43,7 @@ Launching::Judged Launching::Judge(TextView path) const {
 }
 
 Desktop::Result Launching::ShellExec(TextView URI) {
-  const Addresses::Target target = Addresses::Judge(URI);
+  const Addresses::Target target = Addresses::Classify(URI);
   switch (target.kind) {
     case Addresses::Kind::Web:
     case Addresses::Kind::Mail:
@@ -60,12 +60,12 @@ Desktop::Result Launching::OpenDocument(TextView path) {
   const Text page = Documents::PageBeside(path);
   if (!page.empty())
     return OpenHelp(path, page);
-  const auto [result, file] = Judge(path);
+  const auto [result, file] = Check(path);
   return result == Desktop::Started ? desktop_.Open(file) : result;
 }
 
 Desktop::Result Launching::OpenHelp(TextView path, TextView page) {
-  const auto [result, file] = Judge(path);
+  const auto [result, file] = Check(path);
   if (result == Desktop::Started && desktop_.HasViewer(HelpFiles) &&
       desktop_.Open(file) == Desktop::Started)
     return Desktop::Started;
@@ -74,7 +74,7 @@ Desktop::Result Launching::OpenHelp(TextView path, TextView page) {
 }
 
 Desktop::Result Launching::ShowPage(TextView path) {
-  const auto [result, file] = Judge(path);
+  const auto [result, file] = Check(path);
   if (result != Desktop::Started)
     return result;
   if (!desktop_.HasViewer(Pages) || desktop_.Open(file) != Desktop::Started)
@@ -83,7 +83,7 @@ Desktop::Result Launching::ShowPage(TextView path) {
 }
 
 Desktop::Result Launching::StartProgram(TextView path) {
-  const auto [result, file] = Judge(path);
+  const auto [result, file] = Check(path);
   return result == Desktop::Started
              ? desktop_.StartProgram(file, NativePath::ToBytes(paths_.programFolder))
              : result;

@@ -23,12 +23,12 @@ class Launching {
 
  private:
   // A file to open, in the system's bytes; `result` says why it is not to be opened.
-  struct Judged {
+  struct Checked {
     Desktop::Result result;
     std::string file;
   };
 
-  [[nodiscard]] Judged Judge(TextView path) const;
+  [[nodiscard]] Checked Check(TextView path) const;
   Desktop::Result OpenDocument(TextView path);
   Desktop::Result OpenHelp(TextView path, TextView page);
 

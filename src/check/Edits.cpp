@@ -28,7 +28,7 @@ Edit Replaced(const Source& source, std::string_view part, std::string bytes) {
 std::vector<Edit> Merged(const Source& source, const Source::Section& into,
                          const Source::Section& from) {
   size_t end = into.end;
-  while (end > into.line + 1 && source.Lines()[end - 1].listed.empty())
+  while (end > into.line + 1 && !source.Lines()[end - 1].isListed)
     --end;
   const std::string_view moved =
       from.line + 1 < from.end ? Between(source, from.line + 1, from.end) : std::string_view();

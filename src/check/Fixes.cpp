@@ -39,6 +39,9 @@ Text Bare(TextView key) {
 class Scope {
  public:
   explicit Scope(const Finding& finding) : finding_(&finding), section_(Lower(finding.section)) {
+    for (const Edit& edit : finding.edits)
+      if (edit.bytes.starts_with('[') && edit.bytes.ends_with(']'))
+        written_ = Lower(Words::Decoded(edit.bytes.substr(1, edit.bytes.size() - 2)));
     if (!finding.source || finding.rule != Rules::Id::S03)
       return;
     // An indented header takes its lines out of the list above it.
@@ -51,7 +54,8 @@ class Scope {
     if (file != finding_->file)
       return false;
     const Text lower = Lower(section);
-    return section_.empty() || lower == section_ || (!above_.empty() && lower == above_);
+    return section_.empty() || lower == section_ || (!above_.empty() && lower == above_) ||
+           (!written_.empty() && lower == written_);
   }
 
   [[nodiscard]] bool Holds(const Sight& sight) const {
@@ -71,6 +75,8 @@ class Scope {
   const Finding* finding_;
   Text section_;
   Text above_;
+  // The name that the fix gives to the section.
+  Text written_;
 };
 
 // The fixes of one file that are tried together.
@@ -113,10 +119,16 @@ class Trial {
         left.erase(known);
         return true;
       }
-      return std::ranges::any_of(scopes, [&finding](const Scope& scope) {
-        return scope.Holds(finding.file, finding.section);
-      });
+      return !IsOfTwoSections(finding.rule) &&
+             std::ranges::any_of(scopes, [&finding](const Scope& scope) {
+               return scope.Holds(finding.file, finding.section);
+             });
     });
+  }
+
+  // What a fix can bring about in its own section.
+  [[nodiscard]] static bool IsOfTwoSections(Rules::Id rule) {
+    return rule == Rules::Id::S04 || rule == Rules::Id::S05;
   }
 
   [[nodiscard]] bool AreGone(const std::vector<Finding>& findings,
@@ -142,7 +154,10 @@ class Trial {
     const auto isKept = [&isNamed](const Observed& one, const Observed& other) {
       return std::ranges::all_of(one, [&](const auto& entry) {
         const auto found = other.find(entry.first);
-        return (found != other.end() && found->second == entry.second) || isNamed(entry.first);
+        // What is told of a name comes and goes with it.
+        const bool same =
+            found == other.end() ? entry.first.isOfName : found->second == entry.second;
+        return same || isNamed(entry.first);
       });
     };
     return isKept(before_, after) && isKept(after, before_);

@@ -56,8 +56,8 @@ void Index::AddEntities(size_t region) {
     if (!header.plain || !header.listed)
       continue;
     for (size_t line = header.line + 1; line < header.listEnd; ++line)
-      if (const std::string_view name = source.Lines()[line].listed; !name.empty())
-        entities.push_back({region, section, line, name});
+      if (source.Lines()[line].isListed)
+        entities.push_back({region, section, line, source.Lines()[line].listed});
   }
   for (const Entity& entity : entities) {
     if (entity.region != region || entity.IsDisabled())
@@ -73,7 +73,7 @@ void Index::AddNames() {
   for (const Entity& entity : entities) {
     if (entity.IsDisabled()) {
       isOn_.emplace(Words::Folded(ProfileLines::Strip(entity.name.substr(1), " ")), false);
-    } else {
+    } else if (!entity.name.empty()) {
       names_.push_back(entity.name);
       isOn_[Words::Folded(entity.name)] = true;
     }

@@ -45,7 +45,10 @@ char16_t AccessKey(TextView caption) {
 class LanguageCheck {
  public:
   LanguageCheck(Index& index, Findings& findings, const Index::Language& language)
-      : index_(index), findings_(findings), language_(language), source_(*language.file) {}
+      : index_(index), findings_(findings), language_(language), source_(*language.file) {
+    for (const TextRow& text : index.texts)
+      texts_.emplace(KeyOf(text.section, text.key), &text);
+  }
 
   void Check() {
     CheckName();

@@ -24,9 +24,9 @@ void ObserveEntities(Index& index, Observed& seen) {
 void ObserveNames(Index& index, Observed& seen) {
   for (const std::string_view bytes : index.Names()) {
     const Text name = Decoded(bytes);
-    seen[{index.info->name, u"info", name}] =
+    seen[{index.info->name, u"info", name, true}] =
         Decoded(InfoFile::ReadRedirected(index.info->File(), bytes));
-    seen[{index.portraits->name, u"pics", name}] =
+    seen[{index.portraits->name, u"pics", name, true}] =
         Portraits::PicturePath(index.portraits->File(), index.paths.picturesFolder, name);
   }
 }
@@ -35,10 +35,10 @@ void ObserveLanguage(Index& index, const Index::Language& language, Observed& se
   for (const std::string_view bytes : index.Names()) {
     const Text name = Decoded(bytes);
     const Text shown = language.spoken->Shown(index.files, name);
-    seen[{language.file->name, u"entities", name}] =
+    seen[{language.file->name, u"entities", name, true}] =
         Join(shown, u"\n", language.spoken->Key(shown));
     if (language.info)
-      seen[{language.info->name, u"info", name}] =
+      seen[{language.info->name, u"info", name, true}] =
           Decoded(InfoFile::ReadRedirected(language.info->File(), bytes));
   }
   for (const TextRow& text : index.texts)

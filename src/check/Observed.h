@@ -9,6 +9,8 @@ struct Sight {
   Text file;
   Text section;
   Text key;
+  /// Whether the key is a name, and told of because an entity bears it.
+  bool isOfName = false;
   auto operator<=>(const Sight&) const = default;
 };
 

@@ -42,6 +42,8 @@ class LineCheck {
   // Whether there is anything about the line as such that explains every wrong position.
   bool CheckForm() {
     const std::string_view listed = line_.Line().listed;
+    if (listed.empty())
+      return TellNameless();
     if (listed.find_first_of(LineBlanks) == 0 ||
         listed.find_last_of(LineBlanks) == listed.size() - 1)
       return TellTab(listed);
@@ -82,6 +84,8 @@ class LineCheck {
     finding.edits = {Edits::Replaced(line_.File(), value_, std::move(bytes))};
     finding.isSafe = safe;
   }
+
+  bool TellNameless() { return Tell(Id::F16, line_.Line().text.raw, u"a position without a name"); }
 
   bool TellTab(std::string_view listed) {
     Finding& finding = line_.Tell(findings_, Id::F13, listed, u"a tab around a name is part of it");
@@ -263,8 +267,8 @@ class SectionCheck {
     LineCheck check(line, findings_);
     if (check.CheckForm())
       return;
-    if (entity.name.empty() || line.Read().link)
-      return CheckNameless(entity, line);
+    if (line.Read().link)
+      return CheckLinked(entity, line);
     const auto at = Value::Plain(line.Value());
     if (!at || !IsMarkPlain(line.Value()))
       return check.CheckValue();
@@ -296,10 +300,8 @@ class SectionCheck {
     return mark.empty() || mark == "*";
   }
 
-  void CheckNameless(const Index::Entity& entity, const EntityLine& line) {
-    if (line.Line().entry.key.empty())
-      line.Tell(findings_, Id::F16, line.Line().text.raw, u"a position without a name");
-    else if (const auto found = EntityFile::FoundPosition(line.Read()))
+  void CheckLinked(const Index::Entity& entity, const EntityLine& line) {
+    if (const auto found = EntityFile::FoundPosition(line.Read()))
       CheckPoint(entity, line, *found);
   }
 

@@ -20,9 +20,15 @@ Source::Source(Kind ofKind, Text ofPath, Text shortName, std::shared_ptr<const P
   CloseSections();
 }
 
+void Source::AddLine(const ProfileLines::Line& text, size_t section, size_t listedIn) {
+  const auto listed = text.ListedKey();
+  lines_.push_back(
+      {text, text.AsEntry(), listed.has_value(), listed.value_or(""), section, listedIn});
+}
+
 void Source::ReadLines() {
   for (const ProfileLines::Line& text : file_->LinesBefore())
-    lines_.push_back({text, text.AsEntry(), text.ListedKey().value_or(""), None, None});
+    AddLine(text, None, None);
   size_t listedIn = None;
   for (const ProfileFile::Section& section : file_->Sections()) {
     const size_t number = sections_.size();
@@ -30,14 +36,14 @@ void Source::ReadLines() {
     const size_t headerEnd = Offset(section.header) + section.header.size();
     const ProfileLines::Line header{section.header,
                                     Bytes().substr(headerEnd, Offset(section.body) - headerEnd)};
+    AddLine(header, number, listedIn);
     // An indented header is a name of the list above it.
-    const auto listed = endsList ? std::string_view() : header.ListedKey().value_or("");
-    lines_.push_back({header, header.AsEntry(), listed, number, listedIn});
+    lines_.back().isListed &= !endsList;
     listedIn = endsList ? number : listedIn;
     sections_.push_back({section.name, section.header, lines_.size() - 1, 0, 0,
                          IsPlain(section.header, section.name), false, false});
     for (const ProfileLines::Line& text : ProfileFile::Lines(section))
-      lines_.push_back({text, text.AsEntry(), text.ListedKey().value_or(""), number, listedIn});
+      AddLine(text, number, listedIn);
   }
 }
 

@@ -22,14 +22,13 @@ class Source {
   struct Line {
     ProfileLines::Line text;
     ProfileLines::Entry entry;
-    /// What the list of keys takes of it; "" for a line of spaces.
+    /// Whether the list of keys takes it, and what of it.
+    bool isListed = false;
     std::string_view listed;
     /// The number of the section that the reader of values finds it in; `None` above the first.
     size_t section = None;
     /// The number of the section whose key list it is in; `None` above the first.
     size_t listedIn = None;
-
-    [[nodiscard]] bool IsListed() const { return listedIn != None && !listed.empty(); }
   };
 
   /// One section by its header line.
@@ -85,6 +84,7 @@ class Source {
   [[nodiscard]] std::string_view LineAt(size_t offset) const;
 
  private:
+  void AddLine(const ProfileLines::Line& text, size_t section, size_t listedIn);
   void ReadLines();
   void CloseSections();
 

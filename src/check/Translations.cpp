@@ -68,8 +68,8 @@ class TranslationCheck {
     const Source::Section& section = source_.Sections()[number];
     std::vector<std::string_view> keys;
     for (size_t line = section.line + 1; line < section.listEnd; ++line)
-      if (const std::string_view listed = source_.Lines()[line].listed; !listed.empty()) {
-        keys.push_back(listed);
+      if (source_.Lines()[line].isListed) {
+        keys.push_back(source_.Lines()[line].listed);
         lines_.push_back(&source_.Lines()[line]);
       }
     keys_ = PrefixIndex(keys);
@@ -144,6 +144,7 @@ class TranslationCheck {
     if (std::ranges::find(Regions, TextView(word), &RegionRow::word) != Regions.end() ||
         IsSwitchedOff(word))
       return;
+    dead_.insert(key);
     const Text replaced = words_.LocalizeEntityName(index_.files, word);
     if (replaced != Trim(word) && NameOf(replaced))
       return TellRegionWord(key, replaced);
@@ -172,8 +173,8 @@ class TranslationCheck {
   }
 
   void CheckEmpty(size_t key) {
-    const auto longer = std::ranges::find_if(names_, [key](const Translated& name) {
-      return name.key == key && name.shown.starts_with(u' ');
+    const auto longer = std::ranges::find_if(names_, [this, key](const Translated& name) {
+      return name.key == key && name.replaced != keys_[key];
     });
     if (longer == names_.end())
       return untranslated_.emplace_back(keys_[key]), void();
@@ -221,7 +222,9 @@ class TranslationCheck {
       if (name.ComesBack() || (name.key && guilty_.contains(*name.key)))
         continue;
       const auto taken = translations_.FirstPrefixOf(words_.UnlocalizeEntityName(name.shown));
-      pairs[{name.key, taken.value_or(keys_.size())}].push_back(&name);
+      // A key that begins no name is told of already.
+      if (!taken || !dead_.contains(*taken))
+        pairs[{name.key, taken.value_or(keys_.size())}].push_back(&name);
     }
     for (const auto& [pair, names] : pairs)
       TellRoundTrip(pair, names);
@@ -255,14 +258,12 @@ class TranslationCheck {
   [[nodiscard]] bool IsSameInList(const Translated& name) {
     if (language_.spoken->LocalizeEntityName(index_.files, name.back) != name.shown)
       return false;
-    std::set<std::pair<size_t, size_t>> lists;
-    for (const Index::Entity& entity : index_.entities)
-      if (const Text key = Decoded(entity.name); key == name.name || key == name.back) {
-        const auto [place, isNew] = lists.emplace(entity.region, entity.section);
-        if (!isNew)
-          return true;
-      }
-    return false;
+    if (lists_.empty())
+      for (const Index::Entity& entity : index_.entities)
+        lists_[Decoded(entity.name)].emplace(entity.region, entity.section);
+    const auto& own = lists_[name.name];
+    const auto& other = lists_[name.back];
+    return std::ranges::any_of(own, [&other](const auto& list) { return other.contains(list); });
   }
 
   void CheckLength() {
@@ -304,6 +305,9 @@ class TranslationCheck {
   std::vector<Translated> names_;
   std::set<Text> switchedOff_;
   std::set<size_t> guilty_;
+  // The sections that each name stands in.
+  std::unordered_map<Text, std::set<std::pair<size_t, size_t>>> lists_;
+  std::set<size_t> dead_;
   std::set<size_t> doubled_;
   std::vector<Text> untranslated_;
 };

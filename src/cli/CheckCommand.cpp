@@ -245,8 +245,11 @@ void Commands::AddCheck(CLI::App& app, int& status) {
   check->add_option("--format", options->format, "How to report")
       ->check(CLI::IsMember({"text", "short", "json", "sarif"}));
   check->add_option("--select", options->select, "Rules to look for, or letters of groups")
-      ->delimiter(',');
-  check->add_option("--ignore", options->ignore, "Rules not to look for")->delimiter(',');
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  check->add_option("--ignore", options->ignore, "Rules not to look for")
+      ->delimiter(',')
+      ->allow_extra_args(false);
   check->add_option("--min", options->minimum, "From which severity on the exit status is 1")
       ->check(CLI::IsMember({"fatal", "error", "warning", "note"}));
   check->add_flag("--strict", options->strict, "The same as --min note");

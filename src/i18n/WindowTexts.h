@@ -24,8 +24,8 @@ inline constexpr TextView Sources =
     u"ihrem Können gefragt haben. Ihnen allen gebührt Dank.";
 
 inline constexpr TextView ThanksTo =
-    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Halm, Jorin Kesselbach, Mathis "
-    u"Ohlendorf, Svea Brandlechner und Tilda Wiesengrund.";
+    u"Dank für Tests und Hilfe an Ansgar Riedweg, Friederike Lindhag, Jorin Kesselried, Mathis "
+    u"Ohlengrund, Svea Brandlechner und Tilda Wiesenhag.";
 
 }  // namespace Details
 

@@ -26,7 +26,7 @@ bool HasLongNumber(TextView styled) {
   size_t digits = 0;
   bool color = false;
   return std::any_of(styled.begin(), styled.end(), [&](char16_t unit) {
-    digits = unit >= u'0' && unit <= u'9' ? digits + 1 : 0;
+    digits = Texts::IsDigit(unit) ? digits + 1 : 0;
     color = unit == u'#' || (color && digits > 0);
     return digits > NumberLength && !color;
   });

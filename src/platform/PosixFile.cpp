@@ -46,13 +46,6 @@ class Descriptor {
   int number_;
 };
 
-std::string Folder(const std::string& path) {
-  const auto slash = path.rfind('/');
-  if (slash == std::string::npos)
-    return ".";
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
 // The file that a chain of links ends at, also where that file does not exist yet.
 std::string LinkTarget(std::string path) {
   constexpr int mostLinks = 40;
@@ -62,7 +55,7 @@ std::string LinkTarget(std::string path) {
     if (length <= 0)
       break;
     target.resize(static_cast<size_t>(length));
-    path = target.front() == '/' ? target : Folder(path).append("/").append(target);
+    path = target.front() == '/' ? target : PosixFile::FolderOf(path).append("/").append(target);
   }
   return path;
 }
@@ -121,6 +114,13 @@ void CopyOwnership(int file, const std::string& from, mode_t mode) {
 }  // namespace
 
 namespace PosixFile {
+
+std::string FolderOf(const std::string& path) {
+  const auto slash = path.rfind('/');
+  if (slash == std::string::npos)
+    return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
 
 bool Exists(const std::string& path) {
   struct stat status {};
@@ -194,7 +194,8 @@ bool Replace(const std::string& path, const std::string& bytes) {
     ::unlink(temporary.c_str());
     return false;
   }
-  const Descriptor folder(::open(Folder(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor folder(
+      ::open(PosixFile::FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder.Open())
     ::fsync(folder.Number());
   return true;
@@ -217,7 +218,7 @@ std::vector<std::string> Entries(const std::string& folder) {
 std::string ExecutableFolder() {
   const std::unique_ptr<char, void (*)(void*)> path(::realpath("/proc/self/exe", nullptr),
                                                     std::free);
-  return path ? Folder(path.get()) : ".";
+  return path ? PosixFile::FolderOf(path.get()) : ".";
 }
 
 bool ChangeFolder(const std::string& folder) {

@@ -26,6 +26,9 @@ struct Contents {
   Stamp stamp;
 };
 
+/// The folder that a path names something in, without a separator at its end; "." if it names none.
+[[nodiscard]] std::string FolderOf(const std::string& path);
+
 /// Whether anything stands under the path.
 [[nodiscard]] bool Exists(const std::string& path);
 

@@ -11,6 +11,16 @@ using TextView = std::u16string_view;
 /// Operations on texts that more than one room needs.
 namespace Texts {
 
+/// Whether the character is one of the ten digits.
+[[nodiscard]] constexpr bool IsDigit(char16_t unit) {
+  return unit >= u'0' && unit <= u'9';
+}
+
+/// Whether the character is a letter of ASCII.
+[[nodiscard]] constexpr bool IsLetter(char16_t unit) {
+  return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
 /// The text without leading and trailing spaces (U+0020 only; tabs stay).
 [[nodiscard]] TextView Trim(TextView text);
 

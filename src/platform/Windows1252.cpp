@@ -52,8 +52,7 @@ std::optional<std::string> Encode(TextView text) {
 
 bool IsLetterOrDigit(char16_t unit) {
   constexpr TextView others = u"ŠšŒœŽžŸƒªºµ";
-  const char16_t lower = Lower(unit);
-  return (unit >= u'0' && unit <= u'9') || (lower >= u'a' && lower <= u'z') ||
+  return Texts::IsDigit(unit) || Texts::IsLetter(unit) ||
          (unit >= u'À' && unit <= u'ÿ' && unit != u'×' && unit != u'÷') ||
          others.find(unit) != TextView::npos;
 }

@@ -13,7 +13,7 @@ using Addresses::Kind;
 
 namespace {
 
-struct Judged {
+struct Classified {
   const char* what;
   Text uri;
   Kind kind;
@@ -46,7 +46,7 @@ constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
 }  // namespace
 
 TEST(Addresses, OnlyTheWebMailAndPathsPass) {
-  const Judged table[] = {
+  const Classified table[] = {
       {"as it stands", u"http://a.example/b?c=%20d#e", Kind::Web, "http://a.example/b?c=%20d#e"},
       {"letter case", u"HTTPS://A.example", Kind::Web, "HTTPS://A.example"},
       {"blanks around", u"  www.a.example ", Kind::Web, "http://www.a.example"},
@@ -74,13 +74,13 @@ TEST(Addresses, OnlyTheWebMailAndPathsPass) {
       {"very long", u"http://" + Text(10'000, u'a'), Kind::Web,
        "http://" + std::string(10'000, 'a')},
   };
-  for (const Judged& row : table) {
-    const Addresses::Target target = Addresses::Judge(row.uri);
+  for (const Classified& row : table) {
+    const Addresses::Target target = Addresses::Classify(row.uri);
     EXPECT_EQ(target.kind, row.kind) << row.what;
     EXPECT_EQ(target.address, row.address) << row.what;
   }
-  EXPECT_EQ(Addresses::Judge(u"\"/a b/c.chm\"").path, u"/a b/c.chm");
-  EXPECT_EQ(Addresses::Judge(u"/a/\"b\".chm").path, u"/a/\"b\".chm");
+  EXPECT_EQ(Addresses::Classify(u"\"/a b/c.chm\"").path, u"/a b/c.chm");
+  EXPECT_EQ(Addresses::Classify(u"/a/\"b\".chm").path, u"/a/\"b\".chm");
 }
 
 TEST(Documents, TheTextBetweenTheFirstTwoPointsChoosesTheViewer) {

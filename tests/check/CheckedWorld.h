@@ -19,7 +19,7 @@ class CheckedWorld {
       Write(std::string(region) + ".jpg", "2048x1536");
     }
     Write("arvenna.data", "[NPC]\nAlrik=512,300\n[smiths]\nBaldrun=10,20\n");
-    Write("info.data", "[info]\nAlrik=He waits.\n");
+    Write("info.data", "[info]\nBerta=She waits.\n");
     Write("orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\n");
   }
 

@@ -105,7 +105,7 @@ const std::vector<Case>& Cases() {
        "[smiths]\nAlrik=1,2\n[hunters]\nCuno=3,4\n", "the 1 of the first one twice",
        "[smiths]\nAlrik=1,2\nCuno=3,4\n"},
       {"S05", "arvenna.data", "[npc]\nCuno=3,4\n[NPC]\nAlrik=1,2\n", "[NPC]\nAlrik=1,2\n",
-       "all stand at 0,0", "[NPC]\nCuno=3,4\nAlrik=1,2\n"},
+       "they stand at 0,0", "[NPC]\nCuno=3,4\nAlrik=1,2\n"},
       {"S06", "arvenna.data", "[techers]\nAlrik=1,2\n", "[teachers]\nAlrik=1,2\n",
        "search finds its 1 entity", "[teachers]\nAlrik=1,2\n"},
       {"S07", "arvenna.data", "[NPC]\nAlrik=1,2\n[undead]\nCuno=3,4\n",
@@ -136,12 +136,13 @@ const std::vector<Case>& Cases() {
       {"P11", "arvenna.data", "[smiths]\nAlrik=1,2\nAlrik=3,4\n",
        "[smiths]\nAlrik=1,2\n;Alrik=3,4\n", "marker stands at 1,2", "[smiths]\nAlrik=1,2\n"},
       {"P12", "arvenna.data", "[smiths]\nHaus = Hof=1,2\n", "[smiths]\nHaus=1,2\n",
-       "stands at 0,0"},
+       "stands at 0,2"},
       {"P13", "arvenna.data", "[smiths]\nAlrik=1,2\nCuno=1,2\n", "[NPC]\nAlrik=1,2\nCuno=1,2\n",
        "can't be pointed at"},
       {"P14", "arvenna.data", "[NPC]\nAlrik=1,2\n[smiths]\nAlrik=3,4\n",
        "[NPC]\nAlrik=1,2\n[smiths]\nAlrik=#,NPC\n", "stands at 3,4"},
-      {"P15", "skaldor.data", "[NPC]\nalrik=1,2\n", "[NPC]\nAlrik=1,2\n", "one of the two", ""},
+      {"P15", "skaldor.data", "[NPC]\nalrik=1,2\n", "[NPC]\nAlrik=1,2\n", "one of the two",
+       "[NPC]\nAlrik=1,2\n"},
       {"L01", "arvenna.data", "[NPC]\nAlrik=#,smiths\n[smiths]\nCuno=1,2\n",
        "[NPC]\nAlrik=#,smiths\n[smiths]\nAlrik=1,2\n", "search ends the program"},
       {"L02", "arvenna.data", "[NPC]\nAlrik=#,smiths\n[smiths]\n;Alrik=1,2\n",
@@ -184,25 +185,25 @@ const std::vector<Case>& Cases() {
        "http://http://www", Lng("website=www.x.example\n")},
       {"T10", German, Lng("[ui]\nHighlighted=lit \n"), Lng("[ui]\nHighlighted = lit\n"), "\"lit\"",
        Lng("[ui]\nHighlighted=\"lit \"\n")},
-      {"T12", German, Lng("[entities]\nAl=El\nAlrik=Ulric\nBaldrun=B\nBerta=C\n"),
-       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=B\nBerta=C\n"),
+      {"T12", German, Lng("[entities]\nAl=El\nAlrik=Ulric\nBaldrun=Zed\nBerta=C\n"),
+       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=Zed\nBerta=C\n"),
        "\"Elrik\" instead of \"Ulric\"",
-       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=B\nBerta=C\n")},
-      {"T13", German, Lng("[entities]\nAlrik=B\nBaldrun=B\nBerta=C\n"),
-       Lng("[entities]\nAlrik=A\nBaldrun=B\nBerta=C\n"), "\"Baldrun\" can't be picked"},
-      {"T15", German, Lng("[entities]\nAlrk=Al\nBaldrun=B\n"),
+       Lng("[entities]\nAlrik=Ulric\nAl=El\nBaldrun=Zed\nBerta=C\n")},
+      {"T13", German, Lng("[entities]\nAlrik=Zed\nBaldrun=Zed\nBerta=C\n"),
+       Lng("[entities]\nAlrik=A\nBaldrun=Zed\nBerta=C\n"), "\"Baldrun\" can't be picked"},
+      {"T15", German, Lng("[entities]\nAlrk=Al\nBaldrun=Zed\n"),
        Lng("[entities]\nAlri=Al\nArvenna=A\n"), "never used",
-       Lng("[entities]\nAlrik=Al\nBaldrun=B\n")},
-      {"T17", German, Lng("[entities]\nAl=\nBaldrun=B\n"), Lng("[entities]\nAlrik=\nBaldrun=B\n"),
-       "counts as no name"},
+       Lng("[entities]\nAlrik=Al\nBaldrun=Zed\n")},
+      {"T17", German, Lng("[entities]\nAl=\nBaldrun=Zed\n"),
+       Lng("[entities]\nAlrik=\nBaldrun=Zed\n"), "is shown as \"rik\""},
   };
   return cases;
 }
 
 // What is told of worlds as small as these, whatever the case is about.
 bool IsNoise(const Text& rule) {
-  static const std::set<Text> noise = {u"W08", u"S08", u"I07", u"T05",
-                                       u"T06", u"T20", u"T21", u"T22"};
+  static const std::set<Text> noise = {u"W08", u"S08", u"I07", u"T05", u"T06",
+                                       u"T11", u"T20", u"T21", u"T22"};
   return noise.contains(rule);
 }
 

@@ -24,6 +24,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <array>
@@ -53,6 +54,10 @@ constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSi
 constexpr std::array<Qt::Key, 12> Keys = {
     Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Up,  Qt::Key_Right, Qt::Key_Left,
     Qt::Key_Return, Qt::Key_Space,   Qt::Key_Home, Qt::Key_End, Qt::Key_F1,    Qt::Key_A};
+constexpr std::array<int, 6> WheelDeltas = {120, 240, -120, 15, 0, 10'000};
+constexpr std::array<Qt::Key, 5> ZoomKeys = {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_0,
+                                             Qt::Key_F5};
+constexpr std::array<Qt::Key, 4> PanKeys = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
 // What a program without a focus must not answer.
 constexpr std::array<Qt::Key, 4> IdleKeys = {Qt::Key_Down, Qt::Key_Space, Qt::Key_A,
                                              Qt::Key_Return};
@@ -123,6 +128,7 @@ class Driver : public QObject {
     else if (window && !busy_) {
       busy_ = true;
       CheckTruth(*window);
+      truth_->Begin();
       InWindow(*window);
       busy_ = false;
     }
@@ -170,7 +176,7 @@ class Driver : public QObject {
       window.close();
       return;
     }
-    switch (random_() % 10) {
+    switch (random_() % 11) {
       case 0:
         what = "resizing";
         window.resize(Any(Sizes));
@@ -188,6 +194,10 @@ class Driver : public QObject {
       case 5:
         what = "a key";
         PressKey(window);
+        break;
+      case 6:
+        what = "looking closer";
+        LookCloser(window);
         break;
       default:
         Command(window);
@@ -274,6 +284,43 @@ class Driver : public QObject {
     send(QEvent::MouseMove, Qt::NoButton);
     if (doubleClick)
       send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+  }
+
+  void LookCloser(QMainWindow& window) {
+    QWidget* const map = window.centralWidget()->findChild<QWidget*>(QStringLiteral("imgMap"));
+    const auto any = [this](int length) {
+      return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, length)));
+    };
+    const QPoint at = {any(map->width()), any(map->height())};
+    QWidget* const focused = window.focusWidget() ? window.focusWidget() : &window;
+    switch (random_() % 4) {
+      case 0: {
+        QWheelEvent wheel(at, map->mapToGlobal(at), {}, {0, Any(WheelDeltas)}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(map, &wheel);
+        break;
+      }
+      case 1:
+        QTest::keyClick(focused, Any(ZoomKeys));
+        break;
+      case 2:
+        QTest::keyClick(focused, Any(PanKeys), Qt::ShiftModifier);
+        break;
+      default:
+        Drag(*map, at, {any(map->width()), any(map->height())});
+    }
+  }
+
+  static void Drag(QWidget& map, const QPoint& from, const QPoint& to) {
+    const auto send = [&map](QEvent::Type type, const QPoint& at, Qt::MouseButtons held) {
+      QMouseEvent event(type, at, map.mapToGlobal(at),
+                        type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held,
+                        Qt::NoModifier);
+      QApplication::sendEvent(&map, &event);
+    };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    send(QEvent::MouseMove, to, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, to, Qt::NoButton);
   }
 
   void PressKey(QWidget& window) {

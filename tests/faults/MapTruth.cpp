@@ -3,6 +3,8 @@
 #include "app/MenuTable.h"
 #include "controls/windows/GridListbox.h"
 #include "i18n/windows/frmLang.h"
+#include "mapdata/windows/MapFocus.h"
+#include "mapdata/windows/MapGestures.h"
 #include "mapdata/windows/ctlLocation.h"
 #include "perks/windows/frmPerks.h"
 #include "platform/NativePath.h"
@@ -35,6 +37,8 @@ constexpr int NameGap = 50;
 constexpr int NameRise = 40;
 constexpr int Frame = 90;
 constexpr int HeadingGap = 120;
+// In twips.
+constexpr int EdgeOfView = 30;
 
 QString Indexed(const char* name, int slot) {
   return slot < 0 ? QLatin1String(name)
@@ -67,13 +71,15 @@ MapTruth::MapTruth(QMainWindow& window)
     : QObject(&window),
       window_(window),
       map_(*window.centralWidget()),
-      world_(NativePath::FromBytes(PosixFile::ExecutableFolder())) {
-  IniOps::Snapshot files(cache_);
-  language_.Start(files, world_.ChosenLanguage());
+      world_(NativePath::FromBytes(PosixFile::ExecutableFolder())),
+      size_(map_.size()) {
+  IniOps::Snapshot files(world_.cache);
+  world_.language.Start(files, world_.ChosenLanguage());
   const auto menus = MenuTable::Captions();
-  const InterfaceTexts texts =
-      language_.IsGerman() ? RestoreGerman(menus) : Translate_UI(files, language_, menus);
-  language_.CacheTranslationTable(files);
+  const InterfaceTexts texts = world_.language.IsGerman()
+                                   ? RestoreGerman(menus)
+                                   : Translate_UI(files, world_.language, menus);
+  world_.language.CacheTranslationTable(files);
   captions_ = texts.menus;
   prompt_ = ToQt(texts.prompt);
   Connect();
@@ -89,12 +95,89 @@ void MapTruth::Connect() {
           [this] { ShowHit(Search::FindNext(search_)); });
   auto* const items = map_.findChild<QComboBox*>(QStringLiteral("cboItems"));
   connect(items, &QComboBox::activated, this, [this, items](int row) {
-    if (kind_ == Kind::List)
-      Pick(items->itemText(row));
+    if (kind_ != Kind::List)
+      return;
+    Pick(items->itemText(row));
+    if (item_)
+      BringIntoView(InView(*item_));
   });
   for (int slot = 0; slot < Slots; ++slot)
     connect(map_.findChild<ctlLocation*>(Indexed("DOT", slot)), &ctlLocation::MouseMove, this,
             [this, slot] { hovered_ = slot; });
+  const auto* gestures = map_.findChild<MapGestures*>();
+  connect(gestures, &MapGestures::ZoomWanted, this, &MapTruth::Zoom);
+  connect(gestures, &MapGestures::KeyZoomWanted, this,
+          [this](double factor) { Zoom(anchor_, factor); });
+  connect(gestures, &MapGestures::PanWanted, this, [this](const QPoint& by) {
+    Pan(by.x() * TwipsPerPixel(map_), by.y() * TwipsPerPixel(map_));
+  });
+  connect(gestures, &MapGestures::KeyPanWanted, this, [this](int right, int down) {
+    Pan(right * std::floor(map_.width() * TwipsPerPixel(map_) / 8),
+        down * std::floor(map_.height() * TwipsPerPixel(map_) / 8));
+  });
+  connect(gestures, &MapGestures::RepeatWanted, this, &MapTruth::Repeated);
+  connect(map_.findChild<MapFocus*>(), &MapFocus::Reached, this, [this](size_t number) {
+    for (const Spot& spot : Spots())
+      if (spot.slot + 1 == static_cast<int>(number))
+        BringIntoView(InView(spot));
+  });
+}
+
+// The marker that the keyboard is on shows its name again.
+void MapTruth::Repeated() {
+  hovered_ = -1;
+  const QWidget* focused = window_.focusWidget();
+  for (int slot = 0; focused && slot < Slots; ++slot)
+    if (focused->objectName() == Indexed("DOT", slot))
+      hovered_ = slot;
+  if (kind_ == Kind::List || kind_ == Kind::Hit)
+    Pick(listed_);
+}
+
+void MapTruth::Begin() {
+  const auto* marker = qobject_cast<const ctlLocation*>(window_.focusWidget());
+  anchor_ = marker ? marker->geometry().center() : map_.rect().center();
+}
+
+bool MapTruth::CanZoom() {
+  return kind_ != Kind::Nothing && (kind_ != Kind::Markers || IsReadable(picture_));
+}
+
+void MapTruth::ShowWhole() {
+  scale_ = 1;
+  left_ = 0;
+  top_ = 0;
+}
+
+void MapTruth::Zoom(const QPoint& at, double factor) {
+  if (!CanZoom())
+    return;
+  const double scale = factor > 0 ? std::clamp(scale_ * factor, 1.0, 8.0) : 1;
+  const QPointF point = QPointF(at) * TwipsPerPixel(map_);
+  left_ = (left_ + point.x()) * scale / scale_ - point.x();
+  top_ = (top_ + point.y()) * scale / scale_ - point.y();
+  scale_ = scale;
+  Clamp();
+}
+
+void MapTruth::Pan(double right, double down) {
+  left_ -= right;
+  top_ -= down;
+  Clamp();
+}
+
+void MapTruth::BringIntoView(const QPoint& corner) {
+  const auto step = [](int from, int length) {
+    return from < 0 ? -from : -std::max(0, std::min(from, from + MarkerWidth - length));
+  };
+  Pan(step(corner.x(), Rounded(map_.width() * TwipsPerPixel(map_))),
+      step(corner.y(), Rounded(map_.height() * TwipsPerPixel(map_))));
+}
+
+void MapTruth::Clamp() {
+  const double most = (scale_ - 1) * TwipsPerPixel(map_);
+  left_ = std::clamp(left_, 0.0, most * map_.width());
+  top_ = std::clamp(top_, 0.0, most * map_.height());
 }
 
 void MapTruth::Watch(QWidget& dialog) {
@@ -104,7 +187,7 @@ void MapTruth::Watch(QWidget& dialog) {
       search_.SearchMode = chosen ? Search::Mode::Names : Search::Mode::Descriptions;
     });
     connect(find, &frmFind::SearchStarted, this, [this, find] {
-      IniOps::Snapshot files(cache_);
+      IniOps::Snapshot files(world_.cache);
       ShowHit(
           Search::FindFirst(search_, files, world_, FromQt(find->findChild<QLineEdit*>()->text())));
     });
@@ -130,11 +213,12 @@ bool MapTruth::eventFilter(QObject*, QEvent* event) {
 }
 
 void MapTruth::SpeakAs(const InterfaceTexts& texts, const Text& file) {
-  IniOps::Snapshot files(cache_);
-  language_.Choose(files, file);
-  language_.CacheTranslationTable(files);
+  IniOps::Snapshot files(world_.cache);
+  world_.language.Choose(files, file);
+  world_.language.CacheTranslationTable(files);
   if (!texts.menus.empty())
     captions_ = texts.menus;
+  ShowWhole();
   prompt_ = ToQt(texts.prompt);
   kind_ = Kind::Nothing;
 }
@@ -167,6 +251,7 @@ bool MapTruth::IsReadable(const Text& picture) {
 }
 
 void MapTruth::ShowList(const Text& picture, const Text& data, const Text& category) {
+  ShowWhole();
   kind_ = Kind::Nothing;
   if (!IsReadable(picture))
     return;
@@ -176,14 +261,15 @@ void MapTruth::ShowList(const Text& picture, const Text& data, const Text& categ
   item_.reset();
   found_.clear();
   listed_ = prompt_;
-  IniOps::Snapshot files(cache_);
+  IniOps::Snapshot files(world_.cache);
   rows_ = {prompt_};
-  for (const Text& name : EntityFile::ReadNames(files, data, category, language_))
+  for (const Text& name : EntityFile::ReadNames(files.File(data), category, files, world_.language))
     rows_ << ToQt(name);
 }
 
 void MapTruth::ShowMarkers(const Text& picture, const Text& data, const Text& category,
                            const QString& heading, bool onHover) {
+  ShowWhole();
   kind_ = Kind::Markers;
   picture_ = picture;
   data_ = data;
@@ -194,8 +280,8 @@ void MapTruth::ShowMarkers(const Text& picture, const Text& data, const Text& ca
 }
 
 std::optional<EntityFile::Position> MapTruth::PositionOf(const QString& name) {
-  IniOps::Snapshot files(cache_);
-  return EntityFile::ReadPicked(files, data_, category_, language_.Key(FromQt(name)));
+  IniOps::Snapshot files(world_.cache);
+  return EntityFile::ReadPicked(files.File(data_), category_, world_.language.Key(FromQt(name)));
 }
 
 void MapTruth::Pick(const QString& name) {
@@ -205,8 +291,10 @@ void MapTruth::Pick(const QString& name) {
     return;
   found_ = name.isEmpty() ? found_ : name;
   if (const auto position = PositionOf(found_)) {
-    const QPoint before = PointOf(position->x, position->y) - QPoint(Before, Before);
-    item_ = Spot{.at = before, .name = found_, .caption = Padded(found_)};
+    item_ = Spot{.point = {position->x, position->y},
+                 .before = Before,
+                 .name = found_,
+                 .caption = Padded(found_)};
   }
 }
 
@@ -215,6 +303,7 @@ void MapTruth::ShowHit(const Search::Outcome& outcome) {
   if (!hit)
     return;
   const CachedEntity entity = search_.Cache.At(hit->index);
+  ShowWhole();
   kind_ = Kind::Nothing;
   item_.reset();
   if (!IsReadable(entity.Map))
@@ -222,10 +311,10 @@ void MapTruth::ShowHit(const Search::Outcome& outcome) {
   kind_ = Kind::Hit;
   data_ = entity.Database;
   category_ = entity.Section;
-  IniOps::Snapshot files(cache_);
-  heading_ = ToQt(Search::ResultHeading(search_, files, language_));
-  const QString name = ToQt(language_.Shown(files, entity.Name));
-  const Spot atPoint = {.at = PointOf(entity.X, entity.Y), .name = name, .caption = name};
+  IniOps::Snapshot files(world_.cache);
+  heading_ = ToQt(Search::ResultHeading(search_, files, world_.language));
+  const QString name = ToQt(world_.language.Shown(files, entity.Name));
+  const Spot atPoint = {.point = {entity.X, entity.Y}, .name = name, .caption = name};
   listed_ = rows_.contains(ToQt(entity.Name)) ? ToQt(entity.Name) : QString();
   if (!listed_.isEmpty())
     Pick(listed_);
@@ -238,26 +327,52 @@ void MapTruth::ShowHit(const Search::Outcome& outcome) {
 
 void MapTruth::Resized() {
   hovered_ = -1;
+  // The middle stays in the middle.
+  const QSize now = map_.size();
+  const auto kept = [this](double before, int from, int to) {
+    const double twips = TwipsPerPixel(map_);
+    return from > 0 ? (before + from * twips / 2) * to / from - to * twips / 2 : 0;
+  };
+  left_ = kept(left_, size_.width(), now.width());
+  top_ = kept(top_, size_.height(), now.height());
+  size_ = now;
+  Clamp();
   if (kind_ == Kind::List || kind_ == Kind::Hit)
     Pick(listed_);
 }
 
 QPoint MapTruth::PointOf(int x, int y) const {
   const double twips = TwipsPerPixel(map_);
-  const auto scaled = [twips](int pixels, int frame, int position) {
-    return Rounded(std::nearbyint(pixels * twips) / std::nearbyint(frame * twips) *
+  const auto scaled = [this, twips](int pixels, int frame, int position) {
+    return Rounded(std::nearbyint(pixels * twips) * scale_ / std::nearbyint(frame * twips) *
                    std::nearbyint(position * twips));
   };
-  return {scaled(map_.width(), 1024, x), scaled(map_.height(), 768, y)};
+  return {scaled(map_.width(), 1024, x) - Rounded(left_),
+          scaled(map_.height(), 768, y) - Rounded(top_)};
+}
+
+QPoint MapTruth::InView(const Spot& spot) const {
+  return PointOf(spot.point.x(), spot.point.y()) - QPoint(spot.before, spot.before);
+}
+
+// How far a marker's nearest side lies inside of the map, in twips; below 0 it is outside.
+int MapTruth::Inside(const Spot& spot) const {
+  const QPoint at = InView(spot);
+  const double twips = TwipsPerPixel(map_);
+  return std::min({at.x() + MarkerWidth, at.y() + MarkerWidth,
+                   Rounded(map_.width() * twips) - at.x(),
+                   Rounded(map_.height() * twips) - at.y()});
 }
 
 std::vector<MapTruth::Spot> MapTruth::MarkersOfCategory() {
   std::vector<Spot> spots;
-  IniOps::Snapshot files(cache_);
+  IniOps::Snapshot files(world_.cache);
   int slot = 0;
-  for (const auto& marker : EntityFile::ReadMarkers(files, data_, category_, language_, Slots)) {
+  for (const auto& marker :
+       EntityFile::ReadMarkers(files.File(data_), category_, files, world_.language, Slots)) {
     if (!marker.disabled)
-      spots.push_back({.at = PointOf(marker.position.x, marker.position.y) - QPoint(Before, Before),
+      spots.push_back({.point = {marker.position.x, marker.position.y},
+                       .before = Before,
                        .name = ToQt(marker.name),
                        .caption = Padded(ToQt(marker.name)),
                        .highlighted = marker.highlighted,
@@ -293,7 +408,14 @@ std::string MapTruth::Fault() {
 
 std::string MapTruth::FaultOfShown(const std::vector<Spot>& spots) const {
   std::set<QString> wanted = {QStringLiteral("imgMap"), QStringLiteral("linMenuSep")};
+  std::set<QString> either;
   for (const Spot& spot : spots) {
+    // By a rounding a marker at the very edge may be seen or not.
+    if (scale_ > 1 && std::abs(Inside(spot)) <= EdgeOfView)
+      either.insert({spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot),
+                     spot.slot < 0 ? QStringLiteral("lblCaption") : Indexed("lblDOT", spot.slot)});
+    if (scale_ > 1 && Inside(spot) <= 0)
+      continue;
     if (spot.markerShown)
       wanted.insert(spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot));
     if (spot.labelShown)
@@ -306,7 +428,7 @@ std::string MapTruth::FaultOfShown(const std::vector<Spot>& spots) const {
     wanted.insert({QStringLiteral("cboItems"), QStringLiteral("btnInfo")});
   for (const QWidget* child : map_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     const QString name = child->objectName();
-    if (!name.isEmpty() && child->isHidden() == (wanted.count(name) > 0))
+    if (!name.isEmpty() && either.count(name) == 0 && child->isHidden() == (wanted.count(name) > 0))
       return (name +
               (child->isHidden() ? QStringLiteral(" is hidden") : QStringLiteral(" is shown")))
           .toStdString();
@@ -320,21 +442,34 @@ std::string MapTruth::FaultOfShown(const std::vector<Spot>& spots) const {
   return {};
 }
 
-int MapTruth::NameLeft(const Spot& spot, int left, int width) const {
-  const int right = left + MarkerWidth + NameGap;
-  const int before = left - width - NameGap;
+// From the marker's left edge: the name keeps the side that it has at scale 1.
+int MapTruth::NameLeft(const Spot& spot, int width) const {
+  const double twips = TwipsPerPixel(map_);
+  const int left = Rounded(std::nearbyint(map_.width() * twips) / std::nearbyint(1024 * twips) *
+                           std::nearbyint(spot.point.x() * twips)) -
+                   spot.before;
+  const int right = MarkerWidth + NameGap;
+  const int before = -width - NameGap;
   int at = spot.slot >= 0 && spot.slot % 2 == 0 ? before : right;
-  if (spot.slot >= 0 && at < 0)
+  if (spot.slot >= 0 && left + at < 0)
     at = right;
-  return at + width > Rounded(map_.width() * TwipsPerPixel(map_)) + Frame ? before : at;
+  return left + at + width > Rounded(map_.width() * twips) + Frame ? before : at;
 }
 
 std::string MapTruth::FaultOf(const Spot& spot) const {
   const double twips = TwipsPerPixel(map_);
   const QString name = spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot);
-  auto& marker = static_cast<const ctlLocation&>(Part(name));
-  const QPoint at = {Rounded(spot.at.x() / twips), Rounded(spot.at.y() / twips)};
-  if (spot.markerShown && marker.pos() != at)
+  const auto& marker = static_cast<const ctlLocation&>(Part(name));
+  const QPoint corner = InView(spot);
+  // The places of a closer view are sums of many roundings.
+  const int most = scale_ > 1 ? 2 : 0;
+  const auto differs = [most](const QPoint& is, const QPoint& should) {
+    return std::abs(is.x() - should.x()) > most || std::abs(is.y() - should.y()) > most;
+  };
+  if (scale_ > 1 && Inside(spot) <= EdgeOfView)
+    return {};
+  const QPoint at = {Rounded(corner.x() / twips), Rounded(corner.y() / twips)};
+  if (spot.markerShown && differs(marker.pos(), at))
     return Said(name, QStringLiteral("at ") + Said(marker.pos()), Said(at));
   if (spot.markerShown && marker.Desc() != spot.name)
     return Said(name, marker.Desc(), spot.name);
@@ -347,11 +482,11 @@ std::string MapTruth::FaultOf(const Spot& spot) const {
   if (label.text() != spot.caption)
     return Said(label.objectName(), label.text(), spot.caption);
   const int width = Rounded(label.width() * twips);
-  const QPoint beside = {Rounded(NameLeft(spot, spot.at.x(), width) / twips),
-                         Rounded((spot.at.y() - NameRise) / twips)};
-  return label.pos() == beside
-             ? std::string()
-             : Said(label.objectName(), QStringLiteral("at ") + Said(label.pos()), Said(beside));
+  const QPoint beside = {Rounded((corner.x() + NameLeft(spot, width)) / twips),
+                         Rounded((corner.y() - NameRise) / twips)};
+  return differs(label.pos(), beside)
+             ? Said(label.objectName(), QStringLiteral("at ") + Said(label.pos()), Said(beside))
+             : std::string();
 }
 
 std::string MapTruth::FaultOfList() const {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/StartUp.h"
+#include "app/World.h"
 #include "i18n/InterfaceTexts.h"
-#include "i18n/LOCAL.h"
 #include "mapdata/world/EntityFile.h"
 #include "search/Search.h"
 
 #include <QObject>
 #include <QPoint>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +29,9 @@ class MapTruth : public QObject {
   /// To be called for each dialog of the program when it opens.
   void Watch(QWidget& dialog);
 
+  /// To be called before each step: what the keyboard is on, which a zoom by key leaves in place.
+  void Begin();
+
   /// What is wrong with what the window shows, or with its focus; "" if nothing is.
   [[nodiscard]] std::string Fault();
 
@@ -40,7 +43,9 @@ class MapTruth : public QObject {
 
   // A marker and its name as they are to be seen.
   struct Spot {
-    QPoint at;
+    // Its position in the frame, and how many twips before that its corner stands.
+    QPoint point;
+    int before = 0;
     QString name;
     QString caption;
     bool highlighted = false;
@@ -58,24 +63,33 @@ class MapTruth : public QObject {
   void Pick(const QString& name);
   void ShowHit(const Search::Outcome& outcome);
   void Resized();
+  void Repeated();
   void SpeakAs(const InterfaceTexts& texts, const Text& file);
   [[nodiscard]] bool IsReadable(const Text& picture);
   [[nodiscard]] std::optional<EntityFile::Position> PositionOf(const QString& name);
   [[nodiscard]] std::vector<Spot> MarkersOfCategory();
   [[nodiscard]] std::vector<Spot> Spots();
+  void ShowWhole();
+  void Zoom(const QPoint& at, double factor);
+  void Pan(double right, double down);
+  void BringIntoView(const QPoint& corner);
+  void Clamp();
+  [[nodiscard]] bool CanZoom();
+  // Where a position is on the map, and the corner of its marker; in twips.
   [[nodiscard]] QPoint PointOf(int x, int y) const;
+  [[nodiscard]] QPoint InView(const Spot& spot) const;
+  [[nodiscard]] int Inside(const Spot& spot) const;
   [[nodiscard]] std::string FaultOf(const Spot& spot) const;
   [[nodiscard]] std::string FaultOfShown(const std::vector<Spot>& spots) const;
   [[nodiscard]] std::string FaultOfList() const;
   [[nodiscard]] std::string FaultOfFocus() const;
   [[nodiscard]] QWidget& Part(const QString& name) const;
-  [[nodiscard]] int NameLeft(const Spot& spot, int left, int width) const;
+  [[nodiscard]] int NameLeft(const Spot& spot, int width) const;
 
   QMainWindow& window_;
   QWidget& map_;
+  // Opened from the same folder; nothing is shared with the program's own.
   World world_;
-  IniOps::Cache& cache_ = world_.cache;
-  LOCAL::Language& language_ = world_.language;
   std::vector<Text> captions_;
   QString prompt_;
   Search::State search_;
@@ -94,6 +108,12 @@ class MapTruth : public QObject {
   QStringList rows_;
   // Where the single marker stands and what its name says; none if there is nothing to see of it.
   std::optional<Spot> item_;
+  double scale_ = 1;
+  // What lies left of and above the map, in twips.
+  double left_ = 0;
+  double top_ = 0;
+  QSize size_;
+  QPoint anchor_;
   // The entity shown last, which a resize goes by where the list has no row selected.
   QString found_;
 };

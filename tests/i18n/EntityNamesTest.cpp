@@ -124,7 +124,7 @@ TEST(EntityNames, AnEditedFileGivesNewTranslationsOfTheSameKeys) {
 TEST(EntityNames, MayBePrefixesOfEachOther) {
   for (const bool longestFirst : {false, true}) {
     std::string entities;
-    for (size_t line = 0; line < 32767; ++line) {
+    for (size_t line = 0; line < 8192; ++line) {
       const size_t length = longestFirst ? 2000 - line % 2000 : line % 2000 + 1;
       entities.append(length, 'x').append(line < 2000 ? "" : std::to_string(line)).append("=\n");
     }

@@ -45,12 +45,12 @@ expect "a folder of the world" "$(cat "$own/LANG/Français/Français.lng")" text
 expect "settings are a copy" "$(test -L "$own/orvalis.ini" && echo link || echo copy)" copy
 
 echo language=English >"$own/orvalis.ini"
-mkdir "$own/LANG/Klingon"
+mkdir "$own/LANG/Frostish"
 rm "$own/arvenna.data"
 echo mine >"$own/arvenna.data"
 start >/dev/null
 expect "the language lasts" "$(cat "$own/orvalis.ini")" language=English
-expect "a language of one's own stays" "$(test -d "$own/LANG/Klingon" && echo there)" there
+expect "a language of one's own stays" "$(test -d "$own/LANG/Frostish" && echo there)" there
 expect "a map of one's own stays" "$(cat "$own/arvenna.data")" mine
 
 release second

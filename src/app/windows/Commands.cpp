@@ -53,7 +53,7 @@ void Commands::Run(const MenuRow& row) {
 }
 
 void Commands::ShowInfo() {
-  frmInfo(&mainWindow_, context_.world, map_.InfoEntityName).exec();
+  frmInfo(&mainWindow_, context_.world, map_.InfoEntityName()).exec();
 }
 
 void Commands::ChooseLanguage() {

@@ -22,7 +22,8 @@ QSize StartSize(const QWidget& widget) {
 frmMain::frmMain(Context& context)
     : context_(context),
       menus_(new MenuBar(this)),
-      map_(new MapView(context.world.cache, context.world.language, this)),
+      map_(new MapView(context.world.cache, context.world.language, this,
+                       context.world.paths.programFolder + u"overview.jpg")),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
   WindowTitle::Set(*this, StartUp::Caption(context.world.edition));

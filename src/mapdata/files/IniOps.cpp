@@ -11,7 +11,7 @@ using IniOps::LargestFile;
 
 // The region shown, its descriptions and the language: what the pointer and a resize ask for again
 // and again. Any other file is parsed anew in milliseconds.
-constexpr size_t MostKeptFiles = 3;
+constexpr size_t MaximumKeptFiles = 3;
 
 // Two edits of equal size within one tick of the file system's clock leave the same stamp.
 constexpr int64_t UntrustedAge = 2'500'000'000;
@@ -74,7 +74,7 @@ std::shared_ptr<const ProfileFile> Cache::Get(TextView file) {
   auto profile = Parsed(std::move(contents->bytes));
   if (PosixFile::Now() - contents->stamp.modified < UntrustedAge)
     return profile;
-  if (kept_.size() == MostKeptFiles)
+  if (kept_.size() == MaximumKeptFiles)
     kept_.pop_front();
   return kept_.emplace_back(Kept{Text(file), contents->stamp, std::move(profile)}).profile;
 }

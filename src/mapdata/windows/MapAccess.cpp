@@ -2,6 +2,7 @@
 
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapFocus.h"
+#include "mapdata/windows/MapPointer.h"
 #include "mapdata/windows/MapView.h"
 #include "mapdata/windows/ctlLocation.h"
 
@@ -85,7 +86,7 @@ class MarkerAccess : public QAccessibleWidget {
   }
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Description ? view_->SpokenDescription(*marker_)
+    return kind == QAccessible::Description ? view_->Pointer().SpokenDescription(*marker_)
                                             : QAccessibleWidget::text(kind);
   }
 

@@ -1,17 +1,19 @@
 #include "mapdata/windows/MapArea.h"
 
-#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
 
 namespace {
 
-constexpr TextView StartPicture = u":/builtin/overview.jpg";
+constexpr TextView BuiltIn = u":/builtin/overview.jpg";
+
+// The milliseconds without a step after which a closer view is read more sharply.
+constexpr int Rest = 150;
 
 }  // namespace
 
-MapArea::MapArea(QWidget* parent) : QWidget(parent) {
+MapArea::MapArea(QWidget* parent) : QWidget(parent), startPicture_(BuiltIn) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -19,29 +21,56 @@ QSize MapArea::DevicePixels() const {
   return (QSizeF(size()) * devicePixelRatioF()).toSize();
 }
 
+void MapArea::SetStartPicture(const Text& path) {
+  if (LoadPicture(path))
+    startPicture_ = path;
+  ShowStartPicture();
+}
+
 bool MapArea::LoadPicture(TextView path) {
   const QSize onScreen = (QSizeF(screen()->size()) * devicePixelRatioF()).toSize();
   // A window may be larger than its screen.
   if (!picture_.Load(path, DevicePixels(), onScreen.expandedTo(DevicePixels())))
     return false;
+  showsStart_ = false;
   update();
   return true;
 }
 
 void MapArea::ShowStartPicture() {
-  static_cast<void>(LoadPicture(StartPicture));
+  ShowPart({0, 0, 1, 1});
+  if (!LoadPicture(startPicture_))
+    static_cast<void>(LoadPicture(BuiltIn));
+  showsStart_ = true;
 }
 
-void MapArea::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
-  const QImage& picture = picture_.At(DevicePixels());
-  if (picture.isNull()) {
-    painter.fillRect(event->rect(), palette().window());
+void MapArea::ShowPart(const QRectF& part) {
+  if (part == part_)
     return;
-  }
-  const double ratio = devicePixelRatioF();
-  const QRectF from(QPointF(event->rect().topLeft()) * ratio, QSizeF(event->rect().size()) * ratio);
-  painter.drawImage(QRectF(event->rect()), picture, from);
+  part_ = part;
+  untilSharp_.start(Rest, this);
+  update();
+}
+
+void MapArea::PaintPixels(QPainter& painter) {
+  picture_.PaintPixels(painter, rect(), part_);
+}
+
+void MapArea::resizeEvent(QResizeEvent*) {
+  untilSharp_.start(Rest, this);
+}
+
+void MapArea::timerEvent(QTimerEvent*) {
+  untilSharp_.stop();
+  if (picture_.Sharpen(DevicePixels(), part_))
+    update();
+}
+
+void MapArea::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (!picture_.IsOpaque())
+    painter.fillRect(rect(), palette().window());
+  picture_.Paint(painter, rect(), DevicePixels(), part_);
   // Now that the picture is on the screen: a later resize finds its pixels there.
   if (!picture_.IsSettled())
     QTimer::singleShot(0, this, [this] { picture_.Settle(); });

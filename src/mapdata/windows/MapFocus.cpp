@@ -31,9 +31,9 @@ std::optional<MarkerWalk::Direction> DirectionOf(int key) {
   }
 }
 
-// The marker that the key leads to; a key that walks nowhere leads to where it is.
-size_t Target(const std::vector<ctlLocation*>& markers, size_t from, int key) {
-  const size_t last = markers.size() - 1;
+// The point that the key leads to; a key that walks nowhere leads to where it is.
+size_t Target(const std::vector<MarkerWalk::Point>& points, size_t from, int key) {
+  const size_t last = points.size() - 1;
   if (key == Qt::Key_Home || key == Qt::Key_End)
     return key == Qt::Key_Home ? 0 : last;
   if (key == Qt::Key_PageDown)
@@ -41,13 +41,7 @@ size_t Target(const std::vector<ctlLocation*>& markers, size_t from, int key) {
   if (key == Qt::Key_PageUp)
     return from == 0 ? 0 : from - 1;
   const auto direction = DirectionOf(key);
-  if (!direction)
-    return from;
-  std::vector<MarkerWalk::Point> points;
-  points.reserve(markers.size());
-  for (const ctlLocation* marker : markers)
-    points.push_back({marker->x(), marker->y()});
-  return MarkerWalk::Next(points, from, *direction).value_or(from);
+  return direction ? MarkerWalk::Next(points, from, *direction).value_or(from) : from;
 }
 
 }  // namespace
@@ -67,10 +61,18 @@ std::vector<ctlLocation*> MapFocus::Markers() const {
   return shown;
 }
 
+size_t MapFocus::NumberOf(const ctlLocation& marker) const {
+  const auto found = std::find_if(spots_.begin(), spots_.end(),
+                                  [&](const Spot& spot) { return spot.marker == &marker; });
+  return static_cast<size_t>(found - spots_.begin());
+}
+
 NameLabel& MapFocus::NameOf(const ctlLocation& marker) const {
-  return *std::find_if(spots_.begin(), spots_.end(), [&](const Spot& spot) {
-            return spot.marker == &marker;
-          })->name;
+  return *spots_[NumberOf(marker)].name;
+}
+
+void MapFocus::SetPoints(std::vector<std::optional<MarkerWalk::Point>> points) {
+  points_ = std::move(points);
 }
 
 ctlLocation* MapFocus::Current() const {
@@ -81,9 +83,9 @@ ctlLocation* MapFocus::Current() const {
   return found == spots_.end() ? nullptr : found->marker;
 }
 
-void MapFocus::Resume(ctlLocation* marker) {
-  if (marker && !marker->isHidden())
-    marker->setFocus();
+void MapFocus::Resume() {
+  if (auto* const marker = Current())
+    Rest(*marker);
 }
 
 void MapFocus::SetRingLeftOut(bool leftOut) {
@@ -122,7 +124,8 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
       Leave();
       break;
     case QEvent::Move:
-      ShowRing();
+      if (tabStop_ == &marker)
+        ShowRing();
       break;
     case QEvent::KeyPress:
       return Press(marker, static_cast<QKeyEvent&>(*event));
@@ -201,9 +204,17 @@ bool MapFocus::Press(ctlLocation& marker, const QKeyEvent& key) {
 }
 
 void MapFocus::Walk(ctlLocation& from, int key) {
-  const auto markers = Markers();
-  const auto at = std::find(markers.begin(), markers.end(), &from);
-  if (at == markers.end())
+  std::vector<size_t> numbers;
+  std::vector<MarkerWalk::Point> points;
+  for (size_t number = 0; number < points_.size(); ++number)
+    if (points_[number]) {
+      numbers.push_back(number);
+      points.push_back(*points_[number]);
+    }
+  const auto at = std::find(numbers.begin(), numbers.end(), NumberOf(from));
+  if (at == numbers.end())
     return;
-  markers[Target(markers, static_cast<size_t>(at - markers.begin()), key)]->setFocus();
+  const size_t target = numbers[Target(points, static_cast<size_t>(at - numbers.begin()), key)];
+  Q_EMIT Reached(target);
+  spots_[target].marker->setFocus();
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "mapdata/display/MarkerWalk.h"
+
 #include <QBasicTimer>
 #include <QObject>
 
+#include <optional>
 #include <vector>
 
 class FocusRing;
@@ -12,9 +15,9 @@ class QWidget;
 class ctlLocation;
 
 /// The keyboard on the map. All markers are one Tab stop; the arrow keys walk from marker to
-/// marker, Home and End to the first and the last, Page Up and Page Down through their order,
-/// Enter does what a double click does. The marker with the focus has a ring around it, and what
-/// the pointer does by resting on it and on its name happens as well.
+/// marker, Home and End to the first and the last, Page Up and Page Down through their order, Enter
+/// does what a double click does. The marker with the focus has a ring around it, and what the
+/// pointer does by resting on it and on its name happens as well.
 class MapFocus : public QObject {
   Q_OBJECT
 
@@ -24,21 +27,28 @@ class MapFocus : public QObject {
   /// Takes in a marker and its name. The first ones added come first.
   void Add(ctlLocation* marker, NameLabel* name);
 
+  /// Where the markers stand to walk over, in the order in which they were added; none for one that
+  /// is not on the map. One that is there and not shown lies outside of a closer view.
+  void SetPoints(std::vector<std::optional<MarkerWalk::Point>> points);
+
   /// The markers that are shown now, in their order.
   [[nodiscard]] std::vector<ctlLocation*> Markers() const;
 
-  /// The name beside this marker.
-  [[nodiscard]] NameLabel& NameOf(const ctlLocation& marker) const;
+  /// How many markers were added before this one.
+  [[nodiscard]] size_t NumberOf(const ctlLocation& marker) const;
 
-  /// The marker that the keyboard is on, null if it is elsewhere. `Resume` brings it back there
-  /// after the map was drawn anew.
+  /// The marker that the keyboard is on, null if it is elsewhere.
   [[nodiscard]] ctlLocation* Current() const;
-  void Resume(ctlLocation* marker);
+
+  /// Does again what resting on that marker does, after the map was drawn anew.
+  void Resume();
 
   /// Leaves the ring out of what is drawn, as on paper.
   void SetRingLeftOut(bool leftOut);
 
  Q_SIGNALS:
+  /// The walk comes to the marker of this number, which must be shown when this returns.
+  void Reached(size_t number);
   /// Escape was pressed: the focus leaves the map.
   void Left();
 
@@ -62,7 +72,10 @@ class MapFocus : public QObject {
 
   QWidget* map_;
   FocusRing* ring_;
+  [[nodiscard]] NameLabel& NameOf(const ctlLocation& marker) const;
+
   std::vector<Spot> spots_;
+  std::vector<std::optional<MarkerWalk::Point>> points_;
   ctlLocation* tabStop_ = nullptr;
   // The marker that had the focus when another window became active.
   const ctlLocation* left_ = nullptr;

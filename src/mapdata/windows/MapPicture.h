@@ -4,15 +4,19 @@
 #include "platform/Text.h"
 
 #include <QImage>
+#include <QRectF>
 
 #include <optional>
 #include <vector>
 
-/// The pictures that the map area has shown, ready to be painted at its size.
+class QPainter;
+
+/// The pictures that the map area has shown, ready to be painted at its size and in closer views.
 ///
-/// The one shown keeps its pixels, read no larger than the screen needs, so that no resize reads
-/// it again. The others keep only how they last looked: going back to one of them shows that at
-/// once, and `Settle` reads its pixels when there is time. A file that changed is read anew.
+/// The one shown keeps its pixels, read no larger than the screen needs, so that no resize reads it
+/// again; a closer view adds the sharper level that it needs. The others keep only how they last
+/// looked: going back to one of them shows that at once, and `Settle` reads its pixels when there
+/// is time. A file that changed is read anew.
 class MapPicture {
  public:
   /// Makes the picture of the file the one to show at `size` device pixels on a screen of `screen`
@@ -22,18 +26,35 @@ class MapPicture {
   /// The picture at exactly this size in device pixels.
   [[nodiscard]] const QImage& At(const QSize& size);
 
-  /// The picture's pixels as they were read, for printing.
+  /// The picture's pixels as they were read for the screen.
   [[nodiscard]] const QImage& Pixels();
 
-  /// Does what can wait until a loaded picture is on the screen: reads its pixels if they are
-  /// not, and keeps the looks of the others in less memory.
+  /// Paints `part` of the picture, in fractions of its width and height, on `target`, which is
+  /// `size` device pixels large, from what is there now.
+  void Paint(QPainter& painter, const QRectF& target, const QSize& size, const QRectF& part);
+
+  /// Whether that paints every pixel of the target.
+  [[nodiscard]] bool IsOpaque() const;
+
+  /// Paints the part with all the pixels that are there, for a device of unknown resolution.
+  void PaintPixels(QPainter& painter, const QRectF& target, const QRectF& part);
+
+  /// Makes ready what `Paint` would do better: reads the level that the part needs at this size,
+  /// scales the whole. True if it looks better now.
+  [[nodiscard]] bool Sharpen(const QSize& size, const QRectF& part);
+
+  /// Does what can wait until a loaded picture is on the screen: reads its pixels if they are not,
+  /// and keeps the looks of the others in less memory.
   void Settle();
 
   /// Whether `Settle` has been called since the last picture was loaded.
   [[nodiscard]] bool IsSettled() const { return settled_; }
 
   /// Whether the pixels of the picture shown are still to be read.
-  [[nodiscard]] bool NeedsPixels() const { return shown_ && shown_->pixels.isNull(); }
+  [[nodiscard]] bool NeedsPixels() const { return shown_ && Shown().pixels.isNull(); }
+
+  /// The pixels that are kept of the picture shown, in bytes.
+  [[nodiscard]] qsizetype BytesOfPixels() const;
 
  private:
   struct Picture {
@@ -43,11 +64,22 @@ class MapPicture {
     QImage scaled;
   };
 
-  [[nodiscard]] Picture* Find(TextView path);
-  void PackAllBut(const Picture* picture);
+  [[nodiscard]] std::optional<size_t> Find(TextView path) const;
+
+  [[nodiscard]] Picture& Shown() { return pictures_[*shown_]; }
+
+  [[nodiscard]] const Picture& Shown() const { return pictures_[*shown_]; }
+
+  [[nodiscard]] const QImage& Best(const QSizeF& whole);
+  [[nodiscard]] bool ReadLevel(const QSize& cover);
+  void PackAllBut(std::optional<size_t> picture);
 
   std::vector<Picture> pictures_;
-  Picture* shown_ = nullptr;
+  std::optional<size_t> shown_;
+  // More pixels of the picture shown than `pixels` has, while a closer view needs them.
+  QImage level_;
+  // The file has no more pixels than are there.
+  bool exhausted_ = false;
   QSize screen_;
   bool settled_ = true;
 };

@@ -1,24 +1,23 @@
 #pragma once
 
-#include "app/Twips2Pixel_Module.h"
-#include "mapdata/display/ViewState.h"
-#include "mapdata/files/IniOps.h"
-#include "mapdata/world/EntityNames.h"
+#include "mapdata/display/Plan.h"
+#include "mapdata/display/Viewport.h"
 
 #include <QWidget>
 
-class MapArea;
+#include <memory>
+
+class MapControls;
 class MapFocus;
-class MarkerSlots;
-class NameLabel;
-class QComboBox;
-class QFrame;
+class MapGestures;
+class MapLook;
+class MapPointer;
 class QPainter;
-class QToolButton;
-class ctlLocation;
 
 /// The map of the main window with everything that stands on it: one region's picture, and either
-/// the list of a category with one marker for the entity picked, or all of its entities as markers.
+/// the list of a category with one marker for the entity picked, or all of its entities as markers,
+/// or one entity that was searched for. Every display goes one way: the state is planned, the plan
+/// is laid out in the part of the picture that is shown, and the widgets are moved there.
 class MapView : public QWidget {
   Q_OBJECT
 
@@ -26,7 +25,27 @@ class MapView : public QWidget {
   /// The size of the map area when the program starts, in twips.
   static constexpr Twips2Pixel_Module::Twips StartSize = {15360, 11535};
 
-  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr);
+  /// One entity that was searched for.
+  struct Hit {
+    /// Path of the region's picture, and where the entity stands.
+    Text Map;
+    Text DataFile;
+    Text CategoryKey;
+    EntityFile::Position at;
+    /// Its name in the search, and as it is shown.
+    Text Name;
+    Text ShownName;
+    /// Shown as the name's tooltip.
+    Text Description;
+    /// As it is shown.
+    Text Heading;
+  };
+
+  /// Without a region the map shows the start picture, or where that can't be read the one that is
+  /// built into the program.
+  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr,
+          const Text& startPicture = {});
+  ~MapView() override;
 
   /// Sets the first row of the list, which begins with a blank, and the information button's
   /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
@@ -44,66 +63,43 @@ class MapView : public QWidget {
   /// picture that can't be read leaves the start-up picture and nothing on it.
   void Change(const Text& Map, const Text& Data, const Text& KindX);
 
-  /// Shows the picture `Map` and the entities of section `KindX` of the data file as markers with
-  /// a heading, whose "&" signs are left out. A picture that can't be read leaves the start-up
+  /// Shows the picture `Map` and the entities of section `KindX` of the data file as markers with a
+  /// heading, whose "&" signs are left out. A picture that can't be read leaves the start-up
   /// picture and nothing on it.
   void ChangeMulti(const Text& Map, const Text& Data, const Text& KindX, const Text& Heading,
                    bool LabelsOnHover);
 
+  /// Shows one entity with its name and a heading. Where the hidden list has a row of its name,
+  /// that is selected. A picture that can't be read leaves the start-up picture and nothing on it.
+  void ShowHit(const Hit& hit);
+
+  /// Shows the same once more, from the files as they stand now.
+  void Repeat();
+
   /// Opens the information window for this name.
   void InfoMulti(const Text& nameX);
 
+  /// The name of the entity that the information window shows; blanks around it don't count.
+  [[nodiscard]] const Text& InfoEntityName() const { return infoEntityName_; }
+
   /// The map's size in twips.
-  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const;
+  [[nodiscard]] Twips2Pixel_Module::Twips MapSize() const { return Part().MapSize(); }
+
+  /// The part of the picture that is shown.
+  [[nodiscard]] const Viewport& Part() const;
 
   /// Paints the map as it is displayed, in pixels of the screen: the picture with all its pixels,
   /// and what stands on it as sharp as the painter's device allows.
   void Paint(QPainter& painter);
 
-  /// The name of the entity that the information window shows; blanks around it don't count.
-  Text InfoEntityName;
-
-  /// What a resize draws again.
-  ViewState View;
-
-  // The steps that the display of a search hit is made of, besides those above.
-
-  /// Shows the picture in the map area; false, and the start-up picture, if it can't be read.
-  [[nodiscard]] bool LoadPicture(const Text& path);
-
-  /// The point of the map, in twips, for a position of the 1024 x 768 frame.
-  [[nodiscard]] Twips2Pixel_Module::Twips PointAt(int x, int y) const;
-
-  /// Puts the single marker with its top left corner at this point (twips) and names it.
-  void PlaceItem(const Twips2Pixel_Module::Twips& at, const Text& name);
-
-  /// Puts the single name beside the single marker, wherever that stands, and shows both.
-  void PlaceCaption(const Text& caption);
-
-  /// The single entity's name label.
-  [[nodiscard]] NameLabel& Caption() { return *lblCaption; }
-
-  /// Shows the text in the top right corner.
-  void ShowHeading(const Text& caption);
-
   /// The text in the top right corner; "" while there is none.
-  [[nodiscard]] Text Heading() const;
+  [[nodiscard]] const Text& Heading() const;
 
   /// The way of the keyboard over the markers.
   [[nodiscard]] MapFocus& Focus() { return *focus_; }
 
-  /// What a screen reader tells of a marker beside its name: whether it is highlighted, and the
-  /// start of the entity's description.
-  [[nodiscard]] QString SpokenDescription(const ctlLocation& marker);
-
-  /// The entity list, which keeps its rows while it is hidden.
-  [[nodiscard]] QComboBox& Items() { return *cboItems; }
-
-  /// Makes a section of a data file the one that the list's handler reads.
-  void SetCategory(const Text& dataFile, const Text& categoryKey);
-
-  /// Places marker and name for the list's text, or hides both for the prompt.
-  void cboItems_Click();
+  /// What there is to tell of a marker.
+  [[nodiscard]] const MapPointer& Pointer() const { return *pointer_; }
 
  Q_SIGNALS:
   /// Something is on the map that can be printed.
@@ -115,38 +111,25 @@ class MapView : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  [[nodiscard]] int WindowWidth() const;
-  void CreateControls();
   void ConnectControls();
-  void FillItems(const std::vector<Text>& names);
+  [[nodiscard]] bool Begin(const ViewState& view);
+  [[nodiscard]] bool Load();
+  void ShowPlan();
   void Form_Resize();
-  void PlaceHeading();
-  void HideItem();
+  void FillList();
+  void cboItems_Click();
   void btnInfo_Click();
-  void lblCaption_DblClick();
-  void lblCaption_MouseMove();
-  void DOT_MouseMove(int index);
-  void DOT_DblClick(int index);
-  void lblDOT_MouseMove(int index);
-  void lblDOT_DblClick(int index);
-  [[nodiscard]] QString Description(const NameLabel& label);
-  void ShowDescription(NameLabel& label);
+  void lblCaption_DblClick() { btnInfo_Click(); }
 
   IniOps::Cache& files_;
   const EntityNames& names_;
   Text prompt_;
-  Text highlighted_;
-  Text dataFile_;
-  Text categoryKey_;
-  Twips2Pixel_Module::Twips itemAt_;
 
-  MapArea* imgMap;
-  QFrame* linMenuSep;
-  NameLabel* lblCaption;
-  ctlLocation* ITEM;
-  MarkerSlots* slots_;
+  Text infoEntityName_;
+  ViewState view_;
   MapFocus* focus_;
-  NameLabel* lblMultiInfo;
-  QComboBox* cboItems;
-  QToolButton* btnInfo;
+  std::unique_ptr<MapControls> controls_;
+  MapGestures* gestures_;
+  MapLook* look_;
+  MapPointer* pointer_;
 };

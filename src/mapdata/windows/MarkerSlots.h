@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/Twips2Pixel_Module.h"
-#include "mapdata/world/EntityFile.h"
+#include "mapdata/display/Plan.h"
 
 #include <QObject>
 
@@ -17,31 +16,20 @@ class MarkerSlots : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr int Count = 81;
+  static constexpr int Count = static_cast<int>(MapPlan::MostMarkers);
 
   /// Creates all of them on the map, hidden. `between` is a sibling that stays above every label
   /// and below every marker, `above` one that stays above every marker.
   MarkerSlots(QWidget* map, QWidget* between, QWidget* above);
-
-  /// Hides and resets every slot.
-  void Clear();
-
-  /// Puts the entity's marker at the point (twips) and its label beside it; a disabled entity
-  /// takes its slot and is not shown. `windowWidth` is in twips.
-  void Set(int slot, const EntityFile::Marker& entity, const Twips2Pixel_Module::Twips& point,
-           bool labelShown, int windowWidth);
-
-  /// Shows the label of this slot and, if the others show on hover only, hides them.
-  void ShowLabel(int slot, bool alone);
 
   /// Brings the slot's marker in front of the other markers and its label in front of the other
   /// labels, so that no name covers a marker.
   void BringToFront(int slot);
 
   /// Marker and label of the slot, 0 to 80.
-  [[nodiscard]] ctlLocation& Dot(int slot) { return *dots_[static_cast<size_t>(slot)]; }
+  [[nodiscard]] ctlLocation& Dot(int slot) const { return *dots_[static_cast<size_t>(slot)]; }
 
-  [[nodiscard]] NameLabel& Label(int slot) { return *labels_[static_cast<size_t>(slot)]; }
+  [[nodiscard]] NameLabel& Label(int slot) const { return *labels_[static_cast<size_t>(slot)]; }
 
  Q_SIGNALS:
   /// The pointer moved over a marker or a label, or double-clicked it.
@@ -53,7 +41,7 @@ class MarkerSlots : public QObject {
  private:
   QWidget* between_;
   QWidget* above_;
-  std::array<ctlLocation*, Count> dots_{};
-  std::array<NameLabel*, Count> labels_{};
+  std::array<ctlLocation*, MapPlan::MostMarkers> dots_{};
+  std::array<NameLabel*, MapPlan::MostMarkers> labels_{};
   int front_ = -1;
 };

@@ -41,6 +41,11 @@ void ctlLocation::SetBackColor(int color) {
   update();
 }
 
+void ctlLocation::SetHighlighted(bool highlighted) {
+  highlighted_ = highlighted;
+  update();
+}
+
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
   const auto position = EventCodes::PositionOf(*this, *event);
   Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event), position.x, position.y);
@@ -53,7 +58,7 @@ void ctlLocation::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ctlLocation::paintEvent(QPaintEvent*) {
   const double twipsPerPixel = WidgetTwips::ScreenOf(*this).twipsPerPixelX;
-  const int outline = borderColor_ == DarkRed ? OutlineWidth : HighlightedOutlineWidth;
+  const int outline = highlighted_ ? HighlightedOutlineWidth : OutlineWidth;
   const double width = outline / twipsPerPixel;
   const double diameter = Placement::MarkerSize / twipsPerPixel - width;
   QPainter painter(this);

@@ -28,6 +28,12 @@ class ctlLocation : public QWidget {
 
   void ResetBorderColor() { SetBorderColor(DarkRed); }
 
+  /// Whether the entity stands out: a thicker outline, and what a screen reader says. The colours
+  /// are set apart from that.
+  [[nodiscard]] bool Highlighted() const { return highlighted_; }
+
+  void SetHighlighted(bool highlighted);
+
   [[nodiscard]] int BackColor() const { return backColor_; }
 
   void SetBackColor(int color);
@@ -49,4 +55,5 @@ class ctlLocation : public QWidget {
  private:
   int borderColor_ = DarkRed;
   int backColor_ = Gold;
+  bool highlighted_ = false;
 };

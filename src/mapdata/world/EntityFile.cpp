@@ -20,11 +20,6 @@ std::string_view Trim(std::string_view field) {
   return ProfileLines::Strip(field, " ");
 }
 
-std::vector<std::string_view> Keys(const ProfileFile& dataFile, TextView category) {
-  const auto section = Windows1252::Encode(category);
-  return section ? dataFile.KeyNames(*section) : std::vector<std::string_view>();
-}
-
 }  // namespace
 
 namespace EntityFile {
@@ -80,13 +75,15 @@ std::optional<Position> FoundPosition(const Entity& entity) {
 
 std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
                                 IniOps::Snapshot& files, const EntityNames& names, size_t most) {
-  const auto section = Windows1252::Encode(category).value_or(std::string());
-  auto keys = Keys(dataFile, category);
+  const auto section = Windows1252::Encode(category);
+  if (!section)
+    return {};
+  auto keys = dataFile.KeyNames(*section);
   keys.resize(std::min(keys.size(), most));
   std::vector<Marker> markers;
   markers.reserve(keys.size());
   for (const std::string_view key : keys) {
-    const Entity entity = Read(dataFile, section, key);
+    const Entity entity = Read(dataFile, *section, key);
     Marker& marker = markers.emplace_back();
     marker.key = Windows1252::Decode(key);
     marker.name = names.Shown(files, marker.key);
@@ -99,8 +96,11 @@ std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
 
 std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category, IniOps::Snapshot& files,
                             const EntityNames& names) {
+  const auto section = Windows1252::Encode(category);
+  if (!section)
+    return {};
   std::vector<Text> shown;
-  for (const std::string_view key : Keys(dataFile, category))
+  for (const std::string_view key : dataFile.KeyNames(*section))
     if (!IsDisabled(key))
       shown.push_back(names.Shown(files, Windows1252::Decode(key)));
   return shown;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mapdata/files/IniOps.h"
 #include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/EntityNames.h"
 #include "platform/Text.h"

@@ -13,12 +13,8 @@
 
 namespace {
 
-constexpr size_t LargestFile = size_t{16} * 1024 * 1024;
+constexpr size_t MaxFileSize = size_t{16} * 1024 * 1024;
 constexpr QSize StartSize(720, 600);
-
-std::string FolderOf(const std::string& path) {
-  return path.substr(0, path.rfind('/') + 1);
-}
 
 class Browser : public QTextBrowser {
  public:
@@ -37,7 +33,7 @@ class Browser : public QTextBrowser {
     if (!name.isRelative() || file.starts_with(u'/') || file.find(u"..") != Text::npos)
       return {};
     const auto found = FileSystem::Resolve(NativePath::FromBytes(folder_) + file);
-    const auto contents = found ? PosixFile::Read(*found, LargestFile) : std::nullopt;
+    const auto contents = found ? PosixFile::Read(*found, MaxFileSize) : std::nullopt;
     return contents ? QByteArray::fromStdString(contents->bytes) : QVariant();
   }
 
@@ -49,8 +45,9 @@ class Browser : public QTextBrowser {
 
 PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(parent) {
   setObjectName(QStringLiteral("pageWindow"));
-  auto* browser = new Browser(this, FolderOf(path));
-  const auto page = PosixFile::Read(path, LargestFile);
+  const std::string folder = PosixFile::FolderOf(path) + '/';
+  auto* browser = new Browser(this, folder);
+  const auto page = PosixFile::Read(path, MaxFileSize);
   // Pages are UTF-8 or, as everything else in the program's folder, Windows-1252.
   const Text text = NativePath::EntryName(page ? page->bytes : std::string());
   if (PageLimits::Hold(text))
@@ -58,7 +55,8 @@ PageWindow::PageWindow(QWidget* parent, const std::string& path) : QDialog(paren
   else
     browser->setPlainText(QtText::ToQt(text.substr(0, PageLimits::Characters)));
   const QString title = browser->documentTitle();
-  const Text name = NativePath::EntryName(path.substr(FolderOf(path).size()));
+  const Text name =
+      NativePath::EntryName(path.substr(path.starts_with(folder) ? folder.size() : 0));
   const Text shown = title.isEmpty() ? name : QtText::FromQt(title);
   WindowTitle::Set(*this, shown);
   browser->setAccessibleName(QtText::ToQt(shown));

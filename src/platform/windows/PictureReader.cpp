@@ -13,12 +13,12 @@
 
 namespace {
 
-constexpr size_t LargestFile = size_t{64} * 1024 * 1024;
-constexpr int LongestSide = 16384;
-constexpr qint64 MostPixels = 40'000'000;
+constexpr size_t MaxFileSize = size_t{64} * 1024 * 1024;
+constexpr int MaxSide = 16384;
+constexpr qint64 MaxPixels = 40'000'000;
 // What the pixels take at 32 bits each. A GIF tells the size of its first frame and takes memory
 // for its screen.
-constexpr int MostMebibytes = 153;
+constexpr int MaxMebibytes = 153;
 constexpr int SmallestPart = 8;
 
 QByteArray Bytes(TextView path) {
@@ -27,7 +27,7 @@ QByteArray Bytes(TextView path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
   const auto resolved = FileSystem::Resolve(path);
-  const auto contents = resolved ? PosixFile::Read(*resolved, LargestFile) : std::nullopt;
+  const auto contents = resolved ? PosixFile::Read(*resolved, MaxFileSize) : std::nullopt;
   return contents ? QByteArray::fromStdString(contents->bytes) : QByteArray();
 }
 
@@ -38,9 +38,9 @@ bool IsKnownFormat(const QByteArray& format) {
 }
 
 // A few bytes can claim any size, and some formats take the memory before they look further.
-bool IsSensibleSize(const QSize& size) {
-  return size.isValid() && std::max(size.width(), size.height()) <= LongestSide &&
-         qint64{size.width()} * size.height() <= MostPixels;
+bool IsAllowedSize(const QSize& size) {
+  return size.isValid() && std::max(size.width(), size.height()) <= MaxSide &&
+         qint64{size.width()} * size.height() <= MaxPixels;
 }
 
 QSize PartCovering(const QSize& whole, const QSize& cover) {
@@ -64,13 +64,13 @@ QImage Read(TextView path, QSize cover) {
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer);
   reader.setDecideFormatFromContent(true);
-  if (!IsKnownFormat(reader.format()) || !IsSensibleSize(reader.size()))
+  if (!IsKnownFormat(reader.format()) || !IsAllowedSize(reader.size()))
     return {};
-  QImageReader::setAllocationLimit(MostMebibytes);
+  QImageReader::setAllocationLimit(MaxMebibytes);
   if (cover.isValid() && reader.format() == "jpeg")
     reader.setScaledSize(PartCovering(reader.size(), cover));
   QImage picture;
-  if (!reader.read(&picture) || !IsSensibleSize(picture.size()))
+  if (!reader.read(&picture) || !IsAllowedSize(picture.size()))
     return {};
   return picture.convertToFormat(picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                            : QImage::Format_RGB32);

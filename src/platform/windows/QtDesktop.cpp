@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int MostMillisecondsToAsk = 3000;
+constexpr int MaxMillisecondsToAsk = 3000;
 
 // Never the current one, which is the program's.
 QString FolderForDocuments() {
@@ -60,7 +60,7 @@ bool QtDesktop::AskForViewer(const std::string& mimeType) {
   QProcess query;
   query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
                                            QString::fromStdString(mimeType)});
-  return query.waitForFinished(MostMillisecondsToAsk) &&
+  return query.waitForFinished(MaxMillisecondsToAsk) &&
          !query.readAllStandardOutput().trimmed().isEmpty();
 }
 

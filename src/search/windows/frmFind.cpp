@@ -1,6 +1,8 @@
 #include "search/windows/frmFind.h"
 
 #include "i18n/WindowTexts.h"
+#include "search/Names.h"
+#include "search/windows/NameSuggestions.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -67,6 +69,10 @@ frmFind::frmFind(QWidget* parent, World& world, Search::State& state)
       btnFind(Control<QPushButton>(u"btnFind")),
       btnAbort(Control<QPushButton>(u"btnAbort")) {
   LoadState();
+  new NameSuggestions(*txtFind, [this] {
+    IniOps::Snapshot files(world_.cache);
+    return Search::AllNames(files, world_.language, world_.paths);
+  });
   connect(txtFind, &QLineEdit::textChanged, this, &frmFind::txtFind_Change);
   connect(rbNamesOnly, &QRadioButton::toggled, this,
           [this](bool chosen) { ChooseMode(Mode::Names, chosen); });

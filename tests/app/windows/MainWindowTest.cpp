@@ -28,7 +28,6 @@ namespace {
 
 using Answer = std::function<void(QWidget&)>;
 
-constexpr std::array Stems = {"arvenna", "skaldor", "sarrakh", "ostrakh", "ancestors"};
 constexpr std::array Colors = {Qt::red, Qt::darkGreen, Qt::blue, Qt::cyan, Qt::magenta};
 constexpr const char* English =
     "[general]\r\nlanguage=English\r\n[menus]\r\nmnuFile=&Papers\r\n"
@@ -42,25 +41,27 @@ std::string Narrow(TextView text) {
 class MainWindow : public testing::Test {
  protected:
   MainWindow() {
-    for (size_t region = 0; region < Stems.size(); ++region) {
+    for (const RegionRow& region : Regions) {
       std::string data;
       for (const MenuRow& row : MenuTable::Rows())
-        if (row.kind == MenuRow::Kind::Category && row.region == static_cast<int>(region))
+        if (row.kind == MenuRow::Kind::Category && row.region == region.region)
           data += '[' + Narrow(row.category) + "]\r\n" + EntityOf(row) + "=512,384\r\n";
-      folder_.Write(File(region, ".data"), data + "[perk archer]\r\nArcher=100,200\r\n");
+      folder_.Write(File(region.region, ".data"), data + "[perk archer]\r\nArcher=100,200\r\n");
       QImage picture(64, 48, QImage::Format_RGB32);
-      picture.fill(Colors.at(region));
-      picture.save(QString::fromStdString(folder_.Native(File(region, ".jpg"))), "PNG");
+      picture.fill(ColorOf(region.region));
+      picture.save(QString::fromStdString(folder_.Native(File(region.region, ".jpg"))), "PNG");
     }
     folder_.Write("LANG/English/English.lng", English);
   }
 
-  static std::string File(size_t region, const char* suffix) {
-    return Stems.at(region) + std::string(suffix);
+  static std::string File(Region region, const char* suffix) {
+    return Narrow(RowOf(region).stem) + suffix;
   }
 
+  static QColor ColorOf(Region region) { return Colors.at(static_cast<size_t>(region)); }
+
   static std::string EntityOf(const MenuRow& row) {
-    return Stems.at(static_cast<size_t>(row.region)) + std::string(" ") + Narrow(row.category);
+    return File(row.region.value(), " ") + Narrow(row.category);
   }
 
   bool Start() {
@@ -293,8 +294,7 @@ TEST_F(MainWindow, EveryRegionCommandShowsItsCategoryOnItsRegion) {
       continue;
     SCOPED_TRACE(Narrow(row.name));
     Menu(row.name).trigger();
-    EXPECT_EQ(Map().grab().toImage().pixelColor(2, 500),
-              QColor(Colors.at(static_cast<size_t>(row.region))));
+    EXPECT_EQ(Map().grab().toImage().pixelColor(2, 500), ColorOf(row.region.value()));
     const bool list = row.mode == DisplayMode::List;
     const auto& items = Part<QComboBox>("cboItems");
     EXPECT_EQ(items.isVisible(), list);

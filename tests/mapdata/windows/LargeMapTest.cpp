@@ -65,7 +65,7 @@ TEST(LargeMap, ShowsAPictureOfItsOwnSizePixelForPixel) {
   const QSize devicePixels = (QSizeF(map) * view.devicePixelRatioF()).toSize();
   const QImage stripes = Stripes(devicePixels);
   stripes.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
-  ASSERT_TRUE(view.LoadPicture(folder.Path(u"a.jpg")));
+  view.Change(folder.Path(u"a.jpg"), folder.Path(u"none.data"), u"t");
   QImage shown = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
   ASSERT_EQ(shown.size(), devicePixels);
   shown.setDevicePixelRatio(1);

@@ -128,7 +128,7 @@ TEST_F(MapFocusTest, EnterOpensTheInformation) {
   Press(Qt::Key_Down);
   Press(Qt::Key_Return);
   EXPECT_EQ(asked.count(), 1);
-  EXPECT_EQ(view.InfoEntityName, u"Grab");
+  EXPECT_EQ(view.InfoEntityName(), u"Grab");
 }
 
 TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {
@@ -152,7 +152,8 @@ TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {
 TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
   view.Change(map, data, u"t");
   Press(Qt::Key_A);
-  EXPECT_EQ(view.View.SelectedEntity, u"Amsel") << "typed letters pick";
+  EXPECT_EQ(view.findChild<ctlLocation*>(QStringLiteral("ITEM"))->Desc(), u"Amsel")
+      << "typed letters pick";
   std::string way;
   for (int i = 0; i < 3; ++i) {
     Press(Qt::Key_Tab);
@@ -164,7 +165,7 @@ TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
   Press(Qt::Key_Right);
   Press(Qt::Key_Enter);
   EXPECT_EQ(asked.count(), 1);
-  EXPECT_EQ(view.InfoEntityName, u"Amsel");
+  EXPECT_EQ(view.InfoEntityName(), u"Amsel");
   Press(Qt::Key_Escape);
   EXPECT_EQ(Focus(), "cboItems");
 }

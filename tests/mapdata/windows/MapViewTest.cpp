@@ -72,7 +72,8 @@ class MapViewTest : public testing::Test {
   // The marker's place for a position of the frame, in pixels.
   [[nodiscard]] QPoint MarkerPlace(int x, int y) {
     const auto screen = WidgetTwips::ScreenOf(view);
-    const auto at = Placement::MarkerAt(view.PointAt(x, y));
+    const auto at =
+        Placement::MarkerAt(Twips2Pixel_Module::PointOnMap(screen, view.MapSize(), x, y));
     return {ToPixelsX(screen, at.x), ToPixelsY(screen, at.y)};
   }
 
@@ -178,9 +179,9 @@ TEST_F(MapViewTest, AsksForInformationOnTheRightName) {
   QSignalSpy asked(&view, &MapView::InfoRequested);
   Multi();
   QTest::mouseDClick(&Find<QWidget>("lblDOT(2)"), Qt::LeftButton);
-  EXPECT_EQ(view.InfoEntityName, u" Äpfel ") << "a label hands over its blanks";
+  EXPECT_EQ(view.InfoEntityName(), u" Äpfel ") << "a label hands over its blanks";
   QTest::mouseDClick(&Find<QWidget>("DOT(2)"), Qt::LeftButton);
-  EXPECT_EQ(view.InfoEntityName, u"Äpfel");
+  EXPECT_EQ(view.InfoEntityName(), u"Äpfel");
   QTest::mouseDClick(&Find<QWidget>("DOT(0)"), Qt::RightButton);
   QTest::mouseDClick(&Find<QWidget>("lblDOT(0)"), Qt::RightButton);
   List();
@@ -191,7 +192,7 @@ TEST_F(MapViewTest, AsksForInformationOnTheRightName) {
   QTest::mouseDClick(&Find<QWidget>("ITEM"), Qt::LeftButton);
   QTest::mouseDClick(&Find<QWidget>("lblCaption"), Qt::LeftButton);
   EXPECT_EQ(asked.count(), 5);
-  EXPECT_EQ(view.InfoEntityName, u"Wolf");
+  EXPECT_EQ(view.InfoEntityName(), u"Wolf");
 }
 
 TEST_F(MapViewTest, DescribesTheNameUnderThePointer) {

@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QPainter>
 
 #include <sys/stat.h>
 
@@ -73,7 +74,54 @@ TEST(MapPicture, ReadsAnewWhatChangedAndKeepsWhatWorked) {
   ASSERT_TRUE(picture.Load(path, view, view));
   EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::blue));
   folder.Write("a.jpg", "broken");
-  EXPECT_FALSE(picture.Load(path, view, view));
+  EXPECT_FALSE(picture.Load(path, view, {9, 9}));
+  EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::blue)) << "nothing changes";
+  EXPECT_FALSE(picture.NeedsPixels());
+  folder.Write("b.jpg", "broken too");
+  EXPECT_FALSE(picture.Load(folder.Path(u"b.jpg"), view, view));
+  EXPECT_EQ(picture.Pixels().pixelColor(50, 30), QColor(Qt::blue));
+}
+
+TEST(MapPicture, ReadsForACloserViewWhatItNeedsAndNoMore) {
+  const TemporaryFolder folder;
+  const QSize view(400, 300);
+  const auto bytes = [](int width) { return qsizetype{width} * (width * 3 / 4) * 4; };
+  const auto part = [](double scale) { return QRectF(0.5 / scale, 0, 1 / scale, 1 / scale); };
+  folder.Write("a.jpg", Encoded({3200, 2400}, "jpeg"));
+  MapPicture picture;
+  ASSERT_TRUE(picture.Load(folder.Path(u"a.jpg"), view, view));
+
+  struct {
+    double scale;
+    bool reads;
+    qsizetype level;
+  } const steps[] = {{1.25, true, 800}, {2, false, 800},  {4, true, 1600},
+                     {8, true, 3200},   {4, false, 3200}, {3, true, 1600}};
+
+  for (const auto& step : steps) {
+    EXPECT_EQ(picture.Sharpen(view, part(step.scale)), step.reads) << step.scale;
+    EXPECT_EQ(picture.BytesOfPixels(), bytes(400) + bytes(static_cast<int>(step.level)));
+  }
+  EXPECT_FALSE(picture.Sharpen(view, part(3))) << "it is there";
+  static_cast<void>(picture.Sharpen(view, {0, 0, 1, 1}));
+  EXPECT_EQ(picture.BytesOfPixels(), bytes(400));
+}
+
+TEST(MapPicture, MixesNoOtherFilesPixelsIntoACloserView) {
+  const TemporaryFolder folder;
+  const QSize view(400, 300);
+  const QRectF part(0.25, 0.25, 0.25, 0.25);
+  for (const QSize& other : {QSize(100, 80), QSize(1600, 1200), QSize()}) {
+    folder.Write("a.jpg", Encoded({3200, 2400}, "jpeg", Qt::red));
+    MapPicture picture;
+    ASSERT_TRUE(picture.Load(folder.Path(u"a.jpg"), view, view));
+    folder.Write("a.jpg", other.isEmpty() ? "broken" : Encoded(other, "jpeg", Qt::blue));
+    EXPECT_FALSE(picture.Sharpen(view, part));
+    QImage shown(view, QImage::Format_RGB32);
+    QPainter painter(&shown);
+    picture.Paint(painter, shown.rect(), view, part);
+    EXPECT_GT(shown.pixelColor(200, 150).red(), 250);
+  }
 }
 
 TEST(MapPicture, GoesBackToAPictureWithoutReadingItFirst) {

@@ -9,7 +9,9 @@
 #include "search/windows/frmFind.h"
 #include "support/DialogCheck.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -80,8 +82,8 @@ class SearchWindows : public testing::Test {
 
   // The pixel at which something stands whose left or top edge is so many twips from a position.
   [[nodiscard]] QPoint Pixel(int x, int y, int shift) const {
-    const auto point = map_.PointAt(x, y);
     const auto screen = WidgetTwips::ScreenOf(map_);
+    const auto point = Twips2Pixel_Module::PointOnMap(screen, map_.MapSize(), x, y);
     return {WidgetTwips::ToPixelsX(screen, point.x - shift),
             WidgetTwips::ToPixelsY(screen, point.y - shift)};
   }
@@ -152,11 +154,9 @@ TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
   EXPECT_EQ(caption_.text(), QStringLiteral(" Wolf "));
   EXPECT_EQ(caption_.toolTip(), QStringLiteral("Ein <b>Wolf</b>\\nallein"));
   EXPECT_EQ(heading_.text(), QStringLiteral(" Suchergebnis für: Wol "));
-  EXPECT_EQ(map_.InfoEntityName, u"Wolf");
-  EXPECT_EQ(map_.View.DataFile, world_.world.paths.Of(Region::Arvenna).data);
+  EXPECT_EQ(map_.InfoEntityName(), u"Wolf");
   search_.miFindAgain_Click();
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
-  EXPECT_EQ(map_.View.DataFile, world_.world.paths.Of(Region::Skaldor).data);
   EXPECT_EQ(MessageDuring([this] { search_.miFindAgain_Click(); }),
             QStringLiteral("Suche beendet|Der Suchbegriff: \"Wol\" konnte nicht gefunden werden!"));
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
@@ -168,8 +168,8 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
   Find(QStringLiteral("Wolf"));
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
-  EXPECT_EQ(map_.Items().currentText(), QStringLiteral("Wolf"));
-  EXPECT_FALSE(map_.Items().isVisible());
+  EXPECT_EQ(Part<QComboBox>("cboItems").currentText(), QStringLiteral("Wolf"));
+  EXPECT_FALSE(Part<QComboBox>("cboItems").isVisible());
   EXPECT_EQ(item_.pos(), Pixel(900, 700, ListShift));
   EXPECT_EQ(caption_.text(), QStringLiteral("  Wolf  "));
   EXPECT_EQ(caption_.toolTip(), QString());
@@ -182,7 +182,7 @@ TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
   map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
               world_.world.paths.Of(Region::Arvenna).data, u"NPC");
   Find(QStringLiteral("Rand"));
-  EXPECT_EQ(map_.Items().currentIndex(), -1);
+  EXPECT_EQ(Part<QComboBox>("cboItems").currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());
   map_.resize(800, 600);
   EXPECT_TRUE(item_.isVisible());
@@ -195,10 +195,44 @@ TEST_F(SearchWindows, SpeaksTheLanguageOfTheMoment) {
   Find(QStringLiteral("Merchant"));
   EXPECT_EQ(item_.Desc(), QStringLiteral("Merchant Mara"));
   EXPECT_EQ(heading_.text(), QStringLiteral("Result for: Merchant "));
-  EXPECT_EQ(map_.InfoEntityName, u"Merchant Mara");
+  EXPECT_EQ(map_.InfoEntityName(), u"Merchant Mara");
   map_.resize(800, 600);
   EXPECT_EQ(item_.pos(), Pixel(500, 300, ListShift));
   EXPECT_TRUE(item_.isVisible());
+}
+
+TEST_F(SearchWindows, DownOffersNamesThatOnlyFillTheBox) {
+  world_.Write("ostrakh.data",
+               u"[NPC]\r\nÄrzte-Wolf=1,1\r\nwolf=3,3\r\n*Wolf X=1,1\r\n;Wolf Y=1,1\r\n");
+  Search::State state;
+  frmFind dialog(nullptr, world_.world, state);
+  dialog.show();
+  QApplication::setActiveWindow(&dialog);
+  auto& text = *dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
+  const auto* list = dialog.findChild<QCompleter*>()->popup();
+  const auto press = [&](Qt::Key key) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup ? popup : static_cast<QWidget*>(&text), key);
+  };
+  QTest::keyClicks(&text, QStringLiteral("WÔL"));
+  EXPECT_FALSE(list->isVisible()) << "typing opens nothing";
+  press(Qt::Key_Down);
+  ASSERT_TRUE(list->isVisible());
+  QStringList offered;
+  for (int row = 0; row < list->model()->rowCount(); ++row)
+    offered << list->model()->index(row, 0).data().toString();
+  EXPECT_EQ(offered.join(u'|').toStdString(), "Ärzte-Wolf|Wolf|wolf");
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_TRUE(dialog.isVisible()) << "Escape closes the list alone";
+  EXPECT_EQ(text.text(), QStringLiteral("WÔL"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(text.text(), QStringLiteral("Wolf"));
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_FALSE(dialog.Result()) << "no button is pressed";
 }
 
 TEST_F(SearchWindows, TellsOfAnInvalidLinkAndEnds) {

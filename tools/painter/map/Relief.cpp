@@ -1,6 +1,7 @@
 #include "map/Relief.h"
 
 #include "terrain/Noise.h"
+#include "terrain/Outlines.h"
 
 namespace Map {
 
@@ -53,6 +54,7 @@ class Ground {
 
  private:
   [[nodiscard]] Tone water(double depth, double x, double y) const;
+  [[nodiscard]] Tone frozen(const Tone& water, double depth, double x, double y) const;
   [[nodiscard]] Tone land(double height, double x, double y, double steepness) const;
   [[nodiscard]] Tone pixel(int column, int row) const;
   [[nodiscard]] Tone paved(const Tone& ground, double floor, double x, double y) const;
@@ -73,6 +75,20 @@ Tone Ground::water(double depth, double x, double y) const {
     tone = tone.towards(style_.ink, near * line.strength * 0.7);
   }
   return tone.towards(style_.ink, 0.75 * (1 - SmoothStep(0.5, 1.3, units)));
+}
+
+// Clear ice, with white cracks and drifts of snow.
+Tone Ground::frozen(const Tone& water, double depth, double x, double y) const {
+  if (Terrain::DiscDepth(field_.shape->ice, {x, y}) <= 0) {
+    return water;
+  }
+  const std::uint32_t seed = field_.shape->seed + 3600;
+  const double crack = std::abs(Terrain::GradientNoise(seed, x / 15, y / 11));
+  const double drift = FractalNoise(seed + 50, x / 22, y / 14, 4);
+  const double cover = SmoothStep(0.6, 1.6, depth * DepthUnits);
+  const Tone ice = style_.shallows.towards(style_.snow, 0.3 + 0.6 * SmoothStep(0.1, 0.45, drift));
+  return water.towards(ice, cover)
+      .towards(style_.snow, 0.85 * cover * (1 - SmoothStep(0.015, 0.05, crack)));
 }
 
 // Flagstones, worn and sunken in places.
@@ -118,7 +134,7 @@ Tone Ground::pixel(int column, int row) const {
   const double y = (row + 0.5) / Scale;
   const double height = heights_.at(column, row);
   if (height < 0) {
-    return water(-height, x, y);
+    return frozen(water(-height, x, y), -height, x, y);
   }
   // The step between sea and shore is no slope.
   const auto level = [&](int dx, int dy) {

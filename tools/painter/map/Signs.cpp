@@ -8,6 +8,7 @@
 #include "map/Relief.h"
 #include "map/Strew.h"
 #include "terrain/Noise.h"
+#include "terrain/Outlines.h"
 
 namespace Map {
 
@@ -194,6 +195,19 @@ void DrawWave(QPainter& painter, const RegionStyle& style, Point at) {
   painter.drawPath(wave);
 }
 
+// A pool with reeds behind it.
+void DrawPool(QPainter& painter, const RegionStyle& style, Point at, Random& random) {
+  const QPointF middle(at.x * Scale, at.y * Scale);
+  const double half = random.between(6, 11);
+  painter.setPen(QPen(style.ink.color(150), 1.1, Qt::SolidLine, Qt::RoundCap));
+  for (double x = -half; x <= half; x += 4) {
+    const double tall = random.between(7, 12);
+    painter.drawLine(middle + QPointF(x, -1), middle + QPointF(x + 1.5, -tall));
+  }
+  painter.setBrush(style.deep.towards(style.woods, 0.55).color(225));
+  painter.drawEllipse(middle, half, half * 0.42);
+}
+
 class Strewer {
  public:
   Strewer(const Terrain::Field& field, const RegionStyle& style, const Reserved& reserved)
@@ -201,6 +215,7 @@ class Strewer {
 
   [[nodiscard]] std::vector<Sign> signs() const;
   [[nodiscard]] std::vector<Point> waves() const;
+  [[nodiscard]] std::vector<Point> pools() const;
 
  private:
   [[nodiscard]] static int cell(double at) { return static_cast<int>(at); }
@@ -213,6 +228,10 @@ class Strewer {
     return !reserved_.clamped(cell(at.x), cell(at.y)) &&
            field_.river.clamped(cell(at.x), cell(at.y)) < 0.2F &&
            field_.river.clamped(cell(at.x), cell(at.y) - 4) < 0.2F;
+  }
+
+  [[nodiscard]] bool isBog(Point at) const {
+    return Terrain::DiscDepth(field_.shape->bogs, at) > 0;
   }
 
   [[nodiscard]] double trees(Point at) const;
@@ -229,6 +248,9 @@ double Strewer::trees(Point at) const {
   }
   if (style_.tree == Tree::Palm) {
     return 0.9 * Terrain::SmoothStep(0.5, 0.75, field_.moisture.clamped(cell(at.x), cell(at.y)));
+  }
+  if (isBog(at)) {
+    return 0.002;
   }
   // Single trees stand in open land too.
   return std::max(0.0006, 1.0 * field_.forest.clamped(cell(at.x), cell(at.y)));
@@ -260,6 +282,12 @@ std::vector<Sign> Strewer::signs() const {
 std::vector<Point> Strewer::waves() const {
   return Strew(field_.shape->seed + 4300, 34,
                [this](Point at) { return isFree(at) && heightAt(at) < -0.24 ? 0.5 : 0.0; });
+}
+
+std::vector<Point> Strewer::pools() const {
+  return Strew(field_.shape->seed + 4500, 11, [this](Point at) {
+    return isBog(at) && isFree(at) && heightAt(at) > 0.02 ? 0.7 : 0.0;
+  });
 }
 
 }  // namespace
@@ -295,6 +323,10 @@ void DrawSigns(QPainter& painter, const Terrain::Field& field, const RegionStyle
   const Strewer strewer(field, style, reserved);
   for (const Point& at : strewer.waves()) {
     DrawWave(painter, style, at);
+  }
+  Random reeds(field.shape->seed + 4600);
+  for (const Point& at : strewer.pools()) {
+    DrawPool(painter, style, at, reeds);
   }
   std::array<QImage, Variants> trees;
   for (int i = 0; i < Variants; ++i) {

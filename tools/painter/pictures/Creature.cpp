@@ -253,7 +253,7 @@ void PaintSnake(Canvas& canvas) {
   canvas.line(QPointF(50, 50), QPointF(51, 56), Tone{190, 40, 50}.color(), 1.2);
 }
 
-void PaintSandcrawler(Canvas& canvas) {
+void PaintBurrower(Canvas& canvas) {
   canvas.backdrop({236, 204, 144}, {150, 104, 58});
   constexpr Tone Plates{170, 126, 96};
   for (int ring = 7; ring >= 0; --ring) {
@@ -299,7 +299,7 @@ struct Crawler {
 constexpr Crawler Crawlers[] = {{"spider", PaintSpider},
                                 {"scorpion", PaintScorpion},
                                 {"snake", PaintSnake},
-                                {"sandcrawler", PaintSandcrawler},
+                                {"burrower", PaintBurrower},
                                 {"bird", PaintBird}};
 
 }  // namespace

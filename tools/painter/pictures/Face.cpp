@@ -104,8 +104,8 @@ void PaintMarks(Canvas& canvas, const Person& person) {
     canvas.line(QPointF(43, 32.6), QPointF(57, 32.4), crease, 0.7);
   }
   if (person.scarred) {
-    canvas.line(QPointF(58, 33), QPointF(62, 54), person.skin.lit(1.2).color(), 1.5);
-    canvas.line(QPointF(58.7, 33), QPointF(62.7, 54), Tone{150, 70, 60}.color(150), 0.7);
+    canvas.line(QPointF(57, 31), QPointF(62, 57), person.skin.lit(1.25).color(), 2.2);
+    canvas.line(QPointF(57.8, 31), QPointF(62.8, 57), Tone{150, 66, 58}.color(190), 1.1);
   }
   if (person.noseRing) {
     canvas.line(Oval({50, 59.5}, 3.0, 3.2), Ink.color(), 1.9);
@@ -133,7 +133,10 @@ void PaintEars(Canvas& canvas, const Person& person) {
   if (person.orc) {
     canvas.pair(Angular({{52 - cheek, 40}, {38 - cheek, 34}, {52 - cheek, 52}}), person.skin);
   } else {
-    canvas.pair(Oval({50.5 - cheek, 46}, 3.0, 5.2), person.skin.lit(0.93), 0.6);
+    const QPainterPath ear = Oval({50.5 - cheek, 46}, 3.0, 5.2);
+    canvas.body(ear, person.skin.lit(0.93), 0.6);
+    canvas.body(person.oneEared ? Oval({50 + cheek, 47}, 1.6, 2.6) : Mirrored(ear),
+                person.oneEared ? Tone{176, 96, 84} : person.skin.lit(0.81), 0.6);
   }
   if (person.earrings) {
     canvas.line(Oval({49.5 - cheek, 53}, 1.6, 2.0), Gold.color(), 1.0);

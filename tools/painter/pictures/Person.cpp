@@ -170,6 +170,43 @@ bool IsSouthern(std::string_view role) {
   return role == "nomad" || role == "assassin";
 }
 
+bool Has(std::string_view marks, std::string_view mark) {
+  const std::size_t at = marks.find(mark);
+  return at != std::string_view::npos && (at == 0 || marks[at - 1] == '-') &&
+         (at + mark.size() == marks.size() || marks[at + mark.size()] == '-');
+}
+
+void MakeYoung(Person& person) {
+  person.young = true;
+  person.beard = 0;
+  person.hairStyle = std::max(person.hairStyle, 1);
+  person.covered = person.scarred = person.painted = person.earrings = false;
+  person.eyeSize = 1;
+  person.jaw = -1;
+  person.width = -0.4;
+  person.nose = -1;
+}
+
+void Mark(Person& person, std::string_view marks) {
+  if (Has(marks, "young")) {
+    MakeYoung(person);
+  }
+  if (Has(marks, "beard")) {
+    person.beard = 6;
+  }
+  if (Has(marks, "hat")) {
+    person.role.headgear = Headgear::Hat;
+    person.covered = true;
+  }
+  // Long hair would hide that the ear is gone.
+  if (Has(marks, "oneear")) {
+    person.oneEared = true;
+    person.hairStyle = 2;
+  }
+  person.scarred |= Has(marks, "scar");
+  person.eyepatch |= Has(marks, "patch");
+}
+
 Tone Varied(Terrain::Random& random, const Tone& tone, double by) {
   return {tone.red * random.between(1 - by, 1 + by), tone.green * random.between(1 - by, 1 + by),
           tone.blue * random.between(1 - by, 1 + by)};
@@ -185,7 +222,8 @@ std::uint32_t NameSeed(std::string_view name) {
   return Terrain::Hash(seed, 1, 2);
 }
 
-Person MakePerson(std::string_view sex, std::string_view role, std::string_view name) {
+Person MakePerson(std::string_view sex, std::string_view role, std::string_view name,
+                  std::string_view marks) {
   Terrain::Random random(NameSeed(name) ^ NameSeed(role));
   Person person;
   const auto* found = std::ranges::find(Roles, role, &Role::name);
@@ -193,7 +231,8 @@ Person MakePerson(std::string_view sex, std::string_view role, std::string_view 
   person.woman = sex == "f";
   person.orc = role.starts_with("orc");
   person.ghost = role == "ancestor";
-  person.old = random.chance(person.ghost ? 0.6 : 0.3);
+  const bool oldByChance = random.chance(person.ghost ? 0.6 : 0.3);
+  person.old = Has(marks, "old") || (oldByChance && !Has(marks, "young") && !Has(marks, "adult"));
   person.skin = person.orc         ? Pick(random, OrcSkins)
                 : person.ghost     ? Tone{186, 206, 212}
                 : IsSouthern(role) ? Pick(random, SouthernSkins)
@@ -216,12 +255,13 @@ Person MakePerson(std::string_view sex, std::string_view role, std::string_view 
   person.earrings = random.chance(person.woman || person.orc ? 0.5 : 0.15);
   person.mirrored = random.chance(0.5);
   person.tusks = random.below(4);
-  person.eyepatch = random.chance(person.orc ? 0.2 : 0.03);
+  person.eyepatch = random.chance(person.orc ? 0.2 : 0.0);
   person.noseRing = random.chance(person.orc ? 0.35 : 0.0);
   for (double* part :
        {&person.width, &person.jaw, &person.nose, &person.brow, &person.mouth, &person.eyeSize}) {
     *part = random.between(-1, 1);
   }
+  Mark(person, marks);
   return person;
 }
 

@@ -50,6 +50,7 @@ struct Person {
   bool orc = false;
   bool ghost = false;
   bool old = false;
+  bool young = false;
   Tone skin, hair, eyes, cloth, backdrop;
   /// 0 to 5, different for women, men and orcs; only women have hair in style 0.
   int hairStyle = 0;
@@ -64,6 +65,7 @@ struct Person {
   bool painted = false;
   bool earrings = false;
   bool eyepatch = false;
+  bool oneEared = false;
   bool noseRing = false;
   /// Orcs only: 0 to 3, which and how long.
   int tusks = 0;
@@ -73,8 +75,10 @@ struct Person {
 };
 
 /// The person of that name and role; the same names are always the same person. The sex "f" is a
-/// woman, any other a man; an unknown role is dressed as a peasant.
-[[nodiscard]] Person MakePerson(std::string_view sex, std::string_view role, std::string_view name);
+/// woman, any other a man; an unknown role is dressed as a peasant. `marks` are what is told of the
+/// person, with "-" between them: young, adult, old, beard, scar, patch, oneear, hat.
+[[nodiscard]] Person MakePerson(std::string_view sex, std::string_view role, std::string_view name,
+                                std::string_view marks);
 
 /// A number that follows from the letters alone.
 [[nodiscard]] std::uint32_t NameSeed(std::string_view name);

@@ -55,7 +55,7 @@ void PaintScenery(Canvas& canvas, const Person& person) {
 }
 
 void PaintShoulders(Canvas& canvas, const Person& person) {
-  const double wide = person.woman ? 33 : person.orc ? 45 : 39;
+  const double wide = person.young ? 29 : person.woman ? 33 : person.orc ? 45 : 39;
   canvas.body(Rounded({{50, 76},
                        {50 - wide * 0.5, 79},
                        {50 - wide, 88},
@@ -68,7 +68,7 @@ void PaintShoulders(Canvas& canvas, const Person& person) {
 }
 
 void PaintNeck(Canvas& canvas, const Person& person) {
-  const double half = person.woman ? 7.6 : person.orc ? 14 : 10.5;
+  const double half = person.young || person.woman ? 7.6 : person.orc ? 14 : 10.5;
   canvas.body(
       Angular({{50 - half, 60}, {50 + half, 60}, {51 + half, 80}, {50, 87}, {49 - half, 80}}),
       person.skin.lit(0.86), 0.6);

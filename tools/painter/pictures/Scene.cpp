@@ -1,22 +1,16 @@
 #include "pictures/Scene.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "pictures/Landmarks.h"
 #include "pictures/Person.h"
-#include "terrain/Noise.h"
+#include "pictures/SceneParts.h"
 
 namespace Pictures {
 
 namespace {
 
 using Terrain::Random;
-
-constexpr Tone Stone{168, 158, 142};
-constexpr Tone Roof{164, 74, 52};
-constexpr Tone Grass{122, 142, 76};
-constexpr Tone Sand{222, 188, 126};
-constexpr Tone Rock{112, 104, 98};
 
 struct Hour {
   Tone zenith, horizon, light;
@@ -38,121 +32,11 @@ void PaintSky(Canvas& canvas, Random& random) {
   canvas.flat(Oval(sun, 5, 5), hour.light.color());
 }
 
-void PaintGround(Canvas& canvas, Random& random, const Tone& ground) {
-  const double far = random.between(44, 56);
-  canvas.flat(Rounded({{-20, 80},
-                       {random.between(5, 25), far},
-                       {45, far + 12},
-                       {random.between(65, 90), far - 4},
-                       {120, 80}}),
-              ground.towards({128, 148, 168}, 0.55).color());
-  canvas.body(Rounded({{-20, 72},
-                       {20, random.between(64, 70)},
-                       {60, 70},
-                       {120, random.between(62, 70)},
-                       {120, 120},
-                       {-20, 120}}),
-              ground, 0);
-}
-
-void House(Canvas& canvas, QPointF foot, double size, const Tone& roof) {
-  const double half = size / 2;
-  canvas.body(Angular({foot + QPointF(-half, -size * 0.62), foot + QPointF(half, -size * 0.62),
-                       foot + QPointF(half, 0), foot + QPointF(-half, 0)}),
-              {226, 210, 176});
-  canvas.body(Angular({foot + QPointF(-half * 1.25, -size * 0.6), foot + QPointF(0, -size * 1.25),
-                       foot + QPointF(half * 1.25, -size * 0.6)}),
-              roof);
-  canvas.flat(Angular({foot + QPointF(-size * 0.1, 0), foot + QPointF(-size * 0.1, -size * 0.36),
-                       foot + QPointF(size * 0.12, -size * 0.36), foot + QPointF(size * 0.12, 0)}),
-              Wood.lit(0.6).color());
-}
-
-void Tower(Canvas& canvas, QPointF foot, double half, double tall, bool pointed) {
-  canvas.body(Angular({foot + QPointF(-half, -tall), foot + QPointF(half, -tall),
-                       foot + QPointF(half * 1.1, 0), foot + QPointF(-half * 1.1, 0)}),
-              Stone);
-  if (pointed) {
-    canvas.body(Angular({foot + QPointF(-half * 1.35, -tall), foot + QPointF(0, -tall - half * 2.6),
-                         foot + QPointF(half * 1.35, -tall)}),
-                Roof);
-  } else {
-    for (int merlon = -1; merlon <= 1; ++merlon) {
-      const QPointF at = foot + QPointF(merlon * half * 0.9, -tall);
-      canvas.body(
-          Angular({at + QPointF(-half * 0.3, -half * 0.6), at + QPointF(half * 0.3, -half * 0.6),
-                   at + QPointF(half * 0.3, 1), at + QPointF(-half * 0.3, 1)}),
-          Stone, 0.6);
-    }
-  }
-  canvas.flat(Angular({foot + QPointF(-1.3, -tall * 0.7), foot + QPointF(1.3, -tall * 0.7),
-                       foot + QPointF(1.3, -tall * 0.52), foot + QPointF(-1.3, -tall * 0.52)}),
-              Ink.color());
-}
-
-void Wall(Canvas& canvas, double left, double right, double top, double bottom) {
-  canvas.body(Angular({{left, top}, {right, top}, {right, bottom}, {left, bottom}}),
-              Stone.lit(0.92));
-  for (double x = left; x < right - 4; x += 8) {
-    canvas.body(Angular({{x, top - 4}, {x + 4.4, top - 4}, {x + 4.4, top + 0.5}, {x, top + 0.5}}),
-                Stone, 0.6);
-  }
-}
-
-void Gate(Canvas& canvas, QPointF foot, double half, double tall) {
-  QPainterPath gate(foot + QPointF(-half, 0));
-  gate.lineTo(foot + QPointF(-half, -tall * 0.6));
-  gate.quadTo(foot + QPointF(0, -tall * 1.3), foot + QPointF(half, -tall * 0.6));
-  gate.lineTo(foot + QPointF(half, 0));
-  gate.closeSubpath();
-  canvas.flat(gate, Ink.color());
-}
-
-void Columns(Canvas& canvas, double top, double bottom, int count, bool broken, Random& random) {
-  for (int column = 0; column < count; ++column) {
-    const double x = 26 + 48.0 * column / (count - 1);
-    const double head = broken ? top + random.between(0, (bottom - top) * 0.6) : top;
-    canvas.body(Angular({{x - 3.4, head},
-                         {x + 3.4, head + (broken ? 3 : 0)},
-                         {x + 3.4, bottom},
-                         {x - 3.4, bottom}}),
-                {222, 212, 190});
-    canvas.line(QPointF(x, head + 3), QPointF(x, bottom), Ink.color(60), 0.7);
-  }
-}
-
-void Tent(Canvas& canvas, QPointF foot, double half, const Tone& cloth) {
-  canvas.body(
-      Angular({foot + QPointF(-half, 0), foot + QPointF(0, -half * 1.4), foot + QPointF(half, 0)}),
-      cloth);
-  canvas.flat(Angular({foot + QPointF(-half * 0.25, 0), foot + QPointF(0, -half * 0.9),
-                       foot + QPointF(half * 0.25, 0)}),
-              Ink.color());
-}
-
-void Palm(Canvas& canvas, QPointF foot, double tall) {
-  const QPointF top = foot + QPointF(tall * 0.14, -tall);
-  QPainterPath trunk(foot);
-  trunk.quadTo(foot + QPointF(-2, -tall * 0.5), top);
-  canvas.line(trunk, Ink.color(), 4.4);
-  canvas.line(trunk, Wood.color(), 3.2);
-  for (int leaf = 0; leaf < 7; ++leaf) {
-    const double angle = -3.0 + leaf * 0.48;
-    const QPointF tip =
-        top + QPointF(std::cos(angle) * tall * 0.45, std::sin(angle) * tall * 0.22 + tall * 0.14);
-    QPainterPath frond(top);
-    frond.quadTo(top + QPointF(std::cos(angle) * tall * 0.3, std::sin(angle) * tall * 0.34 - 1),
-                 tip);
-    frond.quadTo(top + QPointF(std::cos(angle) * tall * 0.2, std::sin(angle) * tall * 0.16), top);
-    canvas.body(frond, {84, 128, 58}, 0.5);
-  }
-}
-
 void City(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Grass);
   for (int house = 0; house < 5; ++house) {
     House(canvas, {18 + house * 16.0, random.between(64, 69)}, random.between(13, 18),
-          Roof.lit(random.between(0.85, 1.15)));
+          Tiles.lit(random.between(0.85, 1.15)));
   }
   Tower(canvas, {50, 72}, 6.5, 42, true);
   Tower(canvas, {random.between(24, 32), 74}, 5, 28, true);
@@ -189,22 +73,22 @@ void Cave(Canvas& canvas, Random& random) {
 void Shrine(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Grass);
   canvas.glow({50, 42}, 34, Tone{255, 226, 140}.color(170));
-  canvas.body(Angular({{28, 84}, {72, 84}, {68, 74}, {32, 74}}), Stone);
-  canvas.body(Angular({{40, 74}, {60, 74}, {57, 48}, {43, 48}}), Stone.lit(1.1));
+  canvas.body(Angular({{28, 84}, {72, 84}, {68, 74}, {32, 74}}), Masonry);
+  canvas.body(Angular({{40, 74}, {60, 74}, {57, 48}, {43, 48}}), Masonry.lit(1.1));
   canvas.body(Oval({50, 38}, 11, 11), Gold);
   canvas.body(Oval({50, 38}, 5, 5), {232, 240, 246});
 }
 
 void Ruin(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Grass.towards(Rock, 0.4));
-  canvas.body(Angular({{8, 84}, {8, 46}, {16, 40}, {20, 50}, {28, 46}, {30, 84}}), Stone);
+  canvas.body(Angular({{8, 84}, {8, 46}, {16, 40}, {20, 50}, {28, 46}, {30, 84}}), Masonry);
   Columns(canvas, 34, 84, 5, true, random);
-  canvas.body(Angular({{66, 90}, {70, 78}, {92, 82}, {94, 92}}), Stone.lit(0.8));
+  canvas.body(Angular({{66, 90}, {70, 78}, {92, 82}, {94, 92}}), Masonry.lit(0.8));
 }
 
 void Temple(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Sand);
-  canvas.body(Angular({{10, 92}, {90, 92}, {84, 84}, {16, 84}}), Stone);
+  canvas.body(Angular({{10, 92}, {90, 92}, {84, 84}, {16, 84}}), Masonry);
   canvas.flat(Angular({{22, 46}, {78, 46}, {78, 84}, {22, 84}}), Ink.color(210));
   Columns(canvas, 46, 84, 5, false, random);
   canvas.body(Angular({{16, 46}, {84, 46}, {50, 22}}), {212, 196, 166});
@@ -224,11 +108,11 @@ void Camp(Canvas& canvas, Random& random) {
 void Tomb(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Grass.lit(0.7));
   canvas.body(Rounded({{6, 90}, {18, 62}, {50, 46}, {82, 62}, {94, 90}}), Grass.lit(0.85));
-  canvas.body(Angular({{34, 88}, {36, 58}, {42, 58}, {42, 88}}), Stone);
-  canvas.body(Angular({{58, 88}, {58, 58}, {64, 58}, {66, 88}}), Stone);
+  canvas.body(Angular({{34, 88}, {36, 58}, {42, 58}, {42, 88}}), Masonry);
+  canvas.body(Angular({{58, 88}, {58, 58}, {64, 58}, {66, 88}}), Masonry);
   canvas.flat(Angular({{42, 60}, {58, 60}, {58, 88}, {42, 88}}), Ink.color());
-  canvas.body(Angular({{29, 60}, {32, 50}, {68, 50}, {71, 60}}), Stone.lit(1.05));
-  canvas.body(Rounded({{14, 92}, {14, 76}, {19, 71}, {24, 76}, {24, 92}}), Stone.lit(0.9));
+  canvas.body(Angular({{29, 60}, {32, 50}, {68, 50}, {71, 60}}), Masonry.lit(1.05));
+  canvas.body(Rounded({{14, 92}, {14, 76}, {19, 71}, {24, 76}, {24, 92}}), Masonry.lit(0.9));
 }
 
 void Mine(Canvas& canvas, Random& random) {
@@ -275,47 +159,34 @@ void Harbour(Canvas& canvas, Random& random) {
 
 void Monastery(Canvas& canvas, Random& random) {
   PaintGround(canvas, random, Grass);
-  House(canvas, {62, 84}, 40, Roof.lit(0.85));
+  House(canvas, {62, 84}, 40, Tiles.lit(0.85));
   Tower(canvas, {28, 86}, 9, 46, true);
   canvas.line(QPointF(28, 18), QPointF(28, 6), Gold.color(), 1.8);
   canvas.line(QPointF(24.5, 10), QPointF(31.5, 10), Gold.color(), 1.8);
   Gate(canvas, {28, 86}, 4, 11);
 }
 
-void Mill(Canvas& canvas, Random& random) {
-  PaintGround(canvas, random, Grass);
-  canvas.body(Angular({{36, 88}, {40, 44}, {60, 44}, {64, 88}}), {224, 210, 180});
-  canvas.body(Angular({{36, 45}, {50, 28}, {64, 45}}), Roof);
-  Gate(canvas, {50, 88}, 5, 12);
-  const double turn = random.between(0.2, 1.2);
-  for (int sail = 0; sail < 4; ++sail) {
-    const double angle = turn + sail * 1.5708;
-    const QPointF way(std::cos(angle), std::sin(angle));
-    const QPointF aside(-way.y() * 6, way.x() * 6);
-    const QPointF hub(50, 44);
-    canvas.body(
-        Angular({hub + way * 8, hub + way * 34, hub + way * 34 + aside, hub + way * 8 + aside}),
-        {238, 230, 208}, 0.6);
-    canvas.line(hub, hub + way * 35, Wood.lit(0.6).color(), 2);
+constexpr Landmark Kinds[] = {{"city", City},       {"village", Village},    {"fort", Fort},
+                              {"cave", Cave},       {"shrine", Shrine},      {"ruin", Ruin},
+                              {"temple", Temple},   {"camp", Camp},          {"tomb", Tomb},
+                              {"mine", Mine},       {"tower", WatchTower},   {"oasis", Oasis},
+                              {"harbour", Harbour}, {"monastery", Monastery}};
+
+const Landmark* FindKind(std::string_view name) {
+  for (const std::span<const Landmark> kinds : {std::span<const Landmark>(Kinds), Landmarks()}) {
+    const auto found = std::ranges::find(kinds, name, &Landmark::name);
+    if (found != kinds.end()) {
+      return &*found;
+    }
   }
+  return nullptr;
 }
-
-struct Kind {
-  std::string_view name;
-  void (*paint)(Canvas&, Random&);
-};
-
-constexpr Kind Kinds[] = {{"city", City},       {"village", Village},     {"fort", Fort},
-                          {"cave", Cave},       {"shrine", Shrine},       {"ruin", Ruin},
-                          {"temple", Temple},   {"camp", Camp},           {"tomb", Tomb},
-                          {"mine", Mine},       {"tower", WatchTower},    {"oasis", Oasis},
-                          {"harbour", Harbour}, {"monastery", Monastery}, {"mill", Mill}};
 
 }  // namespace
 
 bool PaintScene(Canvas& canvas, std::string_view kind, std::string_view name) {
-  const auto* found = std::ranges::find(Kinds, kind, &Kind::name);
-  if (found == std::end(Kinds)) {
+  const Landmark* found = FindKind(kind);
+  if (!found) {
     return false;
   }
   Random random(NameSeed(name));

@@ -1,6 +1,7 @@
 #include "pictures/Subject.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,9 @@ bool PaintKnown(Canvas& canvas, const std::vector<std::string>& parts) {
     return index < parts.size() ? std::string_view(parts[index]) : std::string_view();
   };
   if (part(0) == "person" && parts.size() > 3) {
-    PaintPerson(canvas, MakePerson(part(1), part(2), part(3)));
+    const std::string_view name = part(3).substr(0, part(3).find('-'));
+    const std::string_view marks = part(3).substr(std::min(name.size() + 1, part(3).size()));
+    PaintPerson(canvas, MakePerson(part(1), part(2), name, marks));
     return true;
   }
   if (part(0) == "creature") {

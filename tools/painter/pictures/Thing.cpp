@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "pictures/Motif.h"
+
 namespace Pictures {
 
 namespace {
@@ -23,25 +25,13 @@ void Chest(Canvas& canvas, const Tone& wood, const Tone& metal) {
   canvas.flat(Angular({{49.2, 54}, {50.8, 54}, {51.4, 59}, {48.6, 59}}), Ink.color());
 }
 
-void Sword(Canvas& canvas, QPointF foot, QPointF tip) {
-  const QPointF way = tip - foot;
-  const QPointF aside = QPointF(-way.y(), way.x()) * 0.05;
-  canvas.body(Angular({foot + way * 0.24 + aside, foot + way * 0.92 + aside, tip,
-                       foot + way * 0.92 - aside, foot + way * 0.24 - aside}),
-              Steel.lit(1.15));
-  canvas.line(foot + way * 0.24 + aside * 4, foot + way * 0.24 - aside * 4, Ink.color(), 5.4);
-  canvas.line(foot + way * 0.24 + aside * 4, foot + way * 0.24 - aside * 4, Gold.color(), 3.8);
-  canvas.line(foot, foot + way * 0.22, Wood.lit(0.7).color(), 4.2);
-  canvas.body(Oval(foot, 3.4, 3.4), Gold);
-}
-
 void PlainChest(Canvas& canvas) {
   Chest(canvas, Wood, Steel.lit(0.75));
 }
 
 void WeaponChest(Canvas& canvas) {
-  Sword(canvas, {24, 60}, {78, 8});
-  Sword(canvas, {76, 60}, {22, 8});
+  PaintSword(canvas, {24, 60}, {78, 8});
+  PaintSword(canvas, {76, 60}, {22, 8});
   Chest(canvas, {104, 76, 58}, Steel);
 }
 
@@ -147,9 +137,9 @@ void Tablet(Canvas& canvas) {
 }
 
 void Weapons(Canvas& canvas) {
-  Sword(canvas, {20, 86}, {76, 12});
-  Sword(canvas, {80, 86}, {24, 12});
-  Sword(canvas, {50, 92}, {50, 8});
+  PaintSword(canvas, {20, 86}, {76, 12});
+  PaintSword(canvas, {80, 86}, {24, 12});
+  PaintSword(canvas, {50, 92}, {50, 8});
   canvas.body(Angular({{36, 58}, {64, 58}, {62, 68}, {38, 68}}), {150, 60, 44});
 }
 
@@ -167,9 +157,13 @@ void Root(Canvas& canvas) {
                        {28, 82},
                        {36, 60},
                        {34, 46}}),
-              {186, 92, 56});
-  canvas.line(QPointF(42, 48), QPointF(56, 47), Ink.color(110), 1.2);
-  canvas.line(QPointF(44, 58), QPointF(54, 59), Ink.color(110), 1.2);
+              {142, 108, 78});
+  const QColor vein = Tone{188, 40, 36}.color();
+  canvas.line(QPointF(47, 37), QPointF(45, 62), vein, 1.6);
+  canvas.line(QPointF(45, 62), QPointF(33, 78), vein, 1.3);
+  canvas.line(QPointF(46, 60), QPointF(47, 86), vein, 1.3);
+  canvas.line(QPointF(55, 37), QPointF(54, 66), vein, 1.6);
+  canvas.line(QPointF(54, 66), QPointF(63, 83), vein, 1.3);
 }
 
 void Berry(Canvas& canvas) {
@@ -177,7 +171,7 @@ void Berry(Canvas& canvas) {
   canvas.pair(Rounded({{49, 34}, {30, 36}, {16, 24}, {34, 20}}), Leaf);
   for (const QPointF& at : {QPointF(38, 56), QPointF(60, 54), QPointF(49, 66), QPointF(34, 74),
                             QPointF(64, 73), QPointF(49, 84)}) {
-    canvas.body(Oval(at, 9, 9), {64, 116, 66});
+    canvas.body(Oval(at, 9, 9), {62, 76, 146});
     canvas.flat(Oval(at - QPointF(3, 3), 2.2, 2.2), QColor(255, 255, 255, 170));
   }
 }
@@ -205,13 +199,7 @@ void Resource(Canvas& canvas) {
   }
 }
 
-struct Kind {
-  std::string_view name;
-  Tone cloth;
-  void (*paint)(Canvas&);
-};
-
-constexpr Kind Kinds[] = {
+constexpr Motif Kinds[] = {
     {"chest", {120, 104, 84}, PlainChest},    {"weaponchest", {108, 84, 80}, WeaponChest},
     {"magechest", {66, 62, 104}, MagicChest}, {"goldchest", {112, 72, 60}, GoldChest},
     {"stone", {72, 88, 96}, StonePlate},      {"chalice", {112, 50, 46}, Chalice},
@@ -222,11 +210,39 @@ constexpr Kind Kinds[] = {
     {"berry", {168, 160, 120}, Berry},        {"sorrel", {150, 156, 116}, Sorrel},
     {"resource", {104, 108, 112}, Resource}};
 
+const Motif* FindMotif(std::string_view name) {
+  for (const std::span<const Motif> motifs :
+       {std::span<const Motif>(Kinds), Curios(), Workshop()}) {
+    const auto found = std::ranges::find(motifs, name, &Motif::name);
+    if (found != motifs.end()) {
+      return &*found;
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
+void PaintShaft(Canvas& canvas, QPointF from, QPointF to, double width, const Tone& tone) {
+  canvas.line(from, to, Ink.color(), width + 1.8);
+  canvas.line(from, to, tone.color(), width);
+}
+
+void PaintSword(Canvas& canvas, QPointF foot, QPointF tip) {
+  const QPointF way = tip - foot;
+  const QPointF aside = QPointF(-way.y(), way.x()) * 0.05;
+  canvas.body(Angular({foot + way * 0.24 + aside, foot + way * 0.92 + aside, tip,
+                       foot + way * 0.92 - aside, foot + way * 0.24 - aside}),
+              Steel.lit(1.15));
+  canvas.line(foot + way * 0.24 + aside * 4, foot + way * 0.24 - aside * 4, Ink.color(), 5.4);
+  canvas.line(foot + way * 0.24 + aside * 4, foot + way * 0.24 - aside * 4, Gold.color(), 3.8);
+  canvas.line(foot, foot + way * 0.22, Wood.lit(0.7).color(), 4.2);
+  canvas.body(Oval(foot, 3.4, 3.4), Gold);
+}
+
 bool PaintThing(Canvas& canvas, std::string_view kind) {
-  const auto* found = std::ranges::find(Kinds, kind, &Kind::name);
-  if (found == std::end(Kinds)) {
+  const Motif* found = FindMotif(kind);
+  if (!found) {
     return false;
   }
   canvas.backdrop(found->cloth.lit(1.3), found->cloth.lit(0.42));

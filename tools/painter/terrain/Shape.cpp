@@ -19,8 +19,8 @@ constexpr Disc Lakes[] = {{{610, 330}, 40}, {{650, 350}, 30}, {{300, 300}, 26}, 
 constexpr Point North[] = {{260, 60}, {380, 105}, {500, 75}, {620, 110}, {760, 85}, {900, 50}};
 constexpr Point East[] = {{900, 170}, {945, 280}, {900, 390}, {930, 470}};
 constexpr Point Heart[] = {{390, 430}, {470, 390}, {540, 440}};
-constexpr Point West[] = {{150, 250}, {190, 320}};
-constexpr Range Ranges[] = {{North, 62, 0.95}, {East, 52, 0.8}, {Heart, 38, 0.5}, {West, 26, 0.4}};
+constexpr Disc Bogs[] = {{{165, 262}, 52}, {{196, 322}, 40}, {{165, 432}, 40}};
+constexpr Range Ranges[] = {{North, 62, 0.95}, {East, 52, 0.8}, {Heart, 38, 0.5}};
 }  // namespace Arvenna
 
 namespace Skaldor {
@@ -36,6 +36,7 @@ constexpr Point WestIsle[] = {{30, 525}, {60, 515}, {70, 555}, {40, 565}};
 constexpr Outline Land[] = {Mainland, NorthIsle, WestIsle};
 constexpr Disc Lakes[] = {
     {{650, 500}, 34}, {{690, 515}, 28}, {{400, 640}, 28}, {{880, 430}, 24}, {{480, 300}, 16}};
+constexpr Disc Ice[] = {{{650, 500}, 60}, {{690, 515}, 54}};
 constexpr Point Spine[] = {{280, 490}, {410, 430}, {540, 390}, {690, 330}, {840, 310}, {980, 200}};
 constexpr Point South[] = {{470, 720}, {600, 640}, {740, 660}, {880, 580}, {1000, 600}};
 constexpr Point North[] = {{460, 140}, {480, 220}};
@@ -124,7 +125,9 @@ constexpr Shape Regions[] = {{"arvenna",
                               {},
                               {},
                               0.42,
-                              2600},
+                              2600,
+                              {},
+                              Arvenna::Bogs},
                              {"skaldor",
                               4421,
                               Climate::Arctic,
@@ -135,7 +138,8 @@ constexpr Shape Regions[] = {{"arvenna",
                               {},
                               {},
                               0.40,
-                              3200},
+                              3200,
+                              Skaldor::Ice},
                              {"sarrakh",
                               7103,
                               Climate::Desert,

@@ -56,6 +56,9 @@ struct Shape {
   double forest;
   /// Square frame units that must drain into a cell before it carries a river; 0 is none.
   double catchment;
+  /// Where water is frozen over, and where the ground is bog.
+  std::span<const Disc> ice = {};
+  std::span<const Disc> bogs = {};
 };
 
 /// The five regions in the order in which the program lists them.

@@ -1,0 +1,243 @@
+#include "controls/windows/WidgetTwips.h"
+#include "mapdata/windows/MapFocus.h"
+#include "mapdata/windows/MapView.h"
+#include "mapdata/windows/ctlLocation.h"
+#include "support/GermanNames.h"
+#include "support/TemporaryFolder.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int Notch = 120;
+
+// A map of four markers whose picture is red in its left upper quarter.
+class ZoomTest : public testing::Test {
+ protected:
+  ZoomTest() {
+    QImage picture(640, 480, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    for (int y = 0; y < 240; ++y)
+      for (int x = 0; x < 320; ++x)
+        picture.setPixelColor(x, y, Qt::red);
+    picture.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
+    folder.Write("a.data",
+                 "[t]\r\nWolf=256,192\r\nElch=300,192\r\nFern=900,700\r\nRand=1020,9\r\n");
+    view.SetTexts(u"  Wahl", u"Tip", u"marked", u"Wahl");
+    view.resize(1000, 700);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.ChangeMulti(map, data, u"t", u"H", false);
+  }
+
+  void Wheel(const QPoint& at, const QPoint& angle, const QPoint& pixels = {}) {
+    QWheelEvent event(at, view.mapToGlobal(at), pixels, angle, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Find<QWidget>("imgMap"), &event);
+  }
+
+  template <typename Widget>
+  Widget& Find(const char* name) {
+    return *view.findChild<Widget*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+  }
+
+  void Drag(QWidget& from, const QPoint& by) {
+    const QPoint at = from.rect().center();
+    QTest::mousePress(&from, Qt::LeftButton, {}, at);
+    for (const QPoint& step : {by / 2, by}) {
+      QMouseEvent move(QEvent::MouseMove, at, view.mapToGlobal(start_ + step), Qt::NoButton,
+                       Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(&from, &move);
+    }
+    QTest::mouseRelease(&from, Qt::LeftButton, {}, at);
+  }
+
+  void DragFrom(QWidget& from, const QPoint& by) {
+    start_ = from.mapTo(&view, from.rect().center());
+    Drag(from, by);
+  }
+
+  TemporaryFolder folder;
+  Text map = folder.Path(u"a.jpg");
+  Text data = folder.Path(u"a.data");
+  IniOps::Cache cache;
+  GermanNames names{folder.Path(u"info.data")};
+  MapView view{cache, names};
+  QPoint start_;
+};
+
+}  // namespace
+
+TEST_F(ZoomTest, TheWheelZoomsAtThePointer) {
+  auto& wolf = Find<ctlLocation>("DOT(0)");
+  const QPoint at = wolf.geometry().center();
+  const QSize size = wolf.size();
+  const QPoint beside = Find<QLabel>("lblDOT(0)").pos() - wolf.pos();
+  for (int i = 0; i < 4; ++i)
+    Wheel(at, {0, Notch});
+  EXPECT_NEAR(view.Part().Scale(), std::pow(1.25, 4), 1e-9);
+  EXPECT_LE((wolf.geometry().center() - at).manhattanLength(), 3) << "the point under it stays";
+  EXPECT_EQ(wolf.size(), size);
+  EXPECT_EQ(Find<QLabel>("lblDOT(0)").pos() - wolf.pos(), beside);
+  EXPECT_FALSE(Find<QWidget>("DOT(2)").isVisible()) << "it lies outside";
+  EXPECT_FALSE(Find<QWidget>("lblDOT(2)").isVisible());
+  EXPECT_EQ(view.Focus().Markers().size(), 2U) << "of which a screen reader hears";
+  Wheel(at, {});
+  EXPECT_NEAR(view.Part().Scale(), std::pow(1.25, 4), 1e-9);
+  Wheel(at, {}, {0, -50});
+  EXPECT_NEAR(view.Part().Scale(), std::pow(1.25, 3), 1e-9) << "pixels count in proportion";
+  Wheel(at, {0, 10'000});
+  EXPECT_EQ(view.Part().Scale(), 8);
+  Wheel(at, {0, -10'000});
+  EXPECT_EQ(view.Part().Scale(), 1);
+  EXPECT_TRUE(Find<QWidget>("DOT(2)").isVisible());
+}
+
+TEST_F(ZoomTest, ShowsThePartOfThePicture) {
+  const auto colorAt = [this](int x, int y) { return view.grab().toImage().pixelColor(x, y); };
+  EXPECT_EQ(colorAt(900, 600), QColor(Qt::darkGreen));
+  Wheel({0, 0}, {0, Notch * 4});
+  EXPECT_EQ(colorAt(900, 600), QColor(Qt::red));
+  QTest::keyClick(&view, Qt::Key_0);
+  EXPECT_EQ(colorAt(900, 600), QColor(Qt::darkGreen));
+}
+
+TEST_F(ZoomTest, ADragMovesThePictureAlsoFromAMarkerOrName) {
+  DragFrom(Find<QWidget>("DOT(0)"), {-50, -30});
+  EXPECT_EQ(view.Part().LeftPart(), 0) << "all of it is there";
+  QTest::mouseDClick(&Find<QWidget>("imgMap"), Qt::LeftButton, {}, {500, 300});
+  EXPECT_EQ(view.Part().Scale(), 2);
+  for (const char* name : {"DOT(0)", "lblDOT(0)", "imgMap"}) {
+    const QPoint before = Find<QWidget>("DOT(0)").pos();
+    DragFrom(Find<QWidget>(name), {-40, -20});
+    EXPECT_EQ(Find<QWidget>("DOT(0)").pos() - before, QPoint(-40, -20)) << name;
+  }
+  const QPoint before = Find<QWidget>("DOT(0)").pos();
+  DragFrom(Find<QWidget>("imgMap"), {3, 2});
+  EXPECT_EQ(Find<QWidget>("DOT(0)").pos(), before) << "a click is no drag";
+  QTest::mouseDClick(&Find<QWidget>("imgMap"), Qt::RightButton, {}, {500, 300});
+  EXPECT_EQ(view.Part().Scale(), 2);
+}
+
+TEST_F(ZoomTest, KeysWorkWhileTheListHasTheFocus) {
+  view.Change(map, data, u"t");
+  ASSERT_EQ(QApplication::focusWidget(), &Find<QWidget>("cboItems"));
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  };
+  press(Qt::Key_Plus);
+  press(Qt::Key_Plus);
+  EXPECT_NEAR(view.Part().Scale(), 1.25 * 1.25, 1e-9);
+  EXPECT_NEAR(view.Part().LeftPart(), (1 - 1 / (1.25 * 1.25)) / 2, 1e-3) << "at the middle";
+  const double left = view.Part().LeftPart();
+  press(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_GT(view.Part().LeftPart(), left);
+  press(Qt::Key_Minus);
+  EXPECT_NEAR(view.Part().Scale(), 1.25, 1e-9);
+  EXPECT_EQ(Find<QComboBox>("cboItems").currentIndex(), 0);
+  press(Qt::Key_F);
+  EXPECT_NEAR(view.Part().Scale(), 1.25, 1e-9) << "a pick keeps the scale";
+  EXPECT_TRUE(view.rect().contains(Find<QWidget>("ITEM").geometry())) << "and shows its marker";
+  view.Change(map, data, u"t");
+  EXPECT_EQ(view.Part().Scale(), 1);
+}
+
+TEST_F(ZoomTest, TheWalkBringsItsMarkerIntoView) {
+  QTest::keyClick(&view, Qt::Key_Tab);
+  ASSERT_EQ(QApplication::focusWidget(), &Find<QWidget>("DOT(0)"));
+  for (int i = 0; i < 8; ++i)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus);
+  EXPECT_EQ(QApplication::focusWidget(), &Find<QWidget>("DOT(0)")) << "zooms where the focus is";
+  for (const auto& [key, name] : {std::pair(Qt::Key_Right, "DOT(1)"),
+                                  {Qt::Key_End, "DOT(3)"},
+                                  {Qt::Key_PageUp, "DOT(2)"},
+                                  {Qt::Key_Home, "DOT(0)"}}) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_EQ(QApplication::focusWidget(), &Find<QWidget>(name));
+    EXPECT_TRUE(view.rect().contains(Find<QWidget>(name).geometry())) << name;
+  }
+}
+
+TEST_F(ZoomTest, AResizeKeepsScaleAndPlaceAndTheStartPictureDoesNotZoom) {
+  Wheel({900, 100}, {0, Notch * 4});
+  const double scale = view.Part().Scale();
+  const double top = view.Part().TopPart();
+  view.resize(600, 800);
+  EXPECT_EQ(view.Part().Scale(), scale);
+  EXPECT_NEAR(view.Part().TopPart(), top, 1e-3);
+  view.ShowNoRegion();
+  EXPECT_EQ(view.Part().Scale(), 1);
+  Wheel({300, 300}, {0, Notch});
+  QTest::keyClick(&view, Qt::Key_Plus);
+  QTest::mouseDClick(&Find<QWidget>("imgMap"), Qt::LeftButton, {}, {300, 300});
+  EXPECT_EQ(view.Part().Scale(), 1);
+}
+
+TEST_F(ZoomTest, F5ReadsEverythingAnewAndKeepsTheScale) {
+  Wheel({250, 170}, {0, Notch});
+  folder.Write("a.data", "[t]\r\nWolf=256,192\r\nNeu=257,193\r\n");
+  QTest::keyClick(&view, Qt::Key_F5);
+  EXPECT_EQ(Find<ctlLocation>("DOT(1)").Desc(), u"Neu");
+  EXPECT_EQ(view.Part().Scale(), 1.25);
+  view.Change(map, data, u"t");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_N);
+  folder.Write("a.data", "[t]\r\nAlt=1,1\r\nNeu=500,300\r\nWolf=2,2\r\n");
+  const QPoint before = Find<QWidget>("ITEM").pos();
+  QTest::keyClick(&view, Qt::Key_F5);
+  EXPECT_EQ(Find<QComboBox>("cboItems").count(), 4);
+  EXPECT_EQ(Find<QComboBox>("cboItems").currentText(), u"Neu");
+  EXPECT_NE(Find<QWidget>("ITEM").pos(), before);
+  folder.Write("a.data", "[t]\r\nAlt=1,1\r\n");
+  QTest::keyClick(&view, Qt::Key_F5);
+  EXPECT_EQ(Find<QComboBox>("cboItems").currentIndex(), 0) << "the pick is gone";
+  EXPECT_FALSE(Find<QWidget>("ITEM").isVisible());
+}
+
+TEST_F(ZoomTest, ShiftAndAClickCopyThePosition) {
+  const QPoint at = Find<QWidget>("DOT(0)").geometry().center();
+  QTest::mouseClick(&Find<QWidget>("imgMap"), Qt::LeftButton, Qt::ShiftModifier, at);
+  EXPECT_EQ(QApplication::clipboard()->text(), u"256,192");
+  Wheel({20, 30}, {0, Notch * 5});
+  QTest::mouseClick(&Find<QWidget>("imgMap"), Qt::LeftButton, Qt::ShiftModifier, {20, 30});
+  const QStringList closer = QApplication::clipboard()->text().split(u',');
+  EXPECT_NEAR(closer.at(0).toInt(), 20 * 1024 / 1000, 1);
+  EXPECT_NEAR(closer.at(1).toInt(), 30 * 768 / 700, 1);
+}
+
+TEST_F(ZoomTest, SurvivesTheSmallestMapAndAPictureThatBreaks) {
+  Wheel({500, 300}, {0, Notch * 6});
+  for (const QSize& size : {QSize(1, 1), QSize(3840, 2160), QSize(1, 1), QSize(1000, 700)}) {
+    view.resize(size);
+    Wheel({0, 0}, {0, Notch});
+    EXPECT_FALSE(view.grab().isNull());
+  }
+  EXPECT_GT(view.Part().Scale(), 1);
+  folder.Write("a.jpg", "broken");
+  view.resize(900, 700);
+  EXPECT_EQ(view.Part().Scale(), 1) << "the start picture";
+  EXPECT_TRUE(view.Focus().Markers().empty());
+}
+
+TEST_F(ZoomTest, StartsWithThePictureBesideTheProgram) {
+  QImage overview(64, 48, QImage::Format_RGB32);
+  overview.fill(Qt::blue);
+  overview.save(QString::fromStdString(folder.Native("overview.jpg")), "PNG");
+  MapView started(cache, names, nullptr, folder.Path(u"overview.jpg"));
+  started.resize(400, 300);
+  started.show();
+  const auto color = [&] { return started.grab().toImage().pixelColor(200, 150); };
+  EXPECT_EQ(color(), QColor(Qt::blue));
+  started.ChangeMulti(map, data, u"t", u"H", false);
+  EXPECT_NE(color(), QColor(Qt::blue));
+  started.ShowNoRegion();
+  EXPECT_EQ(color(), QColor(Qt::blue));
+}
