@@ -34,13 +34,13 @@ def open_page(browser, page, link=""):
 def main():
     page, folder = pathlib.Path(sys.argv[1]).resolve(), sys.argv[2]
     with Browser(size=(1360, 900)) as browser:
-        open_page(browser, page, "#arvenna/teachers/Schmied%20Baldrun")
+        open_page(browser, page, "#arvenna/teachers/J%C3%A4gerin%20Fenja")
         browser.run(CHOOSE, ["teachers", "cities"])
-        browser.run("document.querySelectorAll('#list li:nth-child(3n) input').forEach(box => box.click());"
+        browser.run("fitMap(); document.querySelectorAll('#list li:nth-child(3n) input').forEach(box => box.click());"
                     "ui.names.click()")
         shot(browser, folder, "page-desktop", 1360)
     with Browser(phone=(390, 760)) as browser:
-        open_page(browser, page, "#arvenna/teachers/Schmied%20Baldrun")
+        open_page(browser, page, "#arvenna/teachers/J%C3%A4gerin%20Fenja")
         shot(browser, folder, "page-phone", 390)
 
 
