@@ -169,7 +169,8 @@ std::vector<RegionMap> Read(World& world) {
 }
 
 void Narrow(std::vector<RegionMap>& maps, const Selection& selection) {
-  std::erase_if(maps, [&selection](RegionMap& map) { return !IsWanted(selection.regions, map); });
+  std::erase_if(maps,
+                [&selection](const RegionMap& map) { return !IsWanted(selection.regions, map); });
   if (selection.sections.empty())
     return;
   for (RegionMap& map : maps)
