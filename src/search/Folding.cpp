@@ -27,6 +27,7 @@ constexpr auto Folds = std::to_array<Fold>({
     {u"ß", u"ss"},
     {u"þ", u"th"},
     {u"‘’", u"'"},
+    {u"\u00A0", u" "},
     {u"\u00AD", u""},
 });
 

@@ -6,7 +6,7 @@
 namespace Search {
 
 /// The text as it compares: small letters without accents, ligatures and "ß" as two letters, curly
-/// apostrophes as straight ones, no soft hyphens.
+/// apostrophes as straight ones, no-break spaces as plain ones, no soft hyphens.
 [[nodiscard]] Text Folded(TextView text);
 
 /// Whether the text holds the part anywhere, whatever the case and the accents of both.

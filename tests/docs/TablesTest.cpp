@@ -153,8 +153,8 @@ TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   for (const Rules::Rule& rule : Rules::All())
     (rule.number.starts_with(u'T') ? ofLanguages : ofWorlds)
         .push_back({Narrow(rule.number), Narrow(rule.name), Narrow(Rules::NameOf(rule.severity)),
-                    WithoutMarks(Narrow(rule.example)), WithoutMarks(Narrow(rule.consequence)),
-                    WithoutMarks(Narrow(rule.advice))});
+                    Document::Cell(Narrow(rule.example)), Document::Cell(Narrow(rule.consequence)),
+                    Document::Cell(Narrow(rule.advice))});
   EXPECT_EQ(Document::Read("map-authors.md").Table("What the checker tells"), ofWorlds);
   EXPECT_EQ(Document::Read("translators.md").Table("What the checker tells"), ofLanguages);
 }
