@@ -2,12 +2,14 @@
 
 #include "app/MenuTable.h"
 #include "auxwin/ExtrasTable.h"
+#include "i18n/PageTexts.h"
 #include "i18n/WindowTexts.h"
 #include "perks/PerkCatalogue.h"
 #include "perks/PerkTree.h"
 
 std::vector<TextRow> AllTexts() {
   std::vector<TextRow> all(WindowTexts::Table.begin(), WindowTexts::Table.end());
+  all.insert(all.end(), PageTexts::Table.begin(), PageTexts::Table.end());
   for (const Extra& extra : ExtrasTable)
     all.push_back(extra.name);
   for (const TextRow& heading : PerkTree::Headings())

@@ -4,6 +4,6 @@
 
 #include <vector>
 
-/// Every text of the interface: those of the windows, section by section, then the perks, the
-/// extras and the menus.
+/// Every text of the interface: those of the windows, section by section, then the exported page,
+/// the extras, the perks and the menus.
 [[nodiscard]] std::vector<TextRow> AllTexts();

@@ -9,6 +9,8 @@ class App;
 namespace Commands {
 
 void AddCheck(CLI::App& app, int& status);
+void AddFind(CLI::App& app, int& status);
+void AddExport(CLI::App& app, int& status);
 void AddNew(CLI::App& app, int& status);
 void AddTemplate(CLI::App& app, int& status);
 

@@ -1,6 +1,7 @@
 #include "cli/Console.h"
 
 #include "platform/NativePath.h"
+#include "platform/PosixFile.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -100,6 +101,14 @@ bool Write(const std::string& bytes) {
     done += written > 0 ? static_cast<size_t>(written) : 0;
   }
   return true;
+}
+
+bool Put(const std::string& output, const std::string& bytes) {
+  const bool toOutput = output == "-";
+  if (toOutput ? Write(bytes) : PosixFile::Replace(output, bytes))
+    return true;
+  Complain((toOutput ? "the output" : output) + " could not be written");
+  return false;
 }
 
 void Complain(const std::string& message) {

@@ -26,6 +26,10 @@ struct Style {
 /// Writes all bytes to standard output; false if it takes no more.
 [[nodiscard]] bool Write(const std::string& bytes);
 
+/// Puts the bytes to standard output if that is "-", else into the file, whole or not at all.
+/// False, and a complaint, if that fails.
+[[nodiscard]] bool Put(const std::string& output, const std::string& bytes);
+
 /// Writes a message of the program itself to standard error.
 void Complain(const std::string& message);
 

@@ -3,6 +3,8 @@
 #include "platform/windows/PictureReader.h"
 
 std::optional<PictureSize> Pictures::SizeOf(TextView path) {
-  const auto size = PictureReader::SizeOf(path);
-  return size ? std::optional(PictureSize{size->width(), size->height()}) : std::nullopt;
+  const auto picture = PictureReader::ReadEncoded(path);
+  if (!picture)
+    return std::nullopt;
+  return PictureSize{picture->size.width(), picture->size.height()};
 }

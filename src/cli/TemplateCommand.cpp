@@ -4,7 +4,6 @@
 #include "cli/Pictures.h"
 #include "cli/WorldFolder.h"
 #include "platform/NativePath.h"
-#include "platform/PosixFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -22,13 +21,6 @@ struct Options {
   bool missing = false;
 };
 
-bool Put(const std::string& output, const std::string& bytes) {
-  if (output == "-" ? Console::Write(bytes) : PosixFile::Replace(output, bytes))
-    return true;
-  Console::Complain(output + " could not be written");
-  return false;
-}
-
 int Run(const Options& options) {
   const auto world = WorldFolder::Find(options.world, {});
   if (!world) {
@@ -43,7 +35,7 @@ int Run(const Options& options) {
   }
   const Template::Question question = {wanted.empty() ? nullptr : &index.languages.front(),
                                        options.german, options.missing};
-  return Put(options.output, Template::Make(index, question)) ? 0 : WrongUse;
+  return Console::Put(options.output, Template::Make(index, question)) ? 0 : WrongUse;
 }
 
 }  // namespace

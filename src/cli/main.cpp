@@ -14,7 +14,8 @@ namespace {
 
 constexpr int WrongUse = 2;
 
-constexpr auto All = {&Commands::AddCheck, &Commands::AddNew, &Commands::AddTemplate};
+constexpr auto All = {&Commands::AddCheck, &Commands::AddFind, &Commands::AddNew,
+                      &Commands::AddTemplate, &Commands::AddExport};
 
 int Run(int argc, char** argv) {
   CLI::App app("What makers of maps and languages for Orvalis get beside the viewer");

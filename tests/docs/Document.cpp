@@ -13,7 +13,16 @@ std::map<std::string, std::string> Attributes(const std::string& fence) {
   return found;
 }
 
-std::string Cell(const std::string& text) {
+std::vector<std::string> Cells(const std::string& line) {
+  std::vector<std::string> cells;
+  for (size_t from = 1, bar = 0; (bar = line.find('|', from)) != std::string::npos; from = bar + 1)
+    cells.push_back(Document::Cell(line.substr(from, bar - from)));
+  return cells;
+}
+
+}  // namespace
+
+std::string Document::Cell(const std::string& text) {
   const size_t first = text.find_first_not_of(' ');
   if (first == std::string::npos)
     return {};
@@ -22,15 +31,6 @@ std::string Cell(const std::string& text) {
              ? cell.substr(1, cell.size() - 2)
              : cell;
 }
-
-std::vector<std::string> Cells(const std::string& line) {
-  std::vector<std::string> cells;
-  for (size_t from = 1, bar = 0; (bar = line.find('|', from)) != std::string::npos; from = bar + 1)
-    cells.push_back(Cell(line.substr(from, bar - from)));
-  return cells;
-}
-
-}  // namespace
 
 Document Document::Read(const std::string& name) {
   std::ifstream file(ORVALIS_SOURCES "/docs/" + name);

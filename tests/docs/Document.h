@@ -28,6 +28,9 @@ struct Document {
   /// The page `name` of docs/; the heads of tables are left out.
   [[nodiscard]] static Document Read(const std::string& name);
 
+  /// What a cell says: without blanks around it, and without code marks around all of it.
+  [[nodiscard]] static std::string Cell(const std::string& text);
+
   /// The rows of all tables directly below that heading.
   [[nodiscard]] std::vector<std::vector<std::string>> Table(const std::string& heading) const;
 };

@@ -145,7 +145,7 @@ TEST_P(TextSections, AreTranslatedWholeAndWithTheirPlaceholders) {
 
 INSTANTIATE_TEST_SUITE_P(Languages, TextSections,
                          testing::Values("general", "menus", "ui", "frmLang", "frmFind", "frmAbout",
-                                         "frmPrint", "frmInfo", "frmPerks", "frmExtras"));
+                                         "frmPrint", "frmInfo", "page", "frmPerks", "frmExtras"));
 
 TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   Table ofWorlds;
@@ -153,8 +153,8 @@ TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   for (const Rules::Rule& rule : Rules::All())
     (rule.number.starts_with(u'T') ? ofLanguages : ofWorlds)
         .push_back({Narrow(rule.number), Narrow(rule.name), Narrow(Rules::NameOf(rule.severity)),
-                    WithoutMarks(Narrow(rule.example)), WithoutMarks(Narrow(rule.consequence)),
-                    WithoutMarks(Narrow(rule.advice))});
+                    Document::Cell(Narrow(rule.example)), Document::Cell(Narrow(rule.consequence)),
+                    Document::Cell(Narrow(rule.advice))});
   EXPECT_EQ(Document::Read("map-authors.md").Table("What the checker tells"), ofWorlds);
   EXPECT_EQ(Document::Read("translators.md").Table("What the checker tells"), ofLanguages);
 }

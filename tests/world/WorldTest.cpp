@@ -182,7 +182,7 @@ TEST_F(WorldTest, NeverSaysTheSameTwice) {
       shown.push_back(language.IsGerman() ? name : language.Shown(files, name));
     std::map<Text, Text> owners;
     for (const Text& key : files.IniReadFile(InfoOf(folder), u"info")) {
-      Text text = InfoFile::ReadEntry(files, InfoOf(folder), key);
+      Text text = InfoFile::ReadEntry(files.File(InfoOf(folder)), key);
       for (const Text& name : shown)
         text = Texts::ReplaceAll(text, name, NameSign);
       for (const Text& run : RunsOf(text)) {

@@ -137,6 +137,7 @@ const drawn = new Map();  // entity, or the cell of a crowd -> its marker on the
 let picture = null;
 
 const placeOf = ({x, y}) => L.latLng(-y, x);
+const isPlaced = ({x}) => x !== undefined;
 
 /** Shows the whole picture, the farthest that one can step back. */
 function fitMap() {
@@ -196,7 +197,7 @@ function markersInView() {
   }
   const markers = new Map([...crowds].map(([key, crowd]) =>
     [crowd.count > 1 ? `${key} ${crowd.count} ${cell}` : crowd.entity, crowd]));
-  if (visible.includes(current))
+  if (visible.includes(current) && isPlaced(current))
     markers.set(current, {...current, entity: current, count: 1});
   return markers;
 }
@@ -328,6 +329,8 @@ function setCurrent(entity) {
 
 /** Shows the entity beside an open description; one that was chosen elsewhere, in the middle. */
 function bringIntoView(entity, centred) {
+  if (!isPlaced(entity))
+    return;
   const box = ui.map.getBoundingClientRect();
   const panel = ui.entity.getBoundingClientRect();
   const covered = panel.width < box.width ? [Math.max(0, box.right - panel.left), 0]
@@ -365,10 +368,11 @@ function nextMarker(from, across, down) {
 const Arrows = {ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1]};
 
 function walk(key) {
-  const here = visible.indexOf(current);
-  const steps = {Home: 0, End: visible.length - 1, PageUp: here - 1, PageDown: here + 1};
-  const next = here < 0 ? visible[0]
-    : key in steps ? visible[steps[key]] : nextMarker(current, ...Arrows[key]);
+  const placed = visible.filter(isPlaced);
+  const here = placed.indexOf(current);
+  const steps = {Home: 0, End: placed.length - 1, PageUp: here - 1, PageDown: here + 1};
+  const next = here < 0 ? placed[0]
+    : key in steps ? placed[steps[key]] : nextMarker(current, ...Arrows[key]);
   if (next)
     focusMarker(next);
 }

@@ -69,7 +69,7 @@ frmInfo::frmInfo(QWidget* parent, World& world, const Text& infoEntityName)
   QPalette buttonFace = txtInfo->palette();
   buttonFace.setColor(QPalette::Base, buttonFace.color(QPalette::Button));
   txtInfo->setPalette(buttonFace);
-  txtInfo->setPlainText(ToQt(Texts::ReplaceAll(description, u"\\n", u"\n")));
+  txtInfo->setPlainText(ToQt(InfoFile::WithLineBreaks(description)));
   ShowPortrait(snapshot, world.paths, key);
   lblName->setText(ToQt(infoEntityName));
   WindowTitle::Set(*this, name);

@@ -37,6 +37,10 @@ Text ReadRedirected(const ProfileFile& file, TextView key,
                 : Windows1252::Decode(description);
 }
 
+Text WithLineBreaks(TextView description) {
+  return Texts::ReplaceAll(description, LineBreak, u"\n");
+}
+
 Text TooltipOf(TextView description) {
   const Text line = Texts::ReplaceAll(description, LineBreak, u" ");
   if (Texts::Trim(line).empty())

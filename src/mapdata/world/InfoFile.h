@@ -31,6 +31,9 @@ inline constexpr std::string_view Section = "info";
 [[nodiscard]] Text ReadRedirected(const ProfileFile& file, TextView key,
                                   const std::function<Text(TextView)>& targetKey);
 
+/// The description with line breaks in the place of "\\n".
+[[nodiscard]] Text WithLineBreaks(TextView description);
+
 /// The start of a description for a tooltip: its first 80 characters and "...", line breaks as
 /// blanks; "" for a description of blanks alone.
 [[nodiscard]] Text TooltipOf(TextView description);

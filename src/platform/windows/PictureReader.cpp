@@ -76,14 +76,16 @@ QImage Read(TextView path, QSize cover) {
                                                            : QImage::Format_RGB32);
 }
 
-std::optional<QSize> SizeOf(TextView path) {
-  QByteArray bytes = Bytes(path);
-  QBuffer buffer(&bytes);
+std::optional<Encoded> ReadEncoded(TextView path) {
+  Encoded picture{Bytes(path), {}, {}};
+  QBuffer buffer(&picture.bytes);
   QImageReader reader(&buffer);
   reader.setDecideFormatFromContent(true);
-  if (!IsKnownFormat(reader.format()) || !IsAllowedSize(reader.size()))
+  picture.format = reader.format();
+  picture.size = reader.size();
+  if (!IsKnownFormat(picture.format) || !IsAllowedSize(picture.size))
     return std::nullopt;
-  return reader.size();
+  return picture;
 }
 
 }  // namespace PictureReader

@@ -2,6 +2,7 @@
 
 #include "platform/Text.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QSize>
 
@@ -16,8 +17,16 @@ namespace PictureReader {
 /// it. A path that begins with ":/" is a picture built into the program.
 [[nodiscard]] QImage Read(TextView path, QSize cover = {});
 
-/// The size of the picture that `Read` would give, from its header alone; none if it gives none
-/// for what the header says.
-[[nodiscard]] std::optional<QSize> SizeOf(TextView path);
+/// A picture as its file has it.
+struct Encoded {
+  QByteArray bytes;
+  /// "jpeg", "bmp", "gif", "ico" or "png".
+  QByteArray format;
+  QSize size;
+};
+
+/// The file of the picture that `Read` would give, by its header alone; none if it gives none for
+/// what the header says.
+[[nodiscard]] std::optional<Encoded> ReadEncoded(TextView path);
 
 }  // namespace PictureReader
