@@ -68,7 +68,7 @@ Text Excerpt(TextView description, TextView term) {
   if (end - begin > LongestExcerpt) {
     const size_t least = std::min(place + term.size(), end);
     const size_t blank = line.rfind(u' ', begin + LongestExcerpt);
-    end = blank != Text::npos && blank > least ? blank : std::max(least, begin + LongestExcerpt);
+    end = blank != Text::npos && blank >= least ? blank : std::max(least, begin + LongestExcerpt);
   }
   return Texts::Join(begin > 0 ? Cut : TextView(), TextView(line).substr(begin, end - begin),
                      end < line.size() ? Cut : TextView());

@@ -69,4 +69,5 @@ TEST_P(Pages, LinkToHeadingsThatAreThere) {
 INSTANTIATE_TEST_SUITE_P(Repository, Pages,
                          testing::Values("README.md", "CONTRIBUTING.md", "CHANGELOG.md",
                                          "docs/architecture.md", "docs/map-authors.md",
-                                         "docs/performance.md", "docs/translators.md"));
+                                         "docs/performance.md", "docs/translators.md",
+                                         "docs/share.md"));
