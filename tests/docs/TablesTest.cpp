@@ -56,8 +56,16 @@ std::map<std::string, std::vector<std::string>> Documented(const std::string& se
 
 TEST(DocumentedMenus, AreTheMenusOfTheProgram) {
   Table expected;
-  for (const TextRow& menu : TextsOf("menus"))
-    expected.push_back({Narrow(menu.key), Narrow(menu.english), Narrow(menu.german)});
+  std::vector<std::string> menus = {"–"};
+  for (const MenuRow& row : MenuTable::Rows()) {
+    if (row.kind == MenuRow::Kind::BarDivider)
+      continue;
+    const TextRow& caption = row.caption;
+    menus.resize(static_cast<size_t>(row.level) + 1);
+    expected.push_back(
+        {Narrow(caption.key), Narrow(caption.english), Narrow(caption.german), menus.back()});
+    menus.push_back(Narrow(caption.key));
+  }
   EXPECT_EQ(Document::Read("translators.md").Table("[menus]"), expected);
 }
 
