@@ -17,10 +17,7 @@ std::string Cell(const std::string& text) {
   const size_t first = text.find_first_not_of(' ');
   if (first == std::string::npos)
     return {};
-  const std::string cell = text.substr(first, text.find_last_not_of(' ') - first + 1);
-  return cell.size() >= 2 && cell.front() == '`' && cell.back() == '`'
-             ? cell.substr(1, cell.size() - 2)
-             : cell;
+  return Document::WithoutMarks(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
 std::vector<std::string> Cells(const std::string& line) {
@@ -31,6 +28,12 @@ std::vector<std::string> Cells(const std::string& line) {
 }
 
 }  // namespace
+
+std::string Document::WithoutMarks(const std::string& cell) {
+  return cell.size() >= 2 && cell.front() == '`' && cell.back() == '`'
+             ? cell.substr(1, cell.size() - 2)
+             : cell;
+}
 
 Document Document::Read(const std::string& name) {
   std::ifstream file(ORVALIS_SOURCES "/docs/" + name);

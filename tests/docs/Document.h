@@ -28,6 +28,9 @@ struct Document {
   /// The page `name` of docs/; the heads of tables are left out.
   [[nodiscard]] static Document Read(const std::string& name);
 
+  /// A cell without the code marks around it.
+  [[nodiscard]] static std::string WithoutMarks(const std::string& cell);
+
   /// The rows of all tables directly below that heading.
   [[nodiscard]] std::vector<std::vector<std::string>> Table(const std::string& heading) const;
 };

@@ -1,6 +1,7 @@
 // Holds the tables of the manuals against the tables of the program and the demonstration world.
 #include "app/AllTexts.h"
 #include "app/MenuTable.h"
+#include "check/Rules.h"
 #include "docs/Document.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/Settings.h"
@@ -160,8 +161,9 @@ TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   for (const Rules::Rule& rule : Rules::All())
     (rule.number.starts_with(u'T') ? ofLanguages : ofWorlds)
         .push_back({Narrow(rule.number), Narrow(rule.name), Narrow(Rules::NameOf(rule.severity)),
-                    WithoutMarks(Narrow(rule.example)), WithoutMarks(Narrow(rule.consequence)),
-                    WithoutMarks(Narrow(rule.advice))});
+                    Document::WithoutMarks(Narrow(rule.example)),
+                    Document::WithoutMarks(Narrow(rule.consequence)),
+                    Document::WithoutMarks(Narrow(rule.advice))});
   EXPECT_EQ(Document::Read("map-authors.md").Table("What the checker tells"), ofWorlds);
   EXPECT_EQ(Document::Read("translators.md").Table("What the checker tells"), ofLanguages);
 }
