@@ -13,20 +13,23 @@ std::map<std::string, std::string> Attributes(const std::string& fence) {
   return found;
 }
 
+std::string Cell(const std::string& text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos)
+    return {};
+  return Document::WithoutMarks(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
 std::vector<std::string> Cells(const std::string& line) {
   std::vector<std::string> cells;
   for (size_t from = 1, bar = 0; (bar = line.find('|', from)) != std::string::npos; from = bar + 1)
-    cells.push_back(Document::Cell(line.substr(from, bar - from)));
+    cells.push_back(Cell(line.substr(from, bar - from)));
   return cells;
 }
 
 }  // namespace
 
-std::string Document::Cell(const std::string& text) {
-  const size_t first = text.find_first_not_of(' ');
-  if (first == std::string::npos)
-    return {};
-  const std::string cell = text.substr(first, text.find_last_not_of(' ') - first + 1);
+std::string Document::WithoutMarks(const std::string& cell) {
   return cell.size() >= 2 && cell.front() == '`' && cell.back() == '`'
              ? cell.substr(1, cell.size() - 2)
              : cell;

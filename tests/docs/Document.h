@@ -28,8 +28,8 @@ struct Document {
   /// The page `name` of docs/; the heads of tables are left out.
   [[nodiscard]] static Document Read(const std::string& name);
 
-  /// What a cell says: without blanks around it, and without code marks around all of it.
-  [[nodiscard]] static std::string Cell(const std::string& text);
+  /// A cell without the code marks around it.
+  [[nodiscard]] static std::string WithoutMarks(const std::string& cell);
 
   /// The rows of all tables directly below that heading.
   [[nodiscard]] std::vector<std::vector<std::string>> Table(const std::string& heading) const;

@@ -57,8 +57,16 @@ std::map<std::string, std::vector<std::string>> Documented(const std::string& se
 
 TEST(DocumentedMenus, AreTheMenusOfTheProgram) {
   Table expected;
-  for (const TextRow& menu : TextsOf("menus"))
-    expected.push_back({Narrow(menu.key), Narrow(menu.english), Narrow(menu.german)});
+  std::vector<std::string> menus = {"–"};
+  for (const MenuRow& row : MenuTable::Rows()) {
+    if (row.kind == MenuRow::Kind::BarDivider)
+      continue;
+    const TextRow& caption = row.caption;
+    menus.resize(static_cast<size_t>(row.level) + 1);
+    expected.push_back(
+        {Narrow(caption.key), Narrow(caption.english), Narrow(caption.german), menus.back()});
+    menus.push_back(Narrow(caption.key));
+  }
   EXPECT_EQ(Document::Read("translators.md").Table("[menus]"), expected);
 }
 
@@ -153,8 +161,9 @@ TEST(DocumentedRules, AreTheRulesOfTheChecker) {
   for (const Rules::Rule& rule : Rules::All())
     (rule.number.starts_with(u'T') ? ofLanguages : ofWorlds)
         .push_back({Narrow(rule.number), Narrow(rule.name), Narrow(Rules::NameOf(rule.severity)),
-                    Document::Cell(Narrow(rule.example)), Document::Cell(Narrow(rule.consequence)),
-                    Document::Cell(Narrow(rule.advice))});
+                    Document::WithoutMarks(Narrow(rule.example)),
+                    Document::WithoutMarks(Narrow(rule.consequence)),
+                    Document::WithoutMarks(Narrow(rule.advice))});
   EXPECT_EQ(Document::Read("map-authors.md").Table("What the checker tells"), ofWorlds);
   EXPECT_EQ(Document::Read("translators.md").Table("What the checker tells"), ofLanguages);
 }
