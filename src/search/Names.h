@@ -7,14 +7,8 @@
 
 #include <vector>
 
-/// Finding a name of which only a part is known.
+/// The names that can be found by a part of them.
 namespace Search {
-
-/// The text as it compares: small letters without accents, ligatures and "ß" as two letters.
-[[nodiscard]] Text Folded(TextView text);
-
-/// Whether the name holds the text anywhere, whatever the case and the accents of both.
-[[nodiscard]] bool Holds(TextView name, TextView text);
 
 /// The names, as shown, of all entities of all regions that the search may find, each once, in the
 /// order of regions, sections and lines.

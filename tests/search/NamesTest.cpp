@@ -1,4 +1,4 @@
-#include "search/Names.h"
+#include "search/Folding.h"
 
 #include <gtest/gtest.h>
 

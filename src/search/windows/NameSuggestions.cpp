@@ -2,7 +2,7 @@
 
 #include "controls/windows/GermanOrder.h"
 #include "platform/windows/QtText.h"
-#include "search/Names.h"
+#include "search/Folding.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
