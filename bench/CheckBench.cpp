@@ -20,11 +20,6 @@ const GeneratedWorld& Large() {
   return world;
 }
 
-Text FolderOf(const GeneratedWorld& world) {
-  const Text& folder = world.Paths().programFolder;
-  return folder.substr(0, folder.size() - 1);
-}
-
 Text Demonstration() {
   return NativePath::FromBytes(ORVALIS_SOURCES "/world");
 }
@@ -58,21 +53,21 @@ void FillInEachLanguage(benchmark::State& state) {
 }
 
 void CheckSmall(benchmark::State& state) {
-  CheckFolder(state, FolderOf(Small()));
+  CheckFolder(state, Small().Folder());
 }
 
 void CheckLarge(benchmark::State& state) {
-  CheckFolder(state, FolderOf(Large()));
+  CheckFolder(state, Large().Folder());
 }
 
 void FillSmall(benchmark::State& state) {
   for (auto _ : state)
-    FillIn(FolderOf(Small()), u"English");
+    FillIn(Small().Folder(), u"English");
 }
 
 void FillLarge(benchmark::State& state) {
   for (auto _ : state)
-    FillIn(FolderOf(Large()), u"English");
+    FillIn(Large().Folder(), u"English");
 }
 
 BENCHMARK(CheckDemonstration)->Repetitions(Rounds);

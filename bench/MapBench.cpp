@@ -34,7 +34,7 @@ namespace {
 constexpr int Rounds = 7;
 constexpr QSize Screen = {1920, 1080};
 
-const MapWorld& World() {
+const MapWorld& Source() {
   static const MapWorld world;
   return world;
 }
@@ -71,14 +71,15 @@ class Window {
 
  private:
   RecordingDesktop desktop_;
-  Context context_{World().Folder(), desktop_};
+  World world_{Source().Folder()};
+  Context context_{world_, desktop_};
   frmMain window_{context_};
 };
 
 void ReadJpegAtWindowSize(benchmark::State& state) {
   for (auto _ : state) {
     const double start = ProcessSeconds();
-    QImageReader reader(ToQt(World().Picture(0)));
+    QImageReader reader(ToQt(Source().Picture(0)));
     reader.setScaledSize(Screen);
     benchmark::DoNotOptimize(reader.read());
     state.SetIterationTime(ProcessSeconds() - start);
@@ -113,7 +114,7 @@ void ResizeWithMarkers(benchmark::State& state) {
 
 void ResizePictureAlone(benchmark::State& state) {
   Window window;
-  window.View().Change(World().Picture(0), World().Data(0), u"no category");
+  window.View().Change(Source().Picture(0), Source().Data(0), u"no category");
   int step = 0;
   for (auto _ : state)
     state.SetIterationTime(window.Step(step++));
@@ -123,7 +124,7 @@ void ResizePictureAlone(benchmark::State& state) {
 class PlainPicture : public QWidget {
  public:
   PlainPicture() {
-    QImageReader reader(ToQt(World().Picture(0)));
+    QImageReader reader(ToQt(Source().Picture(0)));
     reader.setScaledSize(MapWorld::PictureSize / 2);
     picture_ = reader.read().convertToFormat(QImage::Format_RGB32);
     resize(Screen);
@@ -157,7 +158,7 @@ void PaintPlainPicture(benchmark::State& state) {
 class PlainPart : public QWidget {
  public:
   explicit PlainPart(double scale)
-      : picture_(PictureReader::Read(World().Picture(0), Screen * scale)), length_(1 / scale) {
+      : picture_(PictureReader::Read(Source().Picture(0), Screen * scale)), length_(1 / scale) {
     resize(Screen);
     show();
     QApplication::processEvents();
@@ -274,7 +275,7 @@ void SharpFrame(benchmark::State& state) {
 void ReadWholeJpeg(benchmark::State& state) {
   for (auto _ : state) {
     const double start = ProcessSeconds();
-    QImageReader reader(ToQt(World().Picture(0)));
+    QImageReader reader(ToQt(Source().Picture(0)));
     benchmark::DoNotOptimize(reader.read());
     state.SetIterationTime(ProcessSeconds() - start);
   }
@@ -302,7 +303,7 @@ void ShowMarkers(benchmark::State& state, const EntityNames& names) {
   view.show();
   for (auto _ : state) {
     const double start = ProcessSeconds();
-    view.ChangeMulti(World().Picture(0), World().Data(0), Text(MapWorld::Measured(0).category),
+    view.ChangeMulti(Source().Picture(0), Source().Data(0), Text(MapWorld::Measured(0).category),
                      u"Names", false);
     QApplication::processEvents();
     state.SetIterationTime(ProcessSeconds() - start);
@@ -326,7 +327,7 @@ class HoveredMap {
  public:
   HoveredMap() {
     view_.resize(Screen);
-    view_.ChangeMulti(World().Picture(0), World().Data(0), Text(MapWorld::Measured(0).category),
+    view_.ChangeMulti(Source().Picture(0), Source().Data(0), Text(MapWorld::Measured(0).category),
                       u"Names", false);
     view_.show();
     QApplication::processEvents();
@@ -346,7 +347,7 @@ class HoveredMap {
 
  private:
   IniOps::Cache cache_;
-  GermanNames names_{World().InfoData()};
+  GermanNames names_{Source().InfoData()};
   MapView view_{cache_, names_};
 };
 
@@ -360,7 +361,7 @@ double SecondsOf(HoveredMap& map, int slot) {
 }
 
 void ReadInfoFile(benchmark::State& state) {
-  const std::string path = World().Native() + "info.data";
+  const std::string path = Source().Native() + "info.data";
   for (auto _ : state) {
     const double start = ProcessSeconds();
     benchmark::DoNotOptimize(PosixFile::Read(path, IniOps::LargestFile));
@@ -372,7 +373,7 @@ void ReadInfoFile(benchmark::State& state) {
 void FirstMoveOverName(benchmark::State& state) {
   HoveredMap map;
   for (auto _ : state) {
-    World().TouchInfoData();
+    Source().TouchInfoData();
     state.SetIterationTime(SecondsOf(map, 0));
     if (map.ToolTip(0).isEmpty())
       state.SkipWithError("the name has no description");

@@ -47,7 +47,7 @@ QByteArray Painted() {
   return bytes;
 }
 
-std::string Region(const std::string& category) {
+std::string DataFile(const std::string& category) {
   std::mt19937 random(7);
   const auto position = [&random] {
     return '=' + std::to_string(random() % 1024) + ',' + std::to_string(random() % 768) + "\r\n";
@@ -85,7 +85,7 @@ MapWorld::MapWorld() {
   for (int region = 0; region < Regions; ++region) {
     const std::string stem = *Windows1252::Encode(Stems[static_cast<size_t>(region)]);
     Write(stem + ".jpg", picture);
-    Write(stem + ".data", Region(*Windows1252::Encode(Measured(region).category)));
+    Write(stem + ".data", DataFile(*Windows1252::Encode(Measured(region).category)));
   }
   Write("info.data", Descriptions());
 }
@@ -101,7 +101,7 @@ Text MapWorld::Data(int region) const {
 const MenuRow& MapWorld::Measured(int region) {
   const auto rows = MenuTable::Rows();
   return *std::find_if(rows.begin(), rows.end(), [region](const MenuRow& row) {
-    return row.kind == MenuRow::Kind::Category && row.region == region &&
+    return row.kind == MenuRow::Kind::Category && row.region == static_cast<Region>(region) &&
            row.mode == DisplayMode::Labels;
   });
 }

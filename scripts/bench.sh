@@ -7,7 +7,7 @@ table=${1:-/dev/null}
 
 scripts/install.sh run test bench
 cmake --preset release
-programs="start_bench map_bench sharp_bench profile_bench i18n_bench search_bench perks_bench check_bench"
+programs="start_bench map_bench sharp_bench profile_bench i18n_bench search_bench perks_bench check_bench export_bench"
 # shellcheck disable=SC2086
 cmake --build --preset release --target $programs
 

@@ -16,7 +16,7 @@ bool EntityLine::IsSearched() const {
 }
 
 const Index::Category* EntityLine::Category() const {
-  return index_.CategoryOf(entity_.region, Section().name);
+  return index_.CategoryOf(entity_);
 }
 
 Text EntityLine::SeenOnMap() const {

@@ -119,10 +119,16 @@ class Trial {
         left.erase(known);
         return true;
       }
-      return std::ranges::any_of(scopes, [&finding](const Scope& scope) {
-        return scope.Holds(finding.file, finding.section);
-      });
+      return !IsOfTwoSections(finding.rule) &&
+             std::ranges::any_of(scopes, [&finding](const Scope& scope) {
+               return scope.Holds(finding.file, finding.section);
+             });
     });
+  }
+
+  // What a fix can bring about in its own section.
+  [[nodiscard]] static bool IsOfTwoSections(Rules::Id rule) {
+    return rule == Rules::Id::S04 || rule == Rules::Id::S05;
   }
 
   [[nodiscard]] bool AreGone(const std::vector<Finding>& findings,

@@ -53,6 +53,7 @@ void Index::AddEntities(size_t region) {
   const Source& source = *data[region];
   for (size_t section = 0; section < source.Sections().size(); ++section) {
     const Source::Section& header = source.Sections()[section];
+    shown_[region].push_back(CategoryOf(region, header.name));
     if (!header.plain || !header.listed)
       continue;
     for (size_t line = header.line + 1; line < header.listEnd; ++line)

@@ -83,6 +83,11 @@ class Index {
   /// The category that shows the section of the region; none if no command does.
   [[nodiscard]] const Category* CategoryOf(size_t region, std::string_view section) const;
 
+  /// The same for the section of an entity.
+  [[nodiscard]] const Category* CategoryOf(const Entity& entity) const {
+    return shown_[entity.region][entity.section];
+  }
+
   /// A file of the world that several checks look at.
   const Source& Open(Source::Kind kind, const Text& path);
 
@@ -111,6 +116,7 @@ class Index {
   void AddNames();
   void AddLanguages(const std::function<bool(TextView)>& wanted);
 
+  std::array<std::vector<const Category*>, Regions.size()> shown_;
   std::vector<std::string_view> names_;
   std::unordered_map<std::string, bool> isOn_;
 };

@@ -113,13 +113,22 @@ class LinkCheck {
                               u", but a link leads to a section of its own file");
         return;
       }
-    const size_t section = index_.data[entity.region]->FindListed(Encoded(target));
-    if (section == Source::None || !findings_.IsWorthHelp(finding.rule))
+    if (!findings_.IsWorthHelp(finding.rule))
       return;
-    const auto keys = index_.data[entity.region]->File().KeyNames(Encoded(target));
-    const std::string_view nearest = Nearest::Of(entity.name, keys);
-    if (!nearest.empty())
-      finding.advice = Join(u"is it ", Quoted(Decoded(nearest)), u"?");
+    const Source& source = *index_.data[entity.region];
+    const bool hasSection = source.FindSection(Encoded(target)) != Source::None;
+    const std::string meant(hasSection
+                                ? Nearest::Of(entity.name, source.File().KeyNames(Encoded(target)))
+                                : Nearest::Of(Encoded(target), NamesOf(source)));
+    if (!meant.empty())
+      finding.advice = Join(u"is it ", Quoted(Decoded(meant)), u"?");
+  }
+
+  [[nodiscard]] static std::vector<std::string_view> NamesOf(const Source& source) {
+    std::vector<std::string_view> names;
+    for (const Source::Section& section : source.Sections())
+      names.push_back(section.name);
+    return names;
   }
 
   void TellChain(const Index::Entity& entity, const EntityLine& line, const Text& target) {

@@ -90,6 +90,15 @@ class Header {
     return name_;
   }
 
+  // Where the first entity below the header stands for look-ups in the section of that number.
+  [[nodiscard]] Text FirstPlace(size_t section) const {
+    for (size_t line = section_.line + 1; line < section_.end; ++line)
+      if (const Source::Line& entity = source_.Lines()[line]; entity.isListed)
+        return Words::At(EntityFile::MarkerPosition(
+            EntityFile::Read(source_.File(), source_.Sections()[section].name, entity.listed)));
+    return u"0,0";
+  }
+
   void CheckMarkers() {
     const Index::Category* category = index_.CategoryOf(region_, section_.name);
     if (!category || category->isList)
@@ -109,14 +118,14 @@ class Header {
     const size_t above = line.listedIn;
     if (above != Source::None) {
       const Text into = Decoded(source_.Sections()[above].name);
-      finding.consequence =
-          Join(u"its ", Entities(Lines()), Lines() == 1 ? u" is" : u" are", u" shown in category ",
-               Quoted(into), u" at 0,0, and so is a marker ", Quoted(Decoded(line.listed)));
+      finding.consequence = Join(u"its ", Entities(Lines()), Lines() == 1 ? u" is" : u" are",
+                                 u" shown in category ", Quoted(into), u" at ", FirstPlace(above),
+                                 u", and so is a marker ", Quoted(Decoded(line.listed)));
     }
     finding.advice = u"remove the blanks before \"[\"";
     const size_t indent = section_.header.find('[');
     finding.edits = {Edits::Replaced(source_, section_.header.substr(0, indent), "")};
-    if (!section_.header.ends_with(']'))
+    if (section_.header.substr(indent) != Plain())
       finding.edits = {Edits::Replaced(source_, section_.header, Plain())};
     finding.isSafe = !HasTextBehind();
   }
@@ -164,9 +173,11 @@ class Header {
                            Join(Quoted(name_), u" is the section ", Quoted(Decoded(first.name)),
                                 u" of line ", Number(first.line + 1), u" in another spelling"));
     const bool shown = index_.CategoryOf(region_, section_.name) != nullptr;
-    finding.consequence = shown ? Join(u"its ", Entities(Listed()),
-                                       u" are named here and looked for there: all stand at 0,0")
-                                : Join(u"the search finds its ", Entities(Listed()), u" at 0,0");
+    const Text place = FirstPlace(number_);
+    finding.consequence = shown
+                              ? Join(u"its ", Entities(Listed()),
+                                     u" are named here and looked for there: they stand at ", place)
+                              : Join(u"the search finds its ", Entities(Listed()), u" at ", place);
     finding.advice = Join(u"merge the two as ", Decoded(Plain()));
     finding.edits = Edits::Merged(source_, first, section_);
     finding.edits.push_back(Edits::Replaced(source_, first.header, Plain()));

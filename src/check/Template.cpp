@@ -19,8 +19,7 @@ std::string AsValue(std::string value) {
 
 class Writer {
  public:
-  Writer(const Index& index, const Template::Question& question)
-      : index_(index), question_(question) {}
+  Writer(Index& index, const Template::Question& question) : index_(index), question_(question) {}
 
   std::string File() {
     Comment("A language of Orvalis: save it as LANG/NAME/NAME.lng.");
@@ -55,6 +54,14 @@ class Writer {
 
   [[nodiscard]] bool IsWanted(const TextRow& text) const {
     return !question_.missingOnly || Own(Encoded(text.section), Encoded(text.key)).empty();
+  }
+
+  // Words of regions and beginnings translate names that have no key of their own.
+  [[nodiscard]] bool IsTranslated(const std::string& name) {
+    const Text german = Words::Decoded(name);
+    return !Own("entities", name).empty() ||
+           (question_.language &&
+            question_.language->spoken->Shown(index_.files, german) != german);
   }
 
   void WriteSection(TextView section) {
@@ -92,17 +99,17 @@ class Writer {
     Comment("A word of a region is replaced first: write other keys with it translated.");
     Line("[entities]");
     for (const std::string& name : names)
-      if (const std::string own = Own("entities", name); !question_.missingOnly || own.empty())
-        Line(name + '=' + AsValue(own));
+      if (!question_.missingOnly || !IsTranslated(name))
+        Line(name + '=' + AsValue(Own("entities", name)));
   }
 
-  const Index& index_;
+  Index& index_;
   const Template::Question& question_;
   std::string file_;
 };
 
 }  // namespace
 
-std::string Template::Make(const Index& index, const Question& question) {
+std::string Template::Make(Index& index, const Question& question) {
   return Writer(index, question).File();
 }

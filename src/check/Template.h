@@ -18,6 +18,6 @@ struct Question {
 
 /// The file: all texts by sections, then all names of the world, the longer ones first. In
 /// Windows-1252, lines end with CR LF.
-[[nodiscard]] std::string Make(const Index& index, const Question& question);
+[[nodiscard]] std::string Make(Index& index, const Question& question);
 
 }  // namespace Template

@@ -258,14 +258,12 @@ class TranslationCheck {
   [[nodiscard]] bool IsSameInList(const Translated& name) {
     if (language_.spoken->LocalizeEntityName(index_.files, name.back) != name.shown)
       return false;
-    std::set<std::pair<size_t, size_t>> lists;
-    for (const Index::Entity& entity : index_.entities)
-      if (const Text key = Decoded(entity.name); key == name.name || key == name.back) {
-        const auto [place, isNew] = lists.emplace(entity.region, entity.section);
-        if (!isNew)
-          return true;
-      }
-    return false;
+    if (lists_.empty())
+      for (const Index::Entity& entity : index_.entities)
+        lists_[Decoded(entity.name)].emplace(entity.region, entity.section);
+    const auto& own = lists_[name.name];
+    const auto& other = lists_[name.back];
+    return std::ranges::any_of(own, [&other](const auto& list) { return other.contains(list); });
   }
 
   void CheckLength() {
@@ -307,6 +305,8 @@ class TranslationCheck {
   std::vector<Translated> names_;
   std::set<Text> switchedOff_;
   std::set<size_t> guilty_;
+  // The sections that each name stands in.
+  std::unordered_map<Text, std::set<std::pair<size_t, size_t>>> lists_;
   std::set<size_t> dead_;
   std::set<size_t> doubled_;
   std::vector<Text> untranslated_;

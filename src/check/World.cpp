@@ -115,9 +115,11 @@ class WorldCheck {
       return;
     if (source.kind == Source::Kind::Data && !FileSystem::FileExists(source.path))
       return;
-    Tell(Id::W11, source.path,
-         state == ReadState::TooLarge ? u"this file is larger than 1 GB"
-                                      : u"nobody may read this file");
+    Finding& finding = Tell(Id::W11, source.path,
+                            state == ReadState::TooLarge ? u"this file is larger than 1 GB"
+                                                         : u"nobody may read this file");
+    if (source.kind != Source::Kind::Data)
+      finding.consequence = u"it reads as an empty file";
   }
 
   void CheckSettings() {

@@ -138,6 +138,10 @@ class CheckRun {
 
   int Report() {
     const auto answer = Ask();
+    if (!HasLanguage(*answer)) {
+      Console::Complain("there is no language \"" + options_.language + "\" in this world");
+      return WrongUse;
+    }
     const Console::Style style = Console::OfOutput();
     std::string report;
     if (options_.diff)
@@ -156,6 +160,12 @@ class CheckRun {
       return WrongUse;
     }
     return StatusOf(*answer);
+  }
+
+  [[nodiscard]] bool HasLanguage(const Check::Answer& answer) const {
+    const Text language = FromArgument(options_.language);
+    return !answer.index.languages.empty() || language == u"all" || language == u"none" ||
+           language == LOCAL::German;
   }
 
   [[nodiscard]] int StatusOf(const Check::Answer& answer) const {
@@ -245,8 +255,11 @@ void Commands::AddCheck(CLI::App& app, int& status) {
   check->add_option("--format", options->format, "How to report")
       ->check(CLI::IsMember({"text", "short", "json", "sarif"}));
   check->add_option("--select", options->select, "Rules to look for, or letters of groups")
-      ->delimiter(',');
-  check->add_option("--ignore", options->ignore, "Rules not to look for")->delimiter(',');
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  check->add_option("--ignore", options->ignore, "Rules not to look for")
+      ->delimiter(',')
+      ->allow_extra_args(false);
   check->add_option("--min", options->minimum, "From which severity on the exit status is 1")
       ->check(CLI::IsMember({"fatal", "error", "warning", "note"}));
   check->add_flag("--strict", options->strict, "The same as --min note");

@@ -84,11 +84,12 @@ std::optional<Contents> Read(const Choice& choice) {
   }
   const Share::Selection selection = {FromArguments(choice.regions),
                                       FromArguments(choice.sections)};
-  auto maps = Share::Read(*world, selection);
-  if (const auto missing = Share::Missing(*world, selection)) {
+  auto maps = Share::Read(*world);
+  if (const auto missing = Share::Missing(maps, selection)) {
     Console::Complain("there is no \"" + NativePath::ToBytes(*missing) + "\" in this world");
     return std::nullopt;
   }
+  Share::Narrow(maps, selection);
   return Contents{std::move(world), std::move(maps)};
 }
 

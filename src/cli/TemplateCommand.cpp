@@ -28,8 +28,7 @@ int Run(const Options& options) {
     return WrongUse;
   }
   const Text wanted = NativePath::FromBytes(options.language);
-  const Index index(*world, &Pictures::SizeOf, [&wanted](TextView name) { return name == wanted; },
-                    {});
+  Index index(*world, &Pictures::SizeOf, [&wanted](TextView name) { return name == wanted; }, {});
   if (!wanted.empty() && (index.languages.empty() || !index.languages.front().file)) {
     Console::Complain("there is no language \"" + options.language + "\" in this world");
     return WrongUse;

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// The names that can be found by a part of them.
+/// What the search can suggest.
 namespace Search {
 
 /// The names, as shown, of all entities of all regions that the search may find, each once, in the

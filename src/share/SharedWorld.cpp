@@ -39,9 +39,9 @@ Text WithoutAccessKeys(TextView caption) {
 
 class Reader {
  public:
-  Reader(World& world, const RegionRow& region)
+  Reader(World& world, IniOps::Snapshot& files, const RegionRow& region)
       : world_(world),
-        files_(world.cache),
+        files_(files),
         region_(region),
         data_(files_.Shared(world.paths.Of(region.region).data)),
         info_(files_.Shared(world.language.InfoPath())),
@@ -126,7 +126,7 @@ class Reader {
   }
 
   World& world_;
-  IniOps::Snapshot files_;
+  IniOps::Snapshot& files_;
   const RegionRow& region_;
   std::shared_ptr<const ProfileFile> data_;
   std::shared_ptr<const ProfileFile> info_;
@@ -156,34 +156,31 @@ bool IsWanted(const std::vector<Text>& wanted, const Value& value) {
          std::ranges::any_of(wanted, [&value](TextView name) { return IsCalled(value, name); });
 }
 
-std::vector<Share::RegionMap> ReadRegions(World& world, const Share::Selection& selection) {
-  std::vector<Share::RegionMap> maps;
-  for (const RegionRow& region : Regions) {
-    Share::RegionMap map = Reader(world, region).Read();
-    if (IsWanted(selection.regions, map))
-      maps.push_back(std::move(map));
-  }
-  return maps;
-}
-
 }  // namespace
 
 namespace Share {
 
-std::vector<RegionMap> Read(World& world, const Selection& selection) {
-  std::vector<RegionMap> maps = ReadRegions(world, selection);
+std::vector<RegionMap> Read(World& world) {
+  IniOps::Snapshot files(world.cache);
+  std::vector<RegionMap> maps;
+  for (const RegionRow& region : Regions)
+    maps.push_back(Reader(world, files, region).Read());
+  return maps;
+}
+
+void Narrow(std::vector<RegionMap>& maps, const Selection& selection) {
+  std::erase_if(maps,
+                [&selection](const RegionMap& map) { return !IsWanted(selection.regions, map); });
   if (selection.sections.empty())
-    return maps;
+    return;
   for (RegionMap& map : maps)
     std::erase_if(map.categories, [&selection](const Category& category) {
       return !IsWanted(selection.sections, category);
     });
   std::erase_if(maps, [](const RegionMap& map) { return map.categories.empty(); });
-  return maps;
 }
 
-std::optional<Text> Missing(World& world, const Selection& selection) {
-  const auto maps = ReadRegions(world, {});
+std::optional<Text> Missing(std::span<const RegionMap> maps, const Selection& selection) {
   for (const Text& name : selection.regions)
     if (std::ranges::none_of(maps, [&name](const auto& map) { return IsCalled(map, name); }))
       return name;

@@ -6,7 +6,7 @@
 #include "platform/Text.h"
 
 #include <optional>
-#include <string_view>
+#include <span>
 #include <vector>
 
 /// A world as plain values, as the viewer shows it in the language of the moment: for whoever wants
@@ -63,10 +63,15 @@ struct Selection {
   std::vector<Text> sections;
 };
 
-/// The regions and sections that are asked for; regions without any of the sections are left out.
-[[nodiscard]] std::vector<RegionMap> Read(World& world, const Selection& selection = {});
+/// All regions, each file as it stands now.
+[[nodiscard]] std::vector<RegionMap> Read(World& world);
 
-/// The first region or section of the selection that the world lacks.
-[[nodiscard]] std::optional<Text> Missing(World& world, const Selection& selection);
+/// Leaves the regions and sections that are asked for, and no region without any of the sections.
+void Narrow(std::vector<RegionMap>& maps, const Selection& selection);
+
+/// The first region or section of the selection that the world, of which these are all regions,
+/// lacks.
+[[nodiscard]] std::optional<Text> Missing(std::span<const RegionMap> maps,
+                                          const Selection& selection);
 
 }  // namespace Share

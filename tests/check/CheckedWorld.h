@@ -18,7 +18,9 @@ class CheckedWorld {
       Write(std::string(region) + ".data", "[NPC]\nBerta=1,2\n");
       Write(std::string(region) + ".jpg", "2048x1536");
     }
-    Write("arvenna.data", "[NPC]\nAlrik=512,300\n[smiths]\nBaldrun=10,20\n");
+    Write("arvenna.data",
+          "[NPC]\nAlrik=512,300\n[smiths]\nBaldrun=10,20\n*Wolf=7,8\nTor nach Sarrakh=9,9\n"
+          "B\xE4r im B\xE4rental=11,12\n");
     Write("info.data", "[info]\nBerta=She waits.\n");
     Write("orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\n");
   }

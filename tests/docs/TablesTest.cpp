@@ -1,6 +1,7 @@
 // Holds the tables of the manuals against the tables of the program and the demonstration world.
 #include "app/AllTexts.h"
 #include "app/MenuTable.h"
+#include "check/Rules.h"
 #include "docs/Document.h"
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/Settings.h"

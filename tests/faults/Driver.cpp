@@ -297,7 +297,7 @@ class Driver : public QObject {
       case 0: {
         QWheelEvent wheel(at, map->mapToGlobal(at), {}, {0, Any(WheelDeltas)}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(map, &wheel);
+        QApplication::sendEvent(window.centralWidget(), &wheel);
         break;
       }
       case 1:

@@ -4,6 +4,7 @@
 #include "i18n/PageTexts.h"
 #include "platform/windows/QtText.h"
 
+#include <QByteArrayList>
 #include <QCryptographicHash>
 #include <QFile>
 #include <QJsonArray>
@@ -12,12 +13,15 @@
 #include <QLocale>
 
 #include <map>
+#include <numeric>
+#include <stdexcept>
 
 using QtText::ToQt;
 
 namespace {
 
-using Values = std::map<QByteArray, QByteArray>;
+// What stands for a name, in parts.
+using Values = std::map<QByteArray, QByteArrayList>;
 
 // A file that was built into the program.
 QByteArray BuiltIn(const char* name) {
@@ -27,11 +31,12 @@ QByteArray BuiltIn(const char* name) {
   return file.readAll();
 }
 
-// The browser would ask for the map of the source.
-QByteArray WithoutSourceMap(QByteArray script) {
-  if (const qsizetype comment = script.lastIndexOf("//# sourceMappingURL"); comment >= 0)
-    script.truncate(comment);
-  return script;
+// A browser would ask for the source's map, which the last comment names.
+QByteArray WithoutSourceMap(QByteArray code) {
+  constexpr qsizetype OpeningSlashes = 2;
+  if (const qsizetype name = code.lastIndexOf("# sourceMappingURL"); name >= OpeningSlashes)
+    code.truncate(name - OpeningSlashes);
+  return code;
 }
 
 QByteArray HashesOf(std::initializer_list<QByteArray> parts) {
@@ -43,15 +48,22 @@ QByteArray HashesOf(std::initializer_list<QByteArray> parts) {
 }
 
 // In one pass: nothing that is put in is looked at again.
-QByteArray Filled(const QByteArray& page, const Values& values) {
-  QByteArray filled;
+std::string Filled(const QByteArray& page, const Values& values) {
+  QByteArrayList parts;
   qsizetype at = 0;
   for (qsizetype begin = page.indexOf("{{"); begin >= 0; begin = page.indexOf("{{", at)) {
     const qsizetype end = page.indexOf("}}", begin);
-    filled += page.mid(at, begin - at) + values.at(page.mid(begin + 2, end - begin - 2));
+    parts << page.mid(at, begin - at) << values.at(page.mid(begin + 2, end - begin - 2));
     at = end + 2;
   }
-  return filled + page.mid(at);
+  parts << page.mid(at);
+  std::string filled;
+  filled.reserve(std::accumulate(
+      parts.begin(), parts.end(), size_t{0},
+      [](size_t sum, const QByteArray& part) { return sum + static_cast<size_t>(part.size()); }));
+  for (const QByteArray& part : parts)
+    filled.append(part.constData(), static_cast<size_t>(part.size()));
+  return filled;
 }
 
 QByteArray Escaped(const QString& text) {
@@ -91,7 +103,7 @@ class WorldObject {
             {QStringLiteral("regions"), regions}};
   }
 
-  [[nodiscard]] const QByteArray& Pictures() const { return pictures_.Elements(); }
+  [[nodiscard]] const QByteArrayList& Pictures() const { return pictures_.Elements(); }
 
  private:
   QJsonObject Words() {
@@ -169,18 +181,17 @@ std::string Of(World& world, std::span<const Share::RegionMap> maps, const Optio
   const QJsonObject words = made[QStringLiteral("words")].toObject();
   const QByteArray data = QJsonDocument(made).toJson(QJsonDocument::Compact);
   return Filled(BuiltIn("page.html"),
-                {{"language", Escaped(made[QStringLiteral("language")].toString())},
-                 {"title", Escaped(ToQt(options.title))},
-                 {"policy", policy},
-                 {"leaflet-licence", BuiltIn("leaflet-licence.txt")},
-                 {"leaflet-style", leafletStyle},
-                 {"leaflet", leaflet},
-                 {"style", style},
-                 {"script", script},
-                 {"no-script", Escaped(words[QStringLiteral("noScript")].toString())},
-                 {"world", QByteArray(data).replace("<", "\\u003c")},
-                 {"pictures", object.Pictures()}})
-      .toStdString();
+                {{"language", {Escaped(made[QStringLiteral("language")].toString())}},
+                 {"title", {Escaped(ToQt(options.title))}},
+                 {"policy", {policy}},
+                 {"leaflet-licence", {BuiltIn("leaflet-licence.txt")}},
+                 {"leaflet-style", {leafletStyle}},
+                 {"leaflet", {leaflet}},
+                 {"style", {style}},
+                 {"script", {script}},
+                 {"no-script", {Escaped(words[QStringLiteral("noScript")].toString())}},
+                 {"world", {QByteArray(data).replace("<", "\\u003c")}},
+                 {"pictures", object.Pictures()}});
 }
 
 }  // namespace Page

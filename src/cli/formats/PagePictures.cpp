@@ -17,9 +17,9 @@ std::optional<int> PagePictures::NumberOf(const Text& path) {
   const auto picture = PictureReader::ReadEncoded(path);
   if (!picture)
     return std::nullopt;
-  elements_ += R"(<script type="text/plain" id="picture-)" + QByteArray::number(count_) +
-               R"(">data:)" + MimeType(picture->format) + ";base64," + picture->bytes.toBase64() +
-               "</script>\n";
+  elements_ << R"(<script type="text/plain" id="picture-)" + QByteArray::number(count_) +
+                   R"(">data:)" + MimeType(picture->format) + ";base64,"
+            << picture->bytes.toBase64() << QByteArrayLiteral("</script>\n");
   known->second = count_++;
   return known->second;
 }

@@ -2,7 +2,7 @@
 
 #include "platform/Text.h"
 
-#include <QByteArray>
+#include <QByteArrayList>
 
 #include <map>
 #include <optional>
@@ -13,11 +13,11 @@ class PagePictures {
   /// The number of the picture in the file; none if the viewer would show none.
   [[nodiscard]] std::optional<int> NumberOf(const Text& path);
 
-  /// Their elements of the page, a line each.
-  [[nodiscard]] const QByteArray& Elements() const { return elements_; }
+  /// Their elements of the page, a line each, in parts: together they are most of the page.
+  [[nodiscard]] const QByteArrayList& Elements() const { return elements_; }
 
  private:
   std::map<Text, std::optional<int>> numbers_;
-  QByteArray elements_;
+  QByteArrayList elements_;
   int count_ = 0;
 };

@@ -53,9 +53,10 @@ std::string Excerpt(const Finding& finding, const Console::Style& style) {
 Text AdviceOf(const Finding& finding) {
   if (finding.edits.empty())
     return finding.advice;
-  return Join(finding.advice, finding.isSafe
-                                  ? u" (orvalis-world check --fix does it)"
-                                  : u" (orvalis-world check --fix --unsafe-fixes does it)");
+  if (Rules::Of(finding.rule).fixing == Rules::Fixing::Proved)
+    return Join(finding.advice, u" (orvalis-world check --fix tries it)");
+  return Join(finding.advice, u" (orvalis-world check --fix",
+              finding.isSafe ? u"" : u" --unsafe-fixes", u" does it)");
 }
 
 std::string OfFinding(const Finding& finding, const Console::Style& style, bool verbose) {

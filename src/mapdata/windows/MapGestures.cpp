@@ -76,6 +76,7 @@ bool MapGestures::eventFilter(QObject* watched, QEvent* event) {
 bool MapGestures::MapEvent(QEvent& event) {
   switch (event.type()) {
     case QEvent::Wheel:
+      event.accept();
       Wheel(static_cast<const QWheelEvent&>(event));
       return true;
     case QEvent::NativeGesture: {

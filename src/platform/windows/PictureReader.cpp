@@ -83,7 +83,7 @@ std::optional<Encoded> ReadEncoded(TextView path) {
   reader.setDecideFormatFromContent(true);
   picture.format = reader.format();
   picture.size = reader.size();
-  if (!IsKnownFormat(picture.format) || !IsSensibleSize(picture.size))
+  if (!IsKnownFormat(picture.format) || !IsAllowedSize(picture.size))
     return std::nullopt;
   return picture;
 }

@@ -3,6 +3,7 @@
 #include "controls/windows/GermanOrder.h"
 #include "platform/windows/QtText.h"
 #include "search/Folding.h"
+#include "search/Names.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>

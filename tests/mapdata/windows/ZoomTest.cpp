@@ -42,7 +42,7 @@ class ZoomTest : public testing::Test {
   void Wheel(const QPoint& at, const QPoint& angle, const QPoint& pixels = {}) {
     QWheelEvent event(at, view.mapToGlobal(at), pixels, angle, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&Find<QWidget>("imgMap"), &event);
+    QApplication::sendEvent(&view, &event);
   }
 
   template <typename Widget>

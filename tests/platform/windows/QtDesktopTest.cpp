@@ -165,6 +165,17 @@ TEST(PageWindow, ShowsPagesOfBothEncodingsTitledByThemselves) {
   EXPECT_EQ(none.findChild<QTextBrowser*>()->toPlainText(), QString());
 }
 
+TEST(PageWindow, APageBeyondTheLimitsIsPlainText) {
+  const TemporaryFolder folder;
+  std::string page = "<title>Seite</title>";
+  for (int i = 0; i < 20'000; ++i)
+    page += "<b>x ";
+  folder.Write("page.html", page);
+  const PageWindow window(nullptr, folder.Native("page.html"));
+  EXPECT_EQ(window.findChild<QTextBrowser*>()->toPlainText().toStdString(), page);
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("page.html"));
+}
+
 TEST(PageWindow, ReadsOnlyWhatLiesBesideThePage) {
   const TemporaryFolder folder;
   folder.Write("secret.txt", "x");
