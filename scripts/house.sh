@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# house.sh: the checks of the sources that need no build. Each prints what is wrong, and nothing else.
+# house.sh: the checks of the sources that need no build.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
