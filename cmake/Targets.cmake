@@ -31,7 +31,7 @@ endfunction()
 # orvalis_test(NAME SOURCES file...): a test of the core.
 function(orvalis_test name)
   orvalis_test_program(${name} ${ARGN})
-  target_link_libraries(${name} PRIVATE orvalis_core GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE orvalis_companion GTest::gtest_main)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT "${ORVALIS_TEST_ENVIRONMENT}")
 endfunction()

@@ -8,7 +8,7 @@ set -euo pipefail
 run="g++ cmake ninja-build libcli11-dev libjs-leaflet qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-liberation fonts-urw-base35 xdg-utils"
 display="xvfb xauth openbox xdotool imagemagick x11-utils"
 test="libgtest-dev poppler-utils strace python3 desktop-file-utils appstream groff-base"
-ci="clang-format clang-tidy clang libclang-rt-14-dev dbus cups-daemon cups-client at-spi2-core gir1.2-atspi-2.0 python3-gi chromium chromium-driver nodejs"
+ci="clang-format cppcheck universal-ctags clang-tidy clang libclang-rt-14-dev dbus cups-daemon cups-client at-spi2-core gir1.2-atspi-2.0 python3-gi chromium chromium-driver nodejs"
 bench="libbenchmark-dev pkg-config libglib2.0-dev libinih-dev"
 coverage="gcovr"
 packages="dpkg-dev file lintian debootstrap"

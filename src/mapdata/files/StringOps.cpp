@@ -8,7 +8,7 @@ namespace {
 
 constexpr double Least = std::numeric_limits<int16_t>::min();
 constexpr double Most = std::numeric_limits<int16_t>::max();
-constexpr std::string_view Blanks = " \t";
+constexpr std::string_view LeadingBlanks = " \t";
 
 struct ScannedNumber {
   double value = 0;
@@ -44,10 +44,10 @@ bool IsDigit(char byte) {
   return byte >= '0' && byte <= '9';
 }
 
-// Blanks, a sign, digits with at most one point among or around them. Not the library's scan, which
-// knows locales, exponents and "inf".
+// Blanks, a sign, digits with at most one point among or around them. Not the library's
+// scan, which knows locales, exponents and "inf".
 ScannedNumber ScanNumber(std::string_view text) {
-  size_t at = std::min(text.find_first_not_of(Blanks), text.size());
+  size_t at = std::min(text.find_first_not_of(LeadingBlanks), text.size());
   const bool negative = at < text.size() && text[at] == '-';
   if (negative || (at < text.size() && text[at] == '+'))
     ++at;
@@ -104,7 +104,7 @@ Number ReadNumber(std::string_view text) {
   const std::string_view behind = text.substr(scanned.length);
   return {static_cast<int>(std::clamp(rounded, Least, Most)), scanned.length > 0,
           rounded < Least || rounded > Most,
-          behind.substr(std::min(behind.find_first_not_of(Blanks), behind.size()))};
+          behind.substr(std::min(behind.find_first_not_of(LeadingBlanks), behind.size()))};
 }
 
 int LeadingNumber(std::string_view text) {

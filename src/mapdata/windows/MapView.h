@@ -119,6 +119,7 @@ class MapView : public QWidget {
   void FillList();
   void cboItems_Click();
   void btnInfo_Click();
+
   void lblCaption_DblClick() { btnInfo_Click(); }
 
   IniOps::Cache& files_;

@@ -345,23 +345,23 @@ void Bog(Canvas& canvas, Random& random) {
   }
 }
 
-constexpr Landmark Kinds[] = {{"watermill", WaterMill},   {"smithy", Smithy},
-                              {"underforge", UnderForge}, {"frozenlake", FrozenLake},
-                              {"wreck", Wreck},           {"longship", Longship},
-                              {"desertcity", DesertCity}, {"rockcity", RockCity},
-                              {"frostpass", FrostPass},   {"mistpass", MistPass},
-                              {"bridge", Bridge},         {"trialbridge", TrialBridge},
-                              {"gallows", Gallows},       {"well", Well},
-                              {"arena", Arena},           {"hall", Hall},
-                              {"obelisk", Obelisk},       {"meadow", Meadow},
-                              {"vineyard", Vineyard},     {"road", BorderRoad},
-                              {"falls", Falls},           {"portal", Portal},
-                              {"grove", Grove},           {"bog", Bog}};
+constexpr Landmark AllLandmarks[] = {{"watermill", WaterMill},   {"smithy", Smithy},
+                                     {"underforge", UnderForge}, {"frozenlake", FrozenLake},
+                                     {"wreck", Wreck},           {"longship", Longship},
+                                     {"desertcity", DesertCity}, {"rockcity", RockCity},
+                                     {"frostpass", FrostPass},   {"mistpass", MistPass},
+                                     {"bridge", Bridge},         {"trialbridge", TrialBridge},
+                                     {"gallows", Gallows},       {"well", Well},
+                                     {"arena", Arena},           {"hall", Hall},
+                                     {"obelisk", Obelisk},       {"meadow", Meadow},
+                                     {"vineyard", Vineyard},     {"road", BorderRoad},
+                                     {"falls", Falls},           {"portal", Portal},
+                                     {"grove", Grove},           {"bog", Bog}};
 
 }  // namespace
 
 std::span<const Landmark> Landmarks() {
-  return Kinds;
+  return AllLandmarks;
 }
 
 }  // namespace Pictures

@@ -199,7 +199,7 @@ void Resource(Canvas& canvas) {
   }
 }
 
-constexpr Motif Kinds[] = {
+constexpr Motif PlainThings[] = {
     {"chest", {120, 104, 84}, PlainChest},    {"weaponchest", {108, 84, 80}, WeaponChest},
     {"magechest", {66, 62, 104}, MagicChest}, {"goldchest", {112, 72, 60}, GoldChest},
     {"stone", {72, 88, 96}, StonePlate},      {"chalice", {112, 50, 46}, Chalice},
@@ -212,7 +212,7 @@ constexpr Motif Kinds[] = {
 
 const Motif* FindMotif(std::string_view name) {
   for (const std::span<const Motif> motifs :
-       {std::span<const Motif>(Kinds), Curios(), Workshop()}) {
+       {std::span<const Motif>(PlainThings), Curios(), Workshop()}) {
     const auto found = std::ranges::find(motifs, name, &Motif::name);
     if (found != motifs.end()) {
       return &*found;

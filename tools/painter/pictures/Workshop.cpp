@@ -168,25 +168,25 @@ void OilLamp(Canvas& canvas) {
   canvas.body(Rounded({{84, 46}, {80, 36}, {86, 22}, {91, 36}}), {250, 180, 60}, 0.4);
 }
 
-constexpr Motif Things[] = {{"book", {104, 96, 84}, Book},
-                            {"scroll", {88, 84, 76}, Scroll},
-                            {"anvil", {142, 92, 64}, Anvil},
-                            {"saw", {132, 116, 88}, Saw},
-                            {"shovel", {176, 144, 96}, Shovel},
-                            {"grindstone", {116, 108, 96}, Grindstone},
-                            {"tanning", {132, 136, 104}, TanningFrame},
-                            {"bellows", {132, 84, 64}, Bellows},
-                            {"kiln", {128, 116, 100}, Kiln},
-                            {"alembic", {92, 80, 112}, Alembic},
-                            {"waterwheel", {176, 152, 108}, Waterwheel},
-                            {"jug", {160, 140, 104}, Jug},
-                            {"waterskin", {148, 132, 104}, Waterskin},
-                            {"lamp", {72, 64, 72}, OilLamp}};
+constexpr Motif Tools[] = {{"book", {104, 96, 84}, Book},
+                           {"scroll", {88, 84, 76}, Scroll},
+                           {"anvil", {142, 92, 64}, Anvil},
+                           {"saw", {132, 116, 88}, Saw},
+                           {"shovel", {176, 144, 96}, Shovel},
+                           {"grindstone", {116, 108, 96}, Grindstone},
+                           {"tanning", {132, 136, 104}, TanningFrame},
+                           {"bellows", {132, 84, 64}, Bellows},
+                           {"kiln", {128, 116, 100}, Kiln},
+                           {"alembic", {92, 80, 112}, Alembic},
+                           {"waterwheel", {176, 152, 108}, Waterwheel},
+                           {"jug", {160, 140, 104}, Jug},
+                           {"waterskin", {148, 132, 104}, Waterskin},
+                           {"lamp", {72, 64, 72}, OilLamp}};
 
 }  // namespace
 
 std::span<const Motif> Workshop() {
-  return Things;
+  return Tools;
 }
 
 }  // namespace Pictures

@@ -8,11 +8,11 @@ namespace Program {
 
 namespace {
 
-constexpr QColor Outline(62, 42, 26);
+constexpr QColor IconOutline(62, 42, 26);
 constexpr QColor Water(96, 152, 180);
 constexpr QColor Land(206, 196, 128);
 constexpr QColor Woods(92, 132, 70);
-constexpr QColor Paper(250, 238, 206);
+constexpr QColor IconPaper(250, 238, 206);
 constexpr QColor Marker(196, 36, 32);
 
 /// Draws in sixteenths of the side; edges fall on whole pixels at every size.
@@ -43,10 +43,10 @@ class Icon {
 void Icon::drawSheet(QPainter& painter) const {
   const QRectF sheet(snapped(1), snapped(2), snapped(15) - snapped(1), snapped(15) - snapped(2));
   painter.setPen(Qt::NoPen);
-  painter.setBrush(Outline);
+  painter.setBrush(IconOutline);
   painter.drawRoundedRect(sheet, unit_, unit_);
   const double rim = std::max(1.0, std::round(unit_ * 0.5));
-  painter.setBrush(Paper);
+  painter.setBrush(IconPaper);
   painter.drawRect(sheet.adjusted(rim, rim, -rim, -rim));
   const double margin = rim + (unit_ < 2 ? 0 : std::round(unit_ * 0.5));
   painter.setClipRect(sheet.adjusted(margin, margin, -margin, -margin));
@@ -61,7 +61,7 @@ void Icon::drawLand(QPainter& painter) const {
   coast.cubicTo(at(8, 14.5), at(11, 12.5), at(16, 13.6));
   coast.lineTo(at(16, 1));
   coast.closeSubpath();
-  painter.setPen(unit_ < 2 ? QPen(Qt::NoPen) : QPen(Outline, unit_ * 0.22));
+  painter.setPen(unit_ < 2 ? QPen(Qt::NoPen) : QPen(IconOutline, unit_ * 0.22));
   painter.setBrush(Land);
   painter.drawPath(coast);
   painter.setPen(Qt::NoPen);
@@ -86,7 +86,7 @@ void Icon::drawFolds(QPainter& painter) const {
 void Icon::drawRoute(QPainter& painter) const {
   QPainterPath route(at(5.6, 12));
   route.cubicTo(at(7, 9.4), at(9.4, 13.4), at(10.4, 9.6));
-  QPen dashes(Outline, unit_ * 0.5, Qt::CustomDashLine, Qt::RoundCap);
+  QPen dashes(IconOutline, unit_ * 0.5, Qt::CustomDashLine, Qt::RoundCap);
   dashes.setDashPattern({0.6, 1.8});
   painter.setPen(dashes);
   painter.setBrush(Qt::NoBrush);

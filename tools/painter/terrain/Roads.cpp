@@ -11,7 +11,7 @@ namespace Terrain {
 
 namespace {
 
-constexpr int CellSize = 4;
+constexpr int WayCell = 4;
 constexpr float Impassable = 1e6F;
 constexpr float KnownWay = 0.35F;
 constexpr double LongestBranch = 220;
@@ -49,7 +49,7 @@ float EffortAt(const Field& field, int x, int y) {
 }
 
 int CellOf(double frame, int cells) {
-  return std::clamp(static_cast<int>(frame / CellSize), 0, cells - 1);
+  return std::clamp(static_cast<int>(frame / WayCell), 0, cells - 1);
 }
 
 void Smooth(Way& way) {
@@ -91,7 +91,7 @@ class Search {
   [[nodiscard]] Way wayTo(Walker walker, Point start) const {
     Way way;
     while (const Step* step = cameBy_.at(walker.x, walker.y)) {
-      way.push_back({walker.x * CellSize + 2.0, walker.y * CellSize + 2.0});
+      way.push_back({walker.x * WayCell + 2.0, walker.y * WayCell + 2.0});
       walker.x -= step->x;
       walker.y -= step->y;
     }
@@ -125,11 +125,11 @@ std::vector<Pair> PairsByDistance(const std::vector<Point>& places) {
 }  // namespace
 
 RoadNetwork::RoadNetwork(const Field& field)
-    : effort_(FrameWidth / CellSize, FrameHeight / CellSize),
+    : effort_(FrameWidth / WayCell, FrameHeight / WayCell),
       trodden_(effort_.width(), effort_.height()) {
   for (int y = 0; y < effort_.height(); ++y) {
     for (int x = 0; x < effort_.width(); ++x) {
-      effort_.at(x, y) = EffortAt(field, x * CellSize + 2, y * CellSize + 2);
+      effort_.at(x, y) = EffortAt(field, x * WayCell + 2, y * WayCell + 2);
     }
   }
 }
@@ -193,7 +193,7 @@ std::vector<Way> RoadNetwork::branch(const std::vector<Point>& places) {
   std::vector<Way> ways;
   for (const Point& place : places) {
     Way way = find(place, trodden_);
-    if (way.size() < 3 || static_cast<double>(way.size()) * CellSize > LongestBranch) {
+    if (way.size() < 3 || static_cast<double>(way.size()) * WayCell > LongestBranch) {
       continue;
     }
     tread(way);
