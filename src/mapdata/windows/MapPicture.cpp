@@ -70,10 +70,15 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   const bool ready =
       same && (!pictures_[*known].pixels.isNull() || pictures_[*known].scaled.size() == size);
   if (!ready) {
-    PackAllBut(shown_);
+    PackAllBut(known);
+    // Its pixels make room before others are read.
+    if (shown_ && shown_ != known)
+      Shown().pixels = {};
     QImage pixels = PictureReader::Read(path, screen);
-    if (pixels.isNull())
+    if (pixels.isNull()) {
+      static_cast<void>(Pixels());
       return false;
+    }
     if (!known) {
       known = pictures_.size();
       pictures_.emplace_back();
@@ -114,6 +119,9 @@ const QImage& MapPicture::Pixels() {
     return none;
   if (Shown().pixels.isNull())
     Shown().pixels = PictureReader::Read(Shown().path, screen_);
+  // How it last looked, where its file is no more what it was.
+  if (Shown().pixels.isNull())
+    Shown().pixels = Shown().scaled;
   return Shown().pixels;
 }
 
