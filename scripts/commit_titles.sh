@@ -3,7 +3,7 @@
 # full stop, of all that came after the one named here, merges left out; fails where there is one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-since=${1:-981cd1f}
+since=${1:-5b0e030}
 
 export LC_ALL=C.UTF-8
 status=0

@@ -216,5 +216,7 @@ void MapFocus::Walk(ctlLocation& from, int key) {
     return;
   const size_t target = numbers[Target(points, static_cast<size_t>(at - numbers.begin()), key)];
   Q_EMIT Reached(target);
-  spots_[target].marker->setFocus();
+  // A position beyond the picture can't be brought into a closer view.
+  if (!spots_[target].marker->isHidden())
+    spots_[target].marker->setFocus();
 }
