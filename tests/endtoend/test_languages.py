@@ -16,7 +16,7 @@ def texts(program, language, section):
     """The texts of a section in the manual's order, without access keys."""
     rows = documented(section)
     if language == "Deutsch":
-        found = [german for _, _, german in rows]
+        found = [german for _, _, german, *_ in rows]
     else:
         path = os.path.join(program.folder, "LANG", language, language + ".lng")
         translated = read_section(path, section)

@@ -508,7 +508,9 @@ std::string MapTruth::FaultOfList() const {
 
 std::string MapTruth::FaultOfFocus() const {
   const QWidget* focused = window_.focusWidget();
-  return !focused || focused->isVisible()
+  // A marker may keep it out of sight: the walk begins there again.
+  const bool onMarker = focused && focused->objectName().startsWith(u"DOT(");
+  return !focused || focused->isVisible() || onMarker
              ? std::string()
              : (focused->objectName() + QStringLiteral(" has the focus unseen")).toStdString();
 }

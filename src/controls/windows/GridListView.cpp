@@ -33,6 +33,12 @@ void GridListView::keyPressEvent(QKeyEvent* event) {
   const QTreeWidgetItem* before = currentItem();
   QTreeWidget::keyPressEvent(event);
   TellIfMoved(before);
+  // The toolkit makes the first row the current one without selecting it, and Home goes nowhere
+  // then.
+  if (event->key() == Qt::Key_Home && currentItem() && selectedItems().isEmpty()) {
+    currentItem()->setSelected(true);
+    rowReached_(indexOfTopLevelItem(currentItem()));
+  }
 }
 
 void GridListView::mousePressEvent(QMouseEvent* event) {
