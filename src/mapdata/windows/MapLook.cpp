@@ -128,9 +128,6 @@ void MapLook::Arrange() {
       points[plan_.single ? i : i + 1] = {layout.places[i].marker.x, layout.places[i].marker.y};
   focus_.SetPoints(std::move(points));
   controls_.Place(plan_, layout, hovered_);
-  // The toolkit leaves the keyboard with a hidden marker where nothing else takes it.
-  if (ctlLocation* const focused = focus_.Current(); focused && !focused->isVisible())
-    focused->clearFocus();
 }
 
 Twips MapLook::InTwips(const QPoint& pixels) const {
