@@ -508,9 +508,7 @@ std::string MapTruth::FaultOfList() const {
 
 std::string MapTruth::FaultOfFocus() const {
   const QWidget* focused = window_.focusWidget();
-  // A marker may keep it out of sight: the walk begins there again.
-  const bool onMarker = focused && focused->objectName().startsWith(u"DOT(");
-  return !focused || focused->isVisible() || onMarker
+  return !focused || focused->isVisible()
              ? std::string()
              : (focused->objectName() + QStringLiteral(" has the focus unseen")).toStdString();
 }

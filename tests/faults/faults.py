@@ -13,7 +13,7 @@ from worlds import World, spoil
 FILE_MISSING = 1
 # The sanitizers' own code is that of a missing file.
 SANITIZER = 99
-PATIENCE = 120
+PATIENCE = 600
 STEPS = 400
 
 
