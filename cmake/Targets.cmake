@@ -22,6 +22,11 @@ set(ORVALIS_TEST_ENVIRONMENT LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8)
 function(orvalis_test_program name)
   cmake_parse_arguments(TEST "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ${ORVALIS_UNITY})
+  if(ORVALIS_UNITY)
+    # A fixture of a file is none of a header, though the compiler reads it like one.
+    target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
+  endif()
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE ORVALIS_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
                              ORVALIS_SOURCES="${PROJECT_SOURCE_DIR}")

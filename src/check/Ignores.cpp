@@ -11,7 +11,7 @@ using Texts::Trim;
 namespace {
 
 constexpr TextView FileName = u"orvalis-check.ini";
-constexpr TextView Section = u"ignore";
+constexpr TextView IgnoredSection = u"ignore";
 constexpr std::string_view Sign = "orvalis-check: ignore ";
 
 std::vector<Text> Parts(TextView list) {
@@ -56,8 +56,8 @@ bool MatchesRule(TextView rule, TextView number) {
 
 Ignores::Ignores(Index& index) {
   const Text file = Join(index.base, FileName);
-  for (const Text& rule : index.files.IniReadFile(file, Section))
-    for (const Text& pattern : Parts(index.files.IniRead(file, Section, rule, u"")))
+  for (const Text& rule : index.files.IniReadFile(file, IgnoredSection))
+    for (const Text& pattern : Parts(index.files.IniRead(file, IgnoredSection, rule, u"")))
       entries_.push_back({Lower(rule), Lower(pattern)});
   for (const Source& source : index.sources)
     Read(source);

@@ -46,14 +46,9 @@ std::string AsAscii(char16_t unit) {
   return "?";
 }
 
-std::string_view Environment(const char* name) {
-  const char* value = std::getenv(name);
-  return value ? value : "";
-}
-
 bool IsUtf8Locale() {
   for (const char* name : {"LC_ALL", "LC_CTYPE", "LANG"})
-    if (const std::string_view value = Environment(name); !value.empty())
+    if (const std::string_view value = Console::Environment(name); !value.empty())
       return value.find("UTF-8") != std::string_view::npos ||
              value.find("utf8") != std::string_view::npos;
   return false;
@@ -67,6 +62,11 @@ size_t TerminalWidth() {
 }  // namespace
 
 namespace Console {
+
+std::string_view Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
 
 Style OfOutput() {
   const bool terminal = ::isatty(STDOUT_FILENO) == 1;

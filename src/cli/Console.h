@@ -3,9 +3,13 @@
 #include "platform/Text.h"
 
 #include <string>
+#include <string_view>
 
 /// Where the command line writes to, and what it is told of it.
 namespace Console {
+
+/// A variable of the environment; empty if it is not set.
+[[nodiscard]] std::string_view Environment(const char* name);
 
 /// How text is to be written.
 struct Style {

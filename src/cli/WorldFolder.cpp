@@ -1,11 +1,11 @@
 #include "cli/WorldFolder.h"
 
+#include "cli/Console.h"
 #include "mapdata/world/Regions.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -43,15 +43,10 @@ std::optional<Text> Around(const std::string& argument) {
   return IsFolder(start) ? std::optional(Absolute(start)) : std::nullopt;
 }
 
-std::string Environment(const char* name) {
-  const char* value = std::getenv(name);
-  return value ? value : "";
-}
-
 fs::path UserFolder() {
-  const std::string data = Environment("XDG_DATA_HOME");
+  const std::string_view data = Console::Environment("XDG_DATA_HOME");
   return data.starts_with('/') ? fs::path(data) / "orvalis"
-                               : fs::path(Environment("HOME")) / ".local/share/orvalis";
+                               : fs::path(Console::Environment("HOME")) / ".local/share/orvalis";
 }
 
 }  // namespace
