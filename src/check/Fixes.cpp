@@ -93,6 +93,7 @@ class Trial {
     after.assumed = {{source_.path, Edits::Applied(source_, EditsOf(fixes))}};
     const auto answer = Check::Run(after);
     std::vector<Scope> scopes;
+    scopes.reserve(fixes.size());
     for (const Finding* fix : fixes)
       scopes.emplace_back(*fix);
     return OnlyKnown(answer->findings, scopes) && AreGone(answer->findings, fixes) &&

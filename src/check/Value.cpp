@@ -109,7 +109,7 @@ std::optional<std::string> WithCommas(std::string_view value) {
       std::ranges::find(separators, between) == separators.end())
     return std::nullopt;
   rest = Strip(rest, Blanks);
-  if (!rest.empty() && (!rest.ends_with('*') || Strip(rest, " \t;,.*").size() != 0))
+  if (!rest.empty() && (!rest.ends_with('*') || !Strip(rest, " \t;,.*").empty()))
     return std::nullopt;
   return std::string(x) + ',' + std::string(y) + (rest.empty() ? "" : ",*");
 }

@@ -50,6 +50,7 @@ namespace PerkTree {
 
 std::vector<TextRow> Headings() {
   std::vector<TextRow> headings;
+  headings.reserve(PerkedRegions.size());
   for (const PerkedRegion& region : PerkedRegions)
     headings.push_back(region.heading);
   return headings;

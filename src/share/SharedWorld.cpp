@@ -163,6 +163,7 @@ namespace Share {
 std::vector<RegionMap> Read(World& world) {
   IniOps::Snapshot files(world.cache);
   std::vector<RegionMap> maps;
+  maps.reserve(Regions.size());
   for (const RegionRow& region : Regions)
     maps.push_back(Reader(world, files, region).Read());
   return maps;

@@ -215,9 +215,10 @@ class Arrangement {
   template <typename Try>
   bool InSmallerType(const Numbers& controls, const Try& arrange) {
     const double designed = designed_[controls.front()].font.pointSizeF();
-    for (double points = designed; points >= SmallestPoints; points -= PointStep) {
+    const auto steps = static_cast<int>((designed - SmallestPoints) / PointStep);
+    for (int step = 0; step <= steps; ++step) {
       for (const size_t i : controls)
-        places_[i].font.setPointSizeF(points);
+        places_[i].font.setPointSizeF(designed - step * PointStep);
       if (arrange())
         return true;
     }
