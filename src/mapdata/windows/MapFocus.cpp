@@ -146,9 +146,8 @@ void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
 
 void MapFocus::Rest(ctlLocation& marker) {
   MakeTabStop(&marker);
-  const QPointF middle = QRectF(marker.rect()).center();
-  Q_EMIT marker.MouseMove(0, 0, static_cast<float>(middle.x()), static_cast<float>(middle.y()));
-  Q_EMIT NameOf(marker).MouseMove();
+  marker.Hover();
+  NameOf(marker).Hover();
   ShowRing();
   untilTip_.start(map_->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay), this);
 }
@@ -182,7 +181,7 @@ bool MapFocus::Press(ctlLocation& marker, const QKeyEvent& key) {
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      Q_EMIT marker.DblClick();
+      marker.Activate();
       return true;
     case Qt::Key_Escape:
       marker.clearFocus();

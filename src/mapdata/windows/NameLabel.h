@@ -16,6 +16,9 @@ class NameLabel : public QLabel {
   /// The colour of the text from now on.
   void SetTextColor(int color);
 
+  /// Does what the pointer does by moving over the name.
+  void Hover() { Q_EMIT MouseMove(); }
+
  Q_SIGNALS:
   /// The pointer moved over the name, or double-clicked it with the left button.
   void MouseMove();

@@ -46,6 +46,11 @@ void ctlLocation::SetHighlighted(bool highlighted) {
   update();
 }
 
+void ctlLocation::Hover() {
+  constexpr float centre = Placement::MarkerSize / 2.0F;
+  Q_EMIT MouseMove(0, 0, centre, centre);
+}
+
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {
   const auto position = EventCodes::PositionOf(*this, *event);
   Q_EMIT MouseMove(EventCodes::Button(*event), EventCodes::Shift(*event), position.x, position.y);
