@@ -94,11 +94,10 @@ void Language::CacheTranslationTable(IniOps::Snapshot& files) {
   file_ = nullptr;
 }
 
-void Language::Refresh(IniOps::Snapshot& files) const {
-  const auto& now = files.Shared(languageFile_);
-  if (file_ == now)
+void Language::Refresh(const std::shared_ptr<const ProfileFile>& nameFile) const {
+  if (file_ == nameFile)
     return;
-  file_ = now;
+  file_ = nameFile;
   for (RegionWord& region : RegionWords_) {
     region.translation = IniOps::IniRead(*file_, Entities, region.word, u"");
     if (region.translation == region.word)
@@ -114,8 +113,9 @@ const Text& Language::ValueOf(size_t key) const {
   return *value;
 }
 
-Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) const {
-  Refresh(files);
+Text Language::LocalizeEntityName(const std::shared_ptr<const ProfileFile>& nameFile,
+                                  TextView name) const {
+  Refresh(nameFile);
   Text replaced;
   TextView shown = Trim(name);
   for (const RegionWord& region : RegionWords_)
@@ -148,8 +148,12 @@ Text Language::UnlocalizeEntityName(TextView text) const {
                 : Text(name);
 }
 
-Text Language::Shown(IniOps::Snapshot& files, TextView key) const {
-  return IsGerman() ? Text(key) : LocalizeEntityName(files, key);
+std::shared_ptr<const ProfileFile> Language::NameFile(IniOps::Snapshot& files) const {
+  return IsGerman() ? nullptr : files.Shared(languageFile_);
+}
+
+Text Language::Shown(const std::shared_ptr<const ProfileFile>& nameFile, TextView key) const {
+  return IsGerman() ? Text(key) : LocalizeEntityName(nameFile, key);
 }
 
 Text Language::Key(TextView shown) const {

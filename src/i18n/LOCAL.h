@@ -69,13 +69,16 @@ class Language : public EntityNames {
   /// Builds the table of entity names for the current language; German leaves it as it was.
   void CacheTranslationTable(IniOps::Snapshot& files);
 
-  /// The name shown for an entity key in a language that is not German.
-  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name) const;
+  /// The name shown for an entity key in a language that is not German, by its language file.
+  [[nodiscard]] Text LocalizeEntityName(const std::shared_ptr<const ProfileFile>& nameFile,
+                                        TextView name) const;
 
   /// The entity key behind a name that `LocalizeEntityName` gave.
   [[nodiscard]] Text UnlocalizeEntityName(TextView text) const;
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) const override;
+  [[nodiscard]] std::shared_ptr<const ProfileFile> NameFile(IniOps::Snapshot& files) const override;
+  [[nodiscard]] Text Shown(const std::shared_ptr<const ProfileFile>& nameFile,
+                           TextView key) const override;
   [[nodiscard]] Text Key(TextView shown) const override;
   [[nodiscard]] Text InfoPath() const override;
 
@@ -86,7 +89,7 @@ class Language : public EntityNames {
     Text translation;
   };
 
-  void Refresh(IniOps::Snapshot& files) const;
+  void Refresh(const std::shared_ptr<const ProfileFile>& nameFile) const;
   const Text& ValueOf(size_t key) const;
   void IndexTranslations() const;
 

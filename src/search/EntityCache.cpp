@@ -40,6 +40,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
                                                      const ProfileFile& info,
                                                      const ProfileFile& data,
                                                      std::string_view section) {
+  const auto nameFile = language.NameFile(files);
   const auto keys = data.KeyNames(section);
   Section& cached =
       sections_.emplace_back(Section{regions_.size() - 1, WithoutBrackets(section), size_, {}, {}});
@@ -52,7 +53,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
     const auto position = EntityFile::FoundPosition(entity);
     if (!position)
       return InvalidLink{regions_.back().data, cached.name, key, Windows1252::Decode(*entity.link)};
-    cached.names.append(language.IsGerman() ? key : language.LocalizeEntityName(files, key));
+    cached.names.append(language.Shown(nameFile, key));
     cached.records.push_back({InfoFile::ReadRedirected(info, keyBytes), cached.names.size(),
                               static_cast<int16_t>(position->x),
                               static_cast<int16_t>(position->y)});

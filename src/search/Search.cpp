@@ -31,8 +31,9 @@ std::optional<size_t> FindName(const Search::State& state, size_t from) {
 
 std::optional<size_t> FindTranslatedName(const Search::State& state, IniOps::Snapshot& files,
                                          const Language& language) {
+  const auto nameFile = language.NameFile(files);
   return state.Cache.Find(0, [&](TextView name, const auto&) {
-    return language.LocalizeEntityName(files, name).starts_with(state.SearchTerm);
+    return language.LocalizeEntityName(nameFile, name).starts_with(state.SearchTerm);
   });
 }
 

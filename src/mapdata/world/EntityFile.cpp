@@ -80,13 +80,14 @@ std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
     return {};
   auto keys = dataFile.KeyNames(*section);
   keys.resize(std::min(keys.size(), most));
+  const auto nameFile = names.NameFile(files);
   std::vector<Marker> markers;
   markers.reserve(keys.size());
   for (const std::string_view key : keys) {
     const Entity entity = Read(dataFile, *section, key);
     Marker& marker = markers.emplace_back();
     marker.key = Windows1252::Decode(key);
-    marker.name = names.Shown(files, marker.key);
+    marker.name = names.Shown(nameFile, marker.key);
     marker.position = MarkerPosition(entity);
     marker.highlighted = entity.highlighted;
     marker.disabled = IsDisabled(key);
@@ -99,10 +100,11 @@ std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category, IniO
   const auto section = Windows1252::Encode(category);
   if (!section)
     return {};
+  const auto nameFile = names.NameFile(files);
   std::vector<Text> shown;
   for (const std::string_view key : dataFile.KeyNames(*section))
     if (!IsDisabled(key))
-      shown.push_back(names.Shown(files, Windows1252::Decode(key)));
+      shown.push_back(names.Shown(nameFile, Windows1252::Decode(key)));
   return shown;
 }
 

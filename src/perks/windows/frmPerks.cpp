@@ -61,7 +61,8 @@ frmPerks::frmPerks(QWidget* parent, const Text& perksData, World& world)
   IniOps::Snapshot snapshot(world.cache);
   const auto lookup = LookupIn(snapshot, world.language);
   const Text name = PerkTree::PerkRegion(PerksData);
-  const PerkTree::Region region = {name, world.language.Shown(snapshot, name)};
+  const PerkTree::Region region = {name,
+                                   world.language.Shown(world.language.NameFile(snapshot), name)};
   tvPerks->header()->hide();
   tvPerks->setIconSize({PictureSize, PictureSize});
   Fill(PerkTree::Build(snapshot.IniSectionNames(PerksData), region, lookup));

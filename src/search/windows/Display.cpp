@@ -12,7 +12,7 @@ void Display(size_t index, const Search::State& state, MapView& map, World& worl
                .CategoryKey = entity.Section,
                .at = {entity.X, entity.Y},
                .Name = entity.Name,
-               .ShownName = world.language.Shown(snapshot, entity.Name),
+               .ShownName = world.language.Shown(world.language.NameFile(snapshot), entity.Name),
                .Description = entity.Description,
                .Heading = Search::ResultHeading(state, snapshot, world.language)});
 }
