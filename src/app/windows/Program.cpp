@@ -2,7 +2,7 @@
 
 #include "app/Context.h"
 #include "app/MenuTable.h"
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 #include "app/windows/frmMain.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/Registry_Module.h"
@@ -49,7 +49,7 @@ bool Program::CheckFiles(const Text& chosenLanguage) {
   if (!missing)
     return true;
   ShowMessage(nullptr, MessageIcon::Critical,
-              StartUp::FileNotFound(context_.world, chosenLanguage, *missing));
+              ProgramTexts::FileNotFound(context_.world, chosenLanguage, *missing));
   return false;
 }
 

@@ -9,7 +9,7 @@ std::vector<Marker> MarkersOf(const ViewState& view, const EntityNames& names,
                               IniOps::Snapshot& files) {
   std::vector<Marker> markers;
   for (const EntityFile::Marker& entity : EntityFile::ReadMarkers(
-           files.File(view.DataFile), view.CategoryKey, files, names, MapPlan::MostMarkers))
+           files.File(view.DataFile), view.CategoryKey, files, names, MapPlan::MaximumMarkers))
     markers.push_back({.position = entity.position,
                        .name = entity.name,
                        .caption = Texts::Padded(entity.name),

@@ -10,7 +10,7 @@
 /// and the heading. Nothing here knows a size of a window or of a picture.
 struct MapPlan {
   /// More entities of a category than this are not shown.
-  static constexpr size_t MostMarkers = 81;
+  static constexpr size_t MaximumMarkers = 81;
 
   struct Marker {
     EntityFile::Position position;

@@ -78,7 +78,7 @@ Position Viewport::ToFrame(const Twips& point) const {
 
 Viewport Viewport::ZoomedAt(const Twips& point, double factor) const {
   Viewport zoomed = *this;
-  zoomed.scale_ = factor > 0 ? std::clamp(scale_ * factor, 1.0, MostScale) : 1;
+  zoomed.scale_ = factor > 0 ? std::clamp(scale_ * factor, 1.0, MaximumScale) : 1;
   const double grown = zoomed.scale_ / scale_;
   zoomed.left_ = (left_ + point.x) * grown - point.x;
   zoomed.top_ = (top_ + point.y) * grown - point.y;

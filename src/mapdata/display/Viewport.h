@@ -8,7 +8,7 @@
 /// functions put it, to the twip.
 class Viewport {
  public:
-  static constexpr double MostScale = 8;
+  static constexpr double MaximumScale = 8;
 
   Viewport() = default;
 

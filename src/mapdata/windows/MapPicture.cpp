@@ -86,7 +86,7 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
     pictures_[*known] = {Text(path), stamp, std::move(pixels), {}};
   }
   screen_ = screen;
-  settled_ = settled_ && ready && shown_ == known;
+  finished_ = finished_ && ready && shown_ == known;
   if (!ready || shown_ != known) {
     level_ = {};
     exhausted_ = false;
@@ -98,8 +98,8 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   return true;
 }
 
-void MapPicture::Settle() {
-  settled_ = true;
+void MapPicture::FinishLoading() {
+  finished_ = true;
   PackAllBut(shown_);
   static_cast<void>(Pixels());
 }
@@ -202,6 +202,6 @@ bool MapPicture::ReadLevel(const QSize& cover) {
   return (level_.isNull() ? Pixels().size() : level_.size()) != before;
 }
 
-qsizetype MapPicture::BytesOfPixels() const {
+qsizetype MapPicture::SizeInBytes() const {
   return shown_ ? Shown().pixels.sizeInBytes() + level_.sizeInBytes() : 0;
 }

@@ -1,4 +1,4 @@
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 
 #include "i18n/WindowTexts.h"
 #include "platform/NativePath.h"
@@ -7,7 +7,7 @@
 using Texts::Join;
 using WindowTexts::Row;
 
-namespace StartUp {
+namespace ProgramTexts {
 
 Text Caption(const Edition& edition) {
   return Join(ProgramInfo::Title, u" ", ProgramInfo::Version, u" ", edition.text);
@@ -23,4 +23,4 @@ Message FileNotFound(World& world, const Text& languageFolder, const Text& missi
           language.Lookup(files, Row(u"ui", u"FileNotFoundCaption"))};
 }
 
-}  // namespace StartUp
+}  // namespace ProgramTexts

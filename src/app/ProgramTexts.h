@@ -3,8 +3,8 @@
 #include "app/World.h"
 #include "platform/Message.h"
 
-/// What the program shows before its window waits for the first command.
-namespace StartUp {
+/// What the program says of itself, put together from parts.
+namespace ProgramTexts {
 
 /// The main window's caption: title, version and edition, each after a blank.
 [[nodiscard]] Text Caption(const Edition& edition);
@@ -12,4 +12,4 @@ namespace StartUp {
 /// The message that names the missing file in the language of that folder, which is chosen for it.
 [[nodiscard]] Message FileNotFound(World& world, const Text& languageFolder, const Text& missing);
 
-}  // namespace StartUp
+}  // namespace ProgramTexts
