@@ -1,6 +1,9 @@
 #include "app/ProgramTexts.h"
 
+#include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/NativePath.h"
 #include "platform/ProgramInfo.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/World.h"
 #include "platform/Message.h"
+#include "platform/Text.h"
 
 /// What the program says of itself, put together from parts.
 namespace ProgramTexts {

@@ -4,6 +4,7 @@
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "mapdata/world/Settings.h"
+#include "platform/Text.h"
 
 #include <optional>
 

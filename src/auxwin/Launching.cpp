@@ -5,6 +5,7 @@
 #include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 
+#include <optional>
 #include <string_view>
 
 namespace {

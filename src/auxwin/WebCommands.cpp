@@ -1,7 +1,9 @@
 #include "auxwin/WebCommands.h"
 
 #include "auxwin/Documents.h"
+#include "mapdata/files/IniOps.h"
 #include "mapdata/world/Settings.h"
+#include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 

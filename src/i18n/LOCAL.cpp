@@ -1,6 +1,10 @@
 #include "i18n/LOCAL.h"
 
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/world/Regions.h"
+
+#include <string_view>
+#include <utility>
 
 using Texts::ReplaceAll;
 using Texts::Trim;

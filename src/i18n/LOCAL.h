@@ -3,6 +3,7 @@
 #include "i18n/PrefixIndex.h"
 #include "i18n/TextRow.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/EntityNames.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"

@@ -1,9 +1,11 @@
 #include "i18n/PrefixIndex.h"
 
+#include "mapdata/files/NameHash.h"
 #include "platform/Windows1252.h"
 
 #include <algorithm>
 #include <bit>
+#include <string>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "search/EntityCache.h"
 
 #include "i18n/LOCAL.h"
+#include "mapdata/files/ProfileLines.h"
 #include "mapdata/world/EntityFile.h"
 #include "mapdata/world/InfoFile.h"
 #include "platform/Windows1252.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 

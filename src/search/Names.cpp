@@ -1,9 +1,12 @@
 #include "search/Names.h"
 
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/EntityFile.h"
 #include "platform/Windows1252.h"
 
+#include <string_view>
 #include <unordered_set>
+#include <utility>
 
 namespace Search {
 

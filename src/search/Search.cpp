@@ -1,10 +1,15 @@
 #include "search/Search.h"
 
+#include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
 
 #include <optional>
+#include <string_view>
+#include <utility>
 
 using LOCAL::Language;
 using Texts::Join;

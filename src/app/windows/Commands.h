@@ -2,9 +2,13 @@
 
 #include "app/MenuTable.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/TextRow.h"
+#include "mapdata/world/Regions.h"
 #include "search/windows/SearchCommands.h"
 
 #include <QWidget>
+
+#include <vector>
 
 class MapView;
 struct Context;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MenuTable.h"
+#include "platform/Text.h"
 
 #include <QMenuBar>
 

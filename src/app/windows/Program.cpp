@@ -5,7 +5,9 @@
 #include "app/ProgramTexts.h"
 #include "app/windows/frmMain.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/LOCAL.h"
 #include "i18n/Registry_Module.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
@@ -13,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QWindow>
 
 namespace {

@@ -1,12 +1,14 @@
 #include "app/windows/frmMain.h"
 
 #include "app/Context.h"
+#include "app/MenuTable.h"
 #include "app/ProgramTexts.h"
 #include "app/windows/Commands.h"
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
 #include "i18n/InterfaceTexts.h"
 #include "mapdata/windows/MapView.h"
+#include "platform/Text.h"
 #include "platform/windows/WindowTitle.h"
 
 namespace {

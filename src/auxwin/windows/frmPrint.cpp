@@ -9,14 +9,19 @@
 #include <QComboBox>
 #include <QFile>
 #include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLinearGradient>
+#include <QPageLayout>
 #include <QPainter>
+#include <QPixmap>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 using QtText::ToQt;
 using WindowTexts::Row;

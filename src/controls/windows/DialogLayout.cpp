@@ -7,7 +7,9 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
+#include <utility>
 
 using TextFit::Breaks;
 

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QPainter>
+#include <QPen>
 #include <QPushButton>
 #include <QStyleOption>
 

@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTreeWidgetItem>
+
+#include <algorithm>
+#include <utility>
 
 GridListView::GridListView(std::function<void(int)> rowReached, QWidget* parent)
     : QTreeWidget(parent), rowReached_(std::move(rowReached)) {}

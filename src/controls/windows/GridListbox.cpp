@@ -6,11 +6,14 @@
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/QtText.h"
 
+#include <QCollator>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTreeWidgetItem>
 
 #include <algorithm>
+#include <memory>
 
 using QtText::FromQt;
 using QtText::ToQt;

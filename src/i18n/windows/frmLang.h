@@ -6,10 +6,12 @@
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
+#include "i18n/TextRow.h"
 
 #include <span>
 
 class Launching;
+struct ProgramPaths;
 class QLabel;
 class QPixmap;
 class QPushButton;

@@ -2,7 +2,9 @@
 
 #include "mapdata/display/ViewState.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/world/EntityFile.h"
 #include "mapdata/world/EntityNames.h"
+#include "platform/Text.h"
 
 #include <vector>
 

@@ -3,7 +3,6 @@
 #include "mapdata/display/Placement.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdlib>
 

@@ -3,6 +3,8 @@
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr TextView BothSeparators = u"/\\";

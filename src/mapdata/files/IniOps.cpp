@@ -1,9 +1,14 @@
 #include "mapdata/files/IniOps.h"
 
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/files/ProfileLines.h"
 #include "platform/Windows1252.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /// Profile files: settings, entity data, descriptions, pictures and languages. Paths are composed

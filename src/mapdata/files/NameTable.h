@@ -2,6 +2,7 @@
 
 #include "mapdata/files/NameHash.h"
 #include "mapdata/files/ProfileLines.h"
+#include "platform/Windows1252.h"
 
 #include <algorithm>
 #include <bit>

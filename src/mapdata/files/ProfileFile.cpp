@@ -1,7 +1,10 @@
 #include "mapdata/files/ProfileFile.h"
 
+#include "mapdata/files/NameHash.h"
+
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 using ProfileLines::Blanks;
 using ProfileLines::Entry;

@@ -2,6 +2,7 @@
 
 #include "controls/windows/GermanOrder.h"
 #include "controls/windows/WidgetTwips.h"
+#include "mapdata/display/Plan.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapFocus.h"
 #include "mapdata/windows/MapGestures.h"
@@ -12,6 +13,7 @@
 
 #include <QComboBox>
 #include <QFrame>
+#include <QIcon>
 #include <QSignalBlocker>
 #include <QToolButton>
 

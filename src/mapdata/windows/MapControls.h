@@ -2,13 +2,17 @@
 
 #include "app/Twips2Pixel_Module.h"
 #include "mapdata/display/Layout.h"
+#include "platform/Text.h"
 
 #include <QSize>
 #include <QString>
 
+#include <vector>
+
 class MapArea;
 class MapFocus;
 class MapGestures;
+struct MapPlan;
 class MarkerSlots;
 class NameLabel;
 class QComboBox;

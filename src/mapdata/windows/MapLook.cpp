@@ -2,6 +2,8 @@
 
 #include "controls/windows/PrintableWidget.h"
 #include "controls/windows/WidgetTwips.h"
+#include "mapdata/display/Layout.h"
+#include "mapdata/display/MarkerWalk.h"
 #include "mapdata/display/Placement.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapControls.h"
@@ -15,6 +17,10 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QToolTip>
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 using Twips2Pixel_Module::Twips;
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "app/Twips2Pixel_Module.h"
 #include "mapdata/display/Plan.h"
 #include "mapdata/display/Viewport.h"
 
 #include <QObject>
+
+#include <cstddef>
 
 class MapControls;
 class MapFocus;

@@ -2,9 +2,12 @@
 
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityNames.h"
+#include "platform/Text.h"
 
 #include <QObject>
 #include <QString>
+
+#include <cstddef>
 
 class MapControls;
 class MapFocus;

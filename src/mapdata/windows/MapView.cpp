@@ -10,9 +10,11 @@
 #include "mapdata/windows/NameLabel.h"
 #include "mapdata/windows/ShiftCursor.h"
 #include "mapdata/windows/ctlLocation.h"
+#include "mapdata/world/EntityNames.h"
 #include "platform/windows/QtText.h"
 
 #include <QComboBox>
+#include <QPainter>
 #include <QToolButton>
 
 using Kind = ViewState::Kind;

@@ -1,12 +1,17 @@
 #pragma once
 
-#include "mapdata/display/Plan.h"
+#include "app/Twips2Pixel_Module.h"
+#include "mapdata/display/ViewState.h"
 #include "mapdata/display/Viewport.h"
+#include "mapdata/files/IniOps.h"
+#include "mapdata/world/EntityFile.h"
+#include "platform/Text.h"
 
 #include <QWidget>
 
 #include <memory>
 
+class EntityNames;
 class MapControls;
 class MapFocus;
 class MapGestures;

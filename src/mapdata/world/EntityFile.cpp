@@ -1,5 +1,6 @@
 #include "mapdata/world/EntityFile.h"
 
+#include "mapdata/files/ProfileLines.h"
 #include "mapdata/files/StringOps.h"
 #include "platform/Windows1252.h"
 

@@ -6,6 +6,7 @@
 #include "platform/Text.h"
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 /// Entity data files: a section a category, a line an entity: its German name as the key, and as

@@ -1,5 +1,6 @@
 #include "perks/windows/frmPerks.h"
 
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
 #include "platform/windows/WindowTitle.h"
 
@@ -8,6 +9,7 @@
 #include <QIcon>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItem>
 
 #include <map>
 

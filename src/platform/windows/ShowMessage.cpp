@@ -4,6 +4,7 @@
 #include "platform/windows/WindowTitle.h"
 
 #include <QApplication>
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -11,6 +12,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+
+#include <algorithm>
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "search/windows/Display.h"
 
+#include "mapdata/files/IniOps.h"
 #include "mapdata/windows/MapView.h"
 
 namespace SearchResult {
