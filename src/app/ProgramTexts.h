@@ -10,7 +10,7 @@ namespace ProgramTexts {
 /// The main window's caption: title, version and edition, each after a blank.
 [[nodiscard]] Text Caption(const Edition& edition);
 
-/// The message that names the missing file in the language of that folder, which is chosen for it.
+/// The message for a missing file, in the language of that folder, which becomes the current one.
 [[nodiscard]] Message FileNotFound(World& world, const Text& languageFolder, const Text& missing);
 
 }  // namespace ProgramTexts

@@ -24,7 +24,7 @@ class Launching {
   Desktop::Result StartProgram(TextView path);
 
  private:
-  // A file to open, in the system's bytes; `result` says why it is not to be opened.
+  // The path in the system's bytes; `result` says why the file is not to be opened.
   struct Checked {
     Desktop::Result result;
     std::string file;

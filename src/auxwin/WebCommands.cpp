@@ -17,7 +17,7 @@ constexpr TextView ReadMe = u"readme.html";
 struct WebCommand {
   TextView name;
   TextView address;
-  /// That takes the place of the address, if the command has one.
+  /// Overrides the address, if the command has one.
   const Settings::Entry* setting = nullptr;
 };
 

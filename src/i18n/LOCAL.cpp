@@ -14,8 +14,7 @@ namespace {
 constexpr TextView Entities = u"entities";
 constexpr std::string_view EntitiesHeader = "entities";
 
-// No name that a person wrote is near it. Words whose translations hold other words could
-// otherwise fill the memory.
+// Far above any real name. Words whose translations hold other words could fill the memory.
 constexpr size_t LongestName = 4 * ProfileFile::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
@@ -28,7 +27,7 @@ bool FitsReplaced(TextView text, TextView part, TextView by) {
   return length <= LongestName;
 }
 
-// The text with a region's word replaced. Most names hold none: they are not copied.
+// Copies only names that hold the word: most hold none.
 TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
   const bool found = !part.empty() && !by.empty() && text.find(part) != TextView::npos;
   if (!found || !FitsReplaced(text, part, by))
@@ -36,8 +35,8 @@ TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
   return storage = ReplaceAll(text, part, by);
 }
 
-// The name whose beginning is a key of the table, with every occurrence of it replaced; the name
-// itself where nothing would be left of it, or too much.
+// The name with every occurrence of the key replaced; unchanged where that would leave it empty or
+// too long.
 Text ReplacedKey(TextView name, TextView key, TextView by) {
   if (!key.empty() && !FitsReplaced(name, key, by))
     return Text(name);
@@ -133,7 +132,7 @@ void Language::IndexTranslations() const {
   translations.reserve(EntityKeys_.size());
   for (size_t key = 0; key < EntityKeys_.size(); ++key) {
     Text translation = IniOps::IniRead(*tableFile_, Entities, EntityKeys_[key], u"");
-    // Else a blank translation would match every name.
+    // A blank translation would match every name.
     translations.push_back(Trim(translation).empty() ? u";" : std::move(translation));
   }
   EntityTranslations_ = PrefixIndex(translations);

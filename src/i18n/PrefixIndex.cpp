@@ -14,7 +14,7 @@ constexpr uint64_t WordOf(char16_t unit) {
   return uint64_t{unit} + 1;
 }
 
-// Its first text of a hash stands for all others of it.
+// The first text of a hash stands for all that share it.
 bool OfSameHash(uint32_t) {
   return true;
 }

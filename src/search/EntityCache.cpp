@@ -63,7 +63,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
   return std::nullopt;
 }
 
-// Sections without records begin where the next one does: the last of those is meant.
+// A section without records begins where the next one does: the last one is meant.
 std::vector<EntityCache::Section>::const_iterator EntityCache::SectionOf(size_t index) const {
   return std::prev(std::upper_bound(
       sections_.begin(), sections_.end(), index,

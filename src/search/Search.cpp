@@ -53,7 +53,7 @@ std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
 }
 
 std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, const World& world) {
-  // A filling that found no record, or an invalid link, may have left regions and sections.
+  // A filling without records, or stopped by an invalid link, may have left regions and sections.
   cache = EntityCache();
   for (const ProgramPaths::RegionFiles& region : world.paths.regions)
     if (auto invalid = cache.CacheEntities(files, world.language, region))

@@ -13,8 +13,7 @@
 class MapView;
 struct Context;
 
-/// What the commands do that show no category: each opens its window over the main window, or
-/// hands something to the desktop.
+/// The commands that show no category: each opens a window or hands something to the desktop.
 class Commands : public QObject {
   Q_OBJECT
 

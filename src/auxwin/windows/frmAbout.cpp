@@ -80,7 +80,6 @@ constexpr int BannerFrame = 2;
 constexpr int Gray = 0x808080;
 constexpr int White = 0xFFFFFF;
 
-// Its paragraphs, shown as they stand.
 struct Paragraph {
   TextView label;
   const TextRow& text;

@@ -29,8 +29,7 @@ std::vector<Marker> Picked(const ViewState& view, const Text& name, const Entity
   return {{.position = *position, .name = name, .caption = Texts::Padded(name)}};
 }
 
-// A hit whose name is in the hidden list is picked there, which puts blanks around its name that
-// the search then adds to.
+// A hit whose name is in the hidden list is picked there: both put blanks around its name.
 std::vector<Marker> Found(const ViewState& view, const EntityNames& names,
                           IniOps::Snapshot& files) {
   const ViewState::Found& found = *view.found;

@@ -12,8 +12,7 @@ using Twips2Pixel_Module::Twips;
 
 namespace {
 
-// The coordinate whose marker's centre comes nearest: `centreOf` gives the centre for one, and
-// grows with it.
+// The coordinate whose marker's centre is nearest to `wanted`; `centreOf` must be monotonic.
 template <typename CentreOf>
 int NearestCoordinate(int around, int wanted, CentreOf centreOf) {
   int best = around;

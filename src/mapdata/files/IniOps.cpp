@@ -14,7 +14,7 @@ namespace {
 
 using IniOps::LargestFile;
 
-// The region shown, its descriptions and the language: what the pointer and a resize ask for again
+// The region shown, its descriptions and the language, which the pointer and a resize need again
 // and again. Any other file is parsed anew in milliseconds.
 constexpr size_t MaximumKeptFiles = 3;
 

@@ -32,7 +32,7 @@ std::optional<MarkerWalk::Direction> DirectionOf(int key) {
   }
 }
 
-// The point that the key leads to; a key that walks nowhere leads to where it is.
+// `from` for a key that leads nowhere.
 size_t Target(const std::vector<MarkerWalk::Point>& points, size_t from, int key) {
   const size_t last = points.size() - 1;
   if (key == Qt::Key_Home || key == Qt::Key_End)
@@ -136,8 +136,8 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// A window that becomes active without a focus gives it to its first Tab stop; on the map that
-// would show a name that nobody asked for.
+// A window that becomes active without a focus gives it to its first Tab stop, which would show a
+// name that nobody asked for.
 void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
   if (reason == Qt::ActiveWindowFocusReason && left_ != &marker)
     marker.clearFocus();

@@ -49,7 +49,7 @@ bool IsWhole(const QRectF& part) {
   return part == QRectF(0, 0, 1, 1);
 }
 
-// What all of the picture would measure of which the part is as large as this.
+// The size of the whole picture if the part has this one.
 QSizeF WholeSize(const QSize& size, const QRectF& part) {
   return {size.width() / part.width(), size.height() / part.height()};
 }
@@ -104,7 +104,7 @@ void MapPicture::FinishLoading() {
   static_cast<void>(Pixels());
 }
 
-// Keeps three bytes of each pixel, where it needs no fourth.
+// At three bytes a pixel, where no alpha is lost.
 void MapPicture::PackAllBut(std::optional<size_t> picture) {
   // A conversion in place would keep the larger block.
   for (size_t other = 0; other < pictures_.size(); ++other)
@@ -145,7 +145,7 @@ void MapPicture::Paint(QPainter& painter, const QRectF& target, const QSize& siz
     return;
   const QImage& scaled = Shown().scaled;
   const QImage& pixels = IsWhole(part) && scaled.size() == size ? scaled : Pixels();
-  // Once for a picture that is new, and not for each step of a resize.
+  // Scaled once for a new picture, not for each step of a resize.
   if (IsWhole(part) && (scaled.isNull() || pixels.hasAlphaChannel()))
     return PaintPart(painter, target, At(size), part);
   if (&pixels == &scaled)

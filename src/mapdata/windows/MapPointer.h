@@ -15,8 +15,7 @@ class MapLook;
 class NameLabel;
 class ctlLocation;
 
-/// What pointing at markers and names does: names show, descriptions become tooltips, a double
-/// click asks for the information.
+/// What the pointer does on markers and names: shows names and tooltips, asks for information.
 class MapPointer : public QObject {
   Q_OBJECT
 
@@ -30,8 +29,8 @@ class MapPointer : public QObject {
   /// What a screen reader says of a highlighted marker.
   void SetHighlightedText(const QString& text) { highlighted_ = text; }
 
-  /// What a screen reader tells of a marker beside its name: whether it is highlighted, and the
-  /// start of the entity's description.
+  /// What a screen reader says after the name: whether it is highlighted, and the description's
+  /// start.
   [[nodiscard]] QString SpokenDescription(const ctlLocation& marker) const;
 
  Q_SIGNALS:

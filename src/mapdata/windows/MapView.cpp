@@ -77,8 +77,7 @@ void MapView::ShowNoRegion() {
   controls_->imgMap->ShowStartPicture();
 }
 
-// The state of a display that begins, in which the whole picture is seen; false, and the start-up
-// picture, if its picture can't be read.
+// False, and the start-up picture, if the picture can't be read.
 bool MapView::Begin(const ViewState& view) {
   ClearUI();
   view_ = view;

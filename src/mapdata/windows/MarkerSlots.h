@@ -22,8 +22,8 @@ class MarkerSlots : public QObject {
   /// and below every marker, `above` one that stays above every marker.
   MarkerSlots(QWidget* map, QWidget* between, QWidget* above);
 
-  /// Brings the slot's marker in front of the other markers and its label in front of the other
-  /// labels, so that no name covers a marker.
+  /// Brings the slot's marker in front of the other markers, its label in front of the other
+  /// labels.
   void BringToFront(int slot);
 
   /// Marker and label of the slot, 0 to 80.

@@ -28,8 +28,7 @@ class ctlLocation : public QWidget {
 
   void ResetBorderColor() { SetBorderColor(DarkRed); }
 
-  /// Whether the entity stands out: a thicker outline, and what a screen reader says. The colours
-  /// are set apart from that.
+  /// Whether the outline is thicker and a screen reader says so; colours are set apart from that.
   [[nodiscard]] bool Highlighted() const { return highlighted_; }
 
   void SetHighlighted(bool highlighted);

@@ -75,12 +75,12 @@ std::optional<Position> FoundPosition(const Entity& entity) {
 }
 
 std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
-                                IniOps::Snapshot& files, const EntityNames& names, size_t most) {
+                                IniOps::Snapshot& files, const EntityNames& names, size_t maximum) {
   const auto section = Windows1252::Encode(category);
   if (!section)
     return {};
   auto keys = dataFile.KeyNames(*section);
-  keys.resize(std::min(keys.size(), most));
+  keys.resize(std::min(keys.size(), maximum));
   const auto nameFile = names.NameFile(files);
   std::vector<Marker> markers;
   markers.reserve(keys.size());

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-/// How the map learns of the interface language: names as they are shown, the keys behind them,
-/// and the file that tells about them. In German a name is its key.
+/// What the map knows of the interface language: names as they are shown, the keys behind them, and
+/// the file of descriptions. In German a name is its key.
 class EntityNames {
  public:
   EntityNames() = default;
