@@ -21,7 +21,7 @@ class MapPointer : public QObject {
 
  public:
   MapPointer(QObject& map, MapControls& controls, MapFocus& focus, MapLook& look,
-             IniOps::Cache& files, const EntityNames& names);
+             IniOps::Cache& cache, const EntityNames& names);
 
   /// Whether names show only while the pointer is on their marker.
   void SetLabelsOnHover(bool labelsOnHover) { labelsOnHover_ = labelsOnHover; }
@@ -49,7 +49,7 @@ class MapPointer : public QObject {
   MapControls& controls_;
   MapFocus& focus_;
   MapLook& look_;
-  IniOps::Cache& files_;
+  IniOps::Cache& cache_;
   const EntityNames& names_;
   QString highlighted_;
   bool labelsOnHover_ = false;

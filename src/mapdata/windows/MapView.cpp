@@ -21,16 +21,16 @@ using Kind = ViewState::Kind;
 using QtText::FromQt;
 using QtText::ToQt;
 
-MapView::MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent,
+MapView::MapView(IniOps::Cache& cache, const EntityNames& names, QWidget* parent,
                  const Text& startPicture)
     : QWidget(parent),
-      files_(files),
+      cache_(cache),
       names_(names),
       focus_(new MapFocus(this)),
       controls_(std::make_unique<MapControls>(this)),
       gestures_(new MapGestures(this)),
       look_(new MapLook(*this, *controls_, *focus_, *gestures_)),
-      pointer_(new MapPointer(*this, *controls_, *focus_, *look_, files, names)) {
+      pointer_(new MapPointer(*this, *controls_, *focus_, *look_, cache, names)) {
   MapAccess::Install();
   new ShiftCursor(this);
   ConnectControls();
@@ -106,7 +106,7 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
 }
 
 void MapView::FillList() {
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(cache_);
   controls_->List(ToQt(prompt_), EntityFile::ReadNames(files.File(view_.DataFile),
                                                        view_.CategoryKey, files, names_));
 }
@@ -147,7 +147,7 @@ void MapView::Repeat() {
 }
 
 void MapView::ShowPlan() {
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(cache_);
   pointer_->SetLabelsOnHover(view_.LabelsOnHover);
   look_->Show(Plan(view_, names_, files));
 }

@@ -47,7 +47,7 @@ class MapView : public QWidget {
   };
 
   /// Without a region the map shows the start picture, or the built-in one if that can't be read.
-  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr,
+  MapView(IniOps::Cache& cache, const EntityNames& names, QWidget* parent = nullptr,
           const Text& startPicture = {});
   ~MapView() override;
 
@@ -126,7 +126,7 @@ class MapView : public QWidget {
 
   void lblCaption_DblClick() { btnInfo_Click(); }
 
-  IniOps::Cache& files_;
+  IniOps::Cache& cache_;
   const EntityNames& names_;
   Text prompt_;
 
