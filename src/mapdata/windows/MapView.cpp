@@ -1,5 +1,6 @@
 #include "mapdata/windows/MapView.h"
 
+#include "mapdata/display/Plan.h"
 #include "mapdata/windows/MapAccess.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapControls.h"
