@@ -20,18 +20,18 @@ namespace {
 const std::string World = ORVALIS_SOURCES "/world/";
 
 // A name as the painter gives it, and where it is.
-using Place = std::tuple<std::string, int, int>;
+using Spot = std::tuple<std::string, int, int>;
 
-std::vector<Place> Painted(const WorldData::DataFile& file, std::string_view section) {
-  std::vector<Place> places;
+std::vector<Spot> Painted(const WorldData::DataFile& file, std::string_view section) {
+  std::vector<Spot> places;
   for (const WorldData::Place& place : file.places(section))
     places.emplace_back(place.name.toLatin1().toStdString(), static_cast<int>(place.at.x),
                         static_cast<int>(place.at.y));
   return places;
 }
 
-std::vector<Place> Shown(const ProfileFile& file, std::string_view section) {
-  std::vector<Place> places;
+std::vector<Spot> Shown(const ProfileFile& file, std::string_view section) {
+  std::vector<Spot> places;
   for (const std::string_view key : file.KeyNames(section)) {
     if (EntityFile::IsDisabled(key))
       continue;
@@ -51,7 +51,7 @@ TEST(PainterWorld, PutsEveryEntityWhereTheProgramShowsIt) {
     const std::string path = World + NativePath::ToBytes(region.stem) + ".data";
     const auto read = cache.Get(NativePath::FromBytes(path));
     const WorldData::DataFile painted(path);
-    std::vector<Place> all;
+    std::vector<Spot> all;
     for (const ProfileFile::Section& section : read->Sections()) {
       const auto places = Shown(*read, section.name);
       EXPECT_EQ(Painted(painted, section.name), places) << path << ": " << section.name;
