@@ -33,7 +33,7 @@ class Child : public QObject {
   }
 
  private:
-  static std::string MostMemory() {
+  static std::string PeakMemory() {
     std::ifstream status("/proc/self/status");
     for (std::string word; status >> word;)
       if (word == "VmHWM:" && status >> word)
@@ -44,7 +44,7 @@ class Child : public QObject {
   void FirstFrame(QMainWindow& window) {
     std::printf("%.6f\n", ProcessSeconds());
     then_(window);
-    std::printf("%s\n", MostMemory().c_str());
+    std::printf("%s\n", PeakMemory().c_str());
     QApplication::exit(0);
   }
 

@@ -212,14 +212,14 @@ class CloserWindow : public Window {
     QApplication::processEvents();
     const double start = ProcessSeconds();
     QEventLoop untilPainted;
-    QTimer::singleShot(MostMilliseconds, &untilPainted, &QEventLoop::quit);
+    QTimer::singleShot(MaximumMilliseconds, &untilPainted, &QEventLoop::quit);
     const QuitOnPaint quit(Map(), untilPainted);
     untilPainted.exec();
     return ProcessSeconds() - start;
   }
 
  private:
-  static constexpr int MostMilliseconds = 2000;
+  static constexpr int MaximumMilliseconds = 2000;
 
   class QuitOnPaint : public QObject {
    public:

@@ -109,7 +109,8 @@ void TranslateNames(benchmark::State& state) {
   for (auto _ : state) {
     Snapshot files(cache);
     for (const Text& name : names)
-      benchmark::DoNotOptimize(english.language.LocalizeEntityName(files, name));
+      benchmark::DoNotOptimize(
+          english.language.LocalizeEntityName(english.language.NameFile(files), name));
   }
 }
 

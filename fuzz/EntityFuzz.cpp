@@ -2,6 +2,7 @@
 // text of the code page and a path.
 
 #include "Fuzz.h"
+#include "mapdata/display/Plan.h"
 #include "mapdata/files/StringOps.h"
 #include "mapdata/world/EntityFile.h"
 #include "mapdata/world/InfoFile.h"
@@ -14,8 +15,6 @@ using Fuzz::Require;
 using Fuzz::TakeField;
 
 namespace {
-
-constexpr size_t MostMarkers = 81;
 
 bool Fits(const EntityFile::Position& position) {
   using Limits = std::numeric_limits<int16_t>;
@@ -45,8 +44,8 @@ void ReadWholeFile(TextView file) {
   const ProfileFile& data = files.File(file);
   for (const ProfileFile::Section& section : data.Sections()) {
     const Text name = Windows1252::Decode(section.name);
-    const auto markers = EntityFile::ReadMarkers(data, name, files, names, MostMarkers);
-    Require(markers.size() <= MostMarkers, "no more markers than slots");
+    const auto markers = EntityFile::ReadMarkers(data, name, files, names, MapPlan::MaximumMarkers);
+    Require(markers.size() <= MapPlan::MaximumMarkers, "no more markers than slots");
     Require(EntityFile::ReadNames(data, name, files, names).size() <=
                 data.KeyNames(section.name).size(),
             "no more names than lines");

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 MostPixels = 40'000'000;
+constexpr qint64 MaximumPixels = 40'000'000;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
   const int cover = data[0];
   file.Hold({reinterpret_cast<const char*>(data) + 1, size - 1});
   const QImage picture = PictureReader::Read(file.Path(), {cover, cover});
-  Fuzz::Require(qint64{picture.width()} * picture.height() <= MostPixels,
+  Fuzz::Require(qint64{picture.width()} * picture.height() <= MaximumPixels,
                 "no picture is larger than promised");
   Fuzz::Require(picture.isNull() || picture.depth() == 32, "every picture is ready to be painted");
   return 0;

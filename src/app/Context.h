@@ -6,8 +6,8 @@
 
 class Desktop;
 
-/// Everything that lives as long as the program and that more than one window needs. Made once in
-/// `main` and handed on by reference.
+/// What several windows need for as long as the program runs. Made in `main`, handed on by
+/// reference.
 struct Context {
   Context(World& opened, Desktop& ofUser)
       : world(opened), desktop(ofUser), launching(opened.paths, ofUser) {}

@@ -57,7 +57,6 @@ constexpr MenuRow Disabled(MenuRow row) {
   return row;
 }
 
-// For the one category that fills the hidden list too.
 constexpr MenuRow ListFirst(MenuRow row) {
   row.listFirst = true;
   return row;

@@ -1,6 +1,7 @@
 #include "app/World.h"
 
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/files/ProfileFile.h"
 
 namespace {
 

@@ -4,6 +4,7 @@
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "mapdata/world/Settings.h"
+#include "platform/Text.h"
 
 #include <optional>
 
@@ -14,8 +15,8 @@ struct Edition {
   Text text;
 };
 
-/// A world: the folder of a program with all that stands in it. Opening reads its settings and
-/// chooses no language; until one is chosen it is German.
+/// A world: a folder with everything that the program shows. Opening reads the settings and chooses
+/// no language; until one is chosen it is German.
 class World {
  public:
   explicit World(const Text& folder);

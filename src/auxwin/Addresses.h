@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// What a text that is to be opened stands for. It may come from a file, so only what is known to
-/// be harmless is let through, and nothing that a program could take for an option.
+/// What a text that is to be opened stands for. It may come from a file: only what is known to be
+/// harmless is accepted, and nothing that a program could take for an option.
 namespace Addresses {
 
 /// What can be done with a text that shall be opened.

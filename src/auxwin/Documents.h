@@ -17,8 +17,8 @@ enum class Viewer { None, Program, Page, Shell };
 /// has no folder.
 [[nodiscard]] Text LocalizedCopy(const LOCAL::Language& language, TextView name);
 
-/// The page of HTML that stands for a help file where nothing shows help files: of the same name
-/// beside it. "" for a path that is no help file's.
+/// The page of HTML of the same name beside a help file, shown where nothing shows help files; ""
+/// for any other path.
 [[nodiscard]] Text PageBeside(TextView path);
 
 /// The path between double quotes, as the desktop is asked for documents.

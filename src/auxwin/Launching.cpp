@@ -5,6 +5,7 @@
 #include "mapdata/files/FileSystem.h"
 #include "platform/NativePath.h"
 
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -19,8 +20,8 @@ bool LeadsUp(std::string_view path) {
   return false;
 }
 
-// What counts is what will be opened, not how it was asked for. Links may lead out of the folder: a
-// package's program folder is made of them.
+// By the file itself, not the path. A package's program folder consists of links that lead out of
+// it.
 bool IsBelow(std::string_view file, TextView folder) {
   const auto resolved = FileSystem::Resolve(folder);
   if (!resolved)

@@ -4,6 +4,8 @@
 #include "platform/Desktop.h"
 #include "platform/Text.h"
 
+#include <string>
+
 /// The one way from a command to a document, an address or a program. Nothing that a file says
 /// becomes an option or a command: files are opened only below the program's folder and that of
 /// its languages, addresses only if they are of the web or of mail.
@@ -22,7 +24,7 @@ class Launching {
   Desktop::Result StartProgram(TextView path);
 
  private:
-  // A file to open, in the system's bytes; `result` says why it is not to be opened.
+  // The path in the system's bytes; `result` says why the file is not to be opened.
   struct Checked {
     Desktop::Result result;
     std::string file;

@@ -2,6 +2,8 @@
 
 #include "platform/ProgramInfo.h"
 
+#include <cstddef>
+
 namespace PrintName {
 
 namespace {

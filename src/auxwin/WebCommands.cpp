@@ -1,7 +1,9 @@
 #include "auxwin/WebCommands.h"
 
 #include "auxwin/Documents.h"
+#include "mapdata/files/IniOps.h"
 #include "mapdata/world/Settings.h"
+#include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 
@@ -15,7 +17,7 @@ constexpr TextView ReadMe = u"readme.html";
 struct WebCommand {
   TextView name;
   TextView address;
-  /// That takes the place of the address, if the command has one.
+  /// Overrides the address, if the command has one.
   const Settings::Entry* setting = nullptr;
 };
 

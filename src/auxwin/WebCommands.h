@@ -18,9 +18,8 @@ class WebCommands {
   /// program's folder the current directory.
   void miReadMe_Click();
 
-  /// Opens the address behind a command such as "miUpdateOrvalis": the one in section "urls" of
-  /// the settings, where the command has a key there, else the built-in one. Other commands do
-  /// nothing.
+  /// Opens the address of a command such as "miUpdateOrvalis": that of the settings' section "urls"
+  /// if the command has a key there, else the built-in one. Other commands do nothing.
   void OpenWebSite(TextView command);
 
  private:

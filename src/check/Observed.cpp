@@ -32,9 +32,10 @@ void ObserveNames(Index& index, Observed& seen) {
 }
 
 void ObserveLanguage(Index& index, const Index::Language& language, Observed& seen) {
+  const auto nameFile = language.spoken->NameFile(index.files);
   for (const std::string_view bytes : index.Names()) {
     const Text name = Decoded(bytes);
-    const Text shown = language.spoken->Shown(index.files, name);
+    const Text shown = language.spoken->Shown(nameFile, name);
     seen[{language.file->name, u"entities", name, true}] =
         Join(shown, u"\n", language.spoken->Key(shown));
     if (language.info)

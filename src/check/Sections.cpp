@@ -2,6 +2,7 @@
 #include "check/Edits.h"
 #include "check/Nearest.h"
 #include "check/Words.h"
+#include "mapdata/display/Plan.h"
 #include "perks/PerkCatalogue.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ using Words::Quoted;
 
 namespace {
 
-constexpr size_t MostMarkers = 81;
 constexpr TextView PerkWord = u"perk ";
 
 // One header of a region's data file.
@@ -32,7 +32,7 @@ class Header {
         name_(Decoded(section_.name)) {}
 
   void Check() {
-    if (Listed() > MostMarkers)
+    if (Listed() > MapPlan::MaximumMarkers)
       CheckMarkers();
     if (number_ > 0 && !section_.header.starts_with('['))
       return TellIndented();
@@ -104,12 +104,13 @@ class Header {
     if (!category || category->isList)
       return;
     const auto keys = source_.File().KeyNames(section_.name);
-    Finding& finding = Add(Id::S09, keys[MostMarkers],
+    Finding& finding = Add(Id::S09, keys[MapPlan::MaximumMarkers],
                            Join(Count(keys.size(), u"line", u"lines"), u" in ", Quoted(name_)));
-    for (size_t i = MostMarkers; i < keys.size(); ++i)
+    for (size_t i = MapPlan::MaximumMarkers; i < keys.size(); ++i)
       finding.details.push_back(Decoded(keys[i]));
-    finding.consequence = Join(Count(keys.size() - MostMarkers, u"line has", u"lines have"),
-                               u" no marker, the first is ", Quoted(finding.details.front()));
+    finding.consequence =
+        Join(Count(keys.size() - MapPlan::MaximumMarkers, u"line has", u"lines have"),
+             u" no marker, the first is ", Quoted(finding.details.front()));
   }
 
   void TellIndented() {

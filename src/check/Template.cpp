@@ -58,10 +58,13 @@ class Writer {
 
   // Words of regions and beginnings translate names that have no key of their own.
   [[nodiscard]] bool IsTranslated(const std::string& name) {
+    if (!Own("entities", name).empty())
+      return true;
+    if (!question_.language)
+      return false;
+    const LOCAL::Language& spoken = *question_.language->spoken;
     const Text german = Words::Decoded(name);
-    return !Own("entities", name).empty() ||
-           (question_.language &&
-            question_.language->spoken->Shown(index_.files, german) != german);
+    return spoken.Shown(spoken.NameFile(index_.files), german) != german;
   }
 
   void WriteSection(TextView section) {

@@ -82,12 +82,17 @@ class TranslationCheck {
     translations_ = PrefixIndex(translations);
   }
 
+  [[nodiscard]] const std::shared_ptr<const ProfileFile>& NameFile() const {
+    return index_.files.Shared(words_.LanguageFile());
+  }
+
   void ReadNames() {
+    const auto& nameFile = NameFile();
     for (const std::string_view bytes : index_.Names()) {
       Translated& name = names_.emplace_back();
       name.name = Decoded(bytes);
-      name.replaced = words_.LocalizeEntityName(index_.files, name.name);
-      name.shown = language_.spoken->LocalizeEntityName(index_.files, name.name);
+      name.replaced = words_.LocalizeEntityName(nameFile, name.name);
+      name.shown = language_.spoken->LocalizeEntityName(nameFile, name.name);
       name.back = language_.spoken->UnlocalizeEntityName(name.shown);
       name.key = keys_.FirstPrefixOf(name.replaced);
     }
@@ -145,7 +150,7 @@ class TranslationCheck {
         IsSwitchedOff(word))
       return;
     dead_.insert(key);
-    const Text replaced = words_.LocalizeEntityName(index_.files, word);
+    const Text replaced = words_.LocalizeEntityName(NameFile(), word);
     if (replaced != Trim(word) && NameOf(replaced))
       return TellRegionWord(key, replaced);
     Finding& finding = Tell(Id::T15, key, Join(u"no name begins with ", Quoted(word)));
@@ -256,7 +261,7 @@ class TranslationCheck {
 
   // Whether a list shows the name and the one that it leads to alike.
   [[nodiscard]] bool IsSameInList(const Translated& name) {
-    if (language_.spoken->LocalizeEntityName(index_.files, name.back) != name.shown)
+    if (language_.spoken->LocalizeEntityName(NameFile(), name.back) != name.shown)
       return false;
     if (lists_.empty())
       for (const Index::Entity& entity : index_.entities)

@@ -1,5 +1,7 @@
 #include "controls/AccessKey.h"
 
+#include <cstddef>
+
 namespace AccessKey {
 
 Text Without(TextView caption) {

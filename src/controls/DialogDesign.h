@@ -5,30 +5,19 @@
 
 #include <span>
 
-/// The control that stands at a place of a dialog.
+/// The control that stands at a place of a dialog, and the widget that it is.
 enum class ControlKind {
-  /// QLabel: plain text, wrapped within its width.
-  Label,
-  /// QLineEdit.
-  TextField,
-  /// QPlainTextEdit; Tab leaves it.
-  TextBox,
-  /// QPushButton.
-  Button,
-  /// QRadioButton.
-  OptionButton,
-  /// QGroupBox.
-  Frame,
-  /// QComboBox, choice only.
-  ComboBox,
-  /// QLabel without text; the design text is what a screen reader speaks.
-  Picture,
-  /// GridListbox.
-  GridList,
-  /// QTreeWidget.
-  Tree,
-  /// QFrame, one colour all over.
-  Line
+  Label,         // QLabel: plain text, wrapped within its width
+  TextField,     // QLineEdit
+  TextBox,       // QPlainTextEdit; Tab leaves it
+  Button,        // QPushButton
+  OptionButton,  // QRadioButton
+  Frame,         // QGroupBox
+  ComboBox,      // QComboBox, choice only
+  Picture,       // QLabel without text; the design text is what a screen reader speaks
+  GridList,      // GridListbox
+  Tree,          // QTreeWidget
+  Line           // QFrame, one colour all over
 };
 
 /// A rectangle in twips, from the top left corner of the frame or the client area around it.
@@ -44,7 +33,7 @@ struct ControlDesign {
   TextView name;
   ControlKind kind = ControlKind::Label;
   TwipsRect place;
-  /// What it shows in the language of the moment; none for texts of its own.
+  /// Shown in the current language; none for a control with texts of its own.
   const TextRow* caption = nullptr;
   TextView text = {};
   double points = 8.25;

@@ -2,6 +2,7 @@
 
 #include "i18n/LOCAL.h"
 #include "i18n/TextRow.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Text.h"
 
 #include <span>

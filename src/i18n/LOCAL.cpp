@@ -1,6 +1,10 @@
 #include "i18n/LOCAL.h"
 
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/world/Regions.h"
+
+#include <string_view>
+#include <utility>
 
 using Texts::ReplaceAll;
 using Texts::Trim;
@@ -10,8 +14,7 @@ namespace {
 constexpr TextView Entities = u"entities";
 constexpr std::string_view EntitiesHeader = "entities";
 
-// No name that a person wrote is near it. Words whose translations hold other words could
-// otherwise fill the memory.
+// Far above any real name. Words whose translations hold other words could fill the memory.
 constexpr size_t LongestName = 4 * ProfileFile::LongestValue;
 
 bool FitsReplaced(TextView text, TextView part, TextView by) {
@@ -24,7 +27,7 @@ bool FitsReplaced(TextView text, TextView part, TextView by) {
   return length <= LongestName;
 }
 
-// The text with a region's word replaced. Most names hold none: they are not copied.
+// Copies only names that hold the word: most hold none.
 TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
   const bool found = !part.empty() && !by.empty() && text.find(part) != TextView::npos;
   if (!found || !FitsReplaced(text, part, by))
@@ -32,8 +35,8 @@ TextView Replaced(TextView text, TextView part, TextView by, Text& storage) {
   return storage = ReplaceAll(text, part, by);
 }
 
-// The name whose beginning is a key of the table, with every occurrence of it replaced; the name
-// itself where nothing would be left of it, or too much.
+// The name with every occurrence of the key replaced; unchanged where that would leave it empty or
+// too long.
 Text ReplacedKey(TextView name, TextView key, TextView by) {
   if (!key.empty() && !FitsReplaced(name, key, by))
     return Text(name);
@@ -94,11 +97,10 @@ void Language::CacheTranslationTable(IniOps::Snapshot& files) {
   file_ = nullptr;
 }
 
-void Language::Refresh(IniOps::Snapshot& files) const {
-  const auto& now = files.Shared(languageFile_);
-  if (file_ == now)
+void Language::Refresh(const std::shared_ptr<const ProfileFile>& nameFile) const {
+  if (file_ == nameFile)
     return;
-  file_ = now;
+  file_ = nameFile;
   for (RegionWord& region : RegionWords_) {
     region.translation = IniOps::IniRead(*file_, Entities, region.word, u"");
     if (region.translation == region.word)
@@ -114,8 +116,9 @@ const Text& Language::ValueOf(size_t key) const {
   return *value;
 }
 
-Text Language::LocalizeEntityName(IniOps::Snapshot& files, TextView name) const {
-  Refresh(files);
+Text Language::LocalizeEntityName(const std::shared_ptr<const ProfileFile>& nameFile,
+                                  TextView name) const {
+  Refresh(nameFile);
   Text replaced;
   TextView shown = Trim(name);
   for (const RegionWord& region : RegionWords_)
@@ -129,7 +132,7 @@ void Language::IndexTranslations() const {
   translations.reserve(EntityKeys_.size());
   for (size_t key = 0; key < EntityKeys_.size(); ++key) {
     Text translation = IniOps::IniRead(*tableFile_, Entities, EntityKeys_[key], u"");
-    // Else a blank translation would match every name.
+    // A blank translation would match every name.
     translations.push_back(Trim(translation).empty() ? u";" : std::move(translation));
   }
   EntityTranslations_ = PrefixIndex(translations);
@@ -148,8 +151,12 @@ Text Language::UnlocalizeEntityName(TextView text) const {
                 : Text(name);
 }
 
-Text Language::Shown(IniOps::Snapshot& files, TextView key) const {
-  return IsGerman() ? Text(key) : LocalizeEntityName(files, key);
+std::shared_ptr<const ProfileFile> Language::NameFile(IniOps::Snapshot& files) const {
+  return IsGerman() ? nullptr : files.Shared(languageFile_);
+}
+
+Text Language::Shown(const std::shared_ptr<const ProfileFile>& nameFile, TextView key) const {
+  return IsGerman() ? Text(key) : LocalizeEntityName(nameFile, key);
 }
 
 Text Language::Key(TextView shown) const {

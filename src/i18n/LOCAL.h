@@ -3,6 +3,7 @@
 #include "i18n/PrefixIndex.h"
 #include "i18n/TextRow.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/EntityNames.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
@@ -25,9 +26,7 @@ inline constexpr TextView BuiltIn = u"*";
 /// A file of a language folder that bears the folder's name; `suffix` as ".lng".
 [[nodiscard]] Text FileOfLanguage(TextView root, TextView folder, TextView suffix);
 
-/// The one language state of the program.
-///
-/// Its three values are three states: `CurrentLanguage` chooses texts and the folder of the
+/// The one language state of the program: `CurrentLanguage` chooses texts and the folder of the
 /// descriptions, `LanguageFolder` documents and flag, `LanguageFile` the look-ups.
 class Language : public EntityNames {
  public:
@@ -62,20 +61,23 @@ class Language : public EntityNames {
   /// be empty until the table of entity names is built.
   void Choose(IniOps::Snapshot& files, const Text& file);
 
-  /// Whether start-up asks for the language: German is active and the system, by its three-letter
-  /// abbreviation, speaks another or an unknown one.
+  /// Whether start-up asks for the language: German is active and the system's language, a
+  /// three-letter abbreviation, is another or unknown.
   [[nodiscard]] bool IsToBeOffered(TextView systemLanguage) const;
 
   /// Builds the table of entity names for the current language; German leaves it as it was.
   void CacheTranslationTable(IniOps::Snapshot& files);
 
-  /// The name shown for an entity key in a language that is not German.
-  [[nodiscard]] Text LocalizeEntityName(IniOps::Snapshot& files, TextView name) const;
+  /// The name shown for an entity key in a language that is not German, by its language file.
+  [[nodiscard]] Text LocalizeEntityName(const std::shared_ptr<const ProfileFile>& nameFile,
+                                        TextView name) const;
 
   /// The entity key behind a name that `LocalizeEntityName` gave.
   [[nodiscard]] Text UnlocalizeEntityName(TextView text) const;
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot& files, TextView key) const override;
+  [[nodiscard]] std::shared_ptr<const ProfileFile> NameFile(IniOps::Snapshot& files) const override;
+  [[nodiscard]] Text Shown(const std::shared_ptr<const ProfileFile>& nameFile,
+                           TextView key) const override;
   [[nodiscard]] Text Key(TextView shown) const override;
   [[nodiscard]] Text InfoPath() const override;
 
@@ -86,7 +88,7 @@ class Language : public EntityNames {
     Text translation;
   };
 
-  void Refresh(IniOps::Snapshot& files) const;
+  void Refresh(const std::shared_ptr<const ProfileFile>& nameFile) const;
   const Text& ValueOf(size_t key) const;
   void IndexTranslations() const;
 
@@ -97,12 +99,11 @@ class Language : public EntityNames {
   Text languageFile_{BuiltIn};
   PrefixIndex EntityKeys_;
   mutable std::array<RegionWord, Regions.size()> RegionWords_;
-  // The language file as names were last translated from it: its region words are in use, and
-  // the values of keys that were met since.
+  // The language file that the region words and the values so far were read from.
   mutable std::shared_ptr<const ProfileFile> file_;
   mutable std::vector<std::optional<Text>> values_;
-  // The language file as the table was built from it, until the translations are wanted: most
-  // events only translate one way.
+  // The file that the table was built from, until the way back is first asked: most events never
+  // do.
   mutable std::shared_ptr<const ProfileFile> tableFile_;
   mutable PrefixIndex EntityTranslations_;
 };

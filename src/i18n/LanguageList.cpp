@@ -4,6 +4,8 @@
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
 
+#include <utility>
+
 using Texts::Trim;
 
 namespace {

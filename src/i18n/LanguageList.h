@@ -2,6 +2,7 @@
 
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "mapdata/files/IniOps.h"
 #include "platform/Text.h"
 
@@ -11,8 +12,7 @@
 /// The languages that a user can choose from, and the choice itself.
 namespace LanguageList {
 
-/// A language as the list names it, and the paths of its language file and flag, either of which
-/// may be missing.
+/// A language as the list names it, with the paths of its file and its flag; either may be missing.
 struct Entry {
   Text name;
   Text file;

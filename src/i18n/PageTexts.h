@@ -1,6 +1,7 @@
 #pragma once
 
 #include "i18n/TextRow.h"
+#include "platform/Text.h"
 
 #include <array>
 

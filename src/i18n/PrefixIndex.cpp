@@ -1,9 +1,11 @@
 #include "i18n/PrefixIndex.h"
 
+#include "mapdata/files/NameHash.h"
 #include "platform/Windows1252.h"
 
 #include <algorithm>
 #include <bit>
+#include <string>
 
 namespace {
 
@@ -12,7 +14,7 @@ constexpr uint64_t WordOf(char16_t unit) {
   return uint64_t{unit} + 1;
 }
 
-// Its first text of a hash stands for all others of it.
+// The first text of a hash stands for all that share it.
 bool OfSameHash(uint32_t) {
   return true;
 }

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-/// A list of texts that finds the first of them with which another text begins, as a scan of the
-/// list would, in time that grows with that text's length and not with the list's.
+/// A list of texts that finds the first of them that another text begins with, in time that grows
+/// with that text's length and not with the list's.
 class PrefixIndex {
  public:
   PrefixIndex() = default;
@@ -36,13 +36,13 @@ class PrefixIndex {
   void AddLength(TextView prefix);
   [[nodiscard]] std::optional<size_t> Scan(TextView text) const;
 
-  // All texts one behind the other, and where each ends: thousands of small ones cost more to
-  // allocate than to read.
+  // All texts in one, and where each ends: thousands of small ones cost more to allocate than to
+  // read.
   Text joined_;
   std::vector<size_t> ends_;
   HashTable table_;
-  // The lengths of the texts, a bit each, by the low bits of their first unit: most lengths need no
-  // look into the table. The last bit stands for every length from its own on.
+  // A bit for each length of the texts that share the low bits of a first unit, so that most
+  // lengths need no look-up. The last bit stands for all longer ones too.
   std::array<uint64_t, 64> lengths_{};
   size_t longest_ = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "i18n/TextRow.h"
 #include "platform/ProgramInfo.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 #include <array>

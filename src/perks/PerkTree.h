@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
-/// What the perk viewer shows of a region: its window's caption, the tree of the perks that can be
-/// learned there, and what stands above the map for one of them.
+/// What the perk viewer shows of a region: the window's caption, the tree of the perks that can be
+/// learned there, and the map's heading for one of them.
 namespace PerkTree {
 
 /// Numbers of the tree's pictures besides those of the categories, 1 to 7.
@@ -30,13 +30,13 @@ struct Node {
   bool bold = false;
 };
 
-/// A region by its own name and as it is shown in the language of the moment.
+/// A region by its own name and as it is shown in the current language.
 struct Region {
   Text name;
   Text shown;
 };
 
-/// The text of a row in the language of the moment.
+/// The text of a row in the current language.
 using Lookup = std::function<Text(const TextRow& row)>;
 
 /// The headings of the map over the teachers of a perk, for the regions that have perks.

@@ -2,7 +2,7 @@
 
 #include "platform/Windows1252.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 

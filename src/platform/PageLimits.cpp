@@ -9,10 +9,10 @@ constexpr size_t Tags = 10'000;
 constexpr size_t WordLength = 500;
 constexpr size_t NumberLength = 4;
 constexpr int Depth = 120;
-// Each table within a table doubles the time that all in it takes: three go into one another.
+// Nested tables double the time of all that is in them: at most three.
 constexpr int DepthOfTable = 35;
 
-// They are closed by what follows, so that they don't nest, and end a word.
+// Closed by what follows: they don't nest, and end a word.
 constexpr std::array<TextView, 19> Flat = {
     u"p",    u"br",   u"hr",  u"img",  u"li",   u"dt",   u"dd",    u"tr",    u"td",      u"th",
     u"meta", u"link", u"col", u"html", u"head", u"body", u"thead", u"tbody", u"!doctype"};
@@ -87,7 +87,7 @@ class Measure {
   TextView rest_;
   size_t tags_ = 0;
   int depth_ = 0;
-  // Of the word that goes on, whatever other tags stand in it.
+  // Goes on over tags that don't end a word.
   size_t word_ = 0;
   bool inStyle_ = false;
 };

@@ -2,6 +2,8 @@
 
 #include "platform/Text.h"
 
+#include <cstddef>
+
 /// What a page of HTML may hold to be shown as one: pages beyond it take minutes or the memory of
 /// the machine to lay out.
 namespace PageLimits {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <memory>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -72,7 +73,7 @@ bool WriteAll(int file, const std::string& bytes) {
 }
 
 mode_t ModeOfNewFile() {
-  // It can only be asked for by setting another.
+  // POSIX tells it only in exchange for another.
   const mode_t masked = ::umask(0);
   ::umask(masked);
   return mode_t{0666} & ~masked;
@@ -98,8 +99,8 @@ void CopyOwnership(int file, const std::string& from, mode_t mode) {
   ::fchmod(file, mode);
 }
 
-// The child's part of a start: the program is its child's, so that nobody waits for it. The pipe is
-// closed by the program's start, and written to where there is none.
+// In the child: forks again, so that nobody has to wait for the program. Its start closes the pipe;
+// a failure writes to it.
 [[noreturn]] void Become(char* const* words, const char* folder, int report) {
   ::setsid();
   if (::fork() > 0)

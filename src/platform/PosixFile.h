@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-/// What the program needs of the system's files; paths are the system's bytes. The one place that
-/// stands on POSIX.
+/// What the program needs of the system's files, by POSIX; paths are the system's bytes.
 namespace PosixFile {
 
 /// What tells two states of a file apart. Times are in nanoseconds since 1970.
@@ -20,7 +19,7 @@ struct Stamp {
   bool operator==(const Stamp&) const = default;
 };
 
-/// A file's bytes, and its stamp as it was when they were read.
+/// A file's bytes, and its stamp when they were read.
 struct Contents {
   std::string bytes;
   Stamp stamp;
@@ -80,8 +79,8 @@ bool Replace(const std::string& path, const std::string& bytes);
 /// Makes the folder the current directory; false if that fails.
 bool ChangeFolder(const std::string& folder);
 
-/// Starts a program, found as a shell would find it, and neither waits for it nor hears of its end.
-/// An empty folder leaves it in the current one. False if there is no such program or folder.
+/// Starts a program, found as a shell would, and doesn't wait for it. An empty folder is the
+/// current one. False if there is no such program or folder.
 bool StartDetached(const std::string& program, const std::vector<std::string>& arguments,
                    const std::string& folder = {});
 

@@ -1,6 +1,7 @@
 #include "search/EntityCache.h"
 
 #include "i18n/LOCAL.h"
+#include "mapdata/files/ProfileLines.h"
 #include "mapdata/world/EntityFile.h"
 #include "mapdata/world/InfoFile.h"
 #include "platform/Windows1252.h"
@@ -40,6 +41,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
                                                      const ProfileFile& info,
                                                      const ProfileFile& data,
                                                      std::string_view section) {
+  const auto nameFile = language.NameFile(files);
   const auto keys = data.KeyNames(section);
   Section& cached =
       sections_.emplace_back(Section{regions_.size() - 1, WithoutBrackets(section), size_, {}, {}});
@@ -52,7 +54,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
     const auto position = EntityFile::FoundPosition(entity);
     if (!position)
       return InvalidLink{regions_.back().data, cached.name, key, Windows1252::Decode(*entity.link)};
-    cached.names.append(language.IsGerman() ? key : language.LocalizeEntityName(files, key));
+    cached.names.append(language.Shown(nameFile, key));
     cached.records.push_back({InfoFile::ReadRedirected(info, keyBytes), cached.names.size(),
                               static_cast<int16_t>(position->x),
                               static_cast<int16_t>(position->y)});
@@ -61,7 +63,7 @@ std::optional<InvalidLink> EntityCache::CacheSection(IniOps::Snapshot& files,
   return std::nullopt;
 }
 
-// Sections without records begin where the next one does: the last of those is meant.
+// A section without records begins where the next one does: the last one is meant.
 std::vector<EntityCache::Section>::const_iterator EntityCache::SectionOf(size_t index) const {
   return std::prev(std::upper_bound(
       sections_.begin(), sections_.end(), index,

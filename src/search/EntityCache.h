@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mapdata/files/IniOps.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/ProgramPaths.h"
 #include "platform/Text.h"
 
@@ -39,11 +40,10 @@ struct InvalidLink {
   Text Target;
 };
 
-/// The entities of all regions in the order of regions, sections and lines, each line one record.
-/// Filled once and never changed, whatever becomes of the files and the language.
-///
-/// Made for hundreds of thousands of records: paths and sections stand once, the names of a section
-/// in one text, and a description is a view into the information file, which the cache keeps.
+/// The entities of all regions in the order of regions, sections and lines. Filled once and never
+/// changed, whatever becomes of the files and the language. Made for hundreds of thousands of
+/// records: paths and sections are kept once, the names of a section in one text, and descriptions
+/// are views into the information file, which the cache keeps.
 class EntityCache {
  public:
   /// How many records there are.

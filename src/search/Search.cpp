@@ -1,10 +1,15 @@
 #include "search/Search.h"
 
+#include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
 
 #include <optional>
+#include <string_view>
+#include <utility>
 
 using LOCAL::Language;
 using Texts::Join;
@@ -31,8 +36,9 @@ std::optional<size_t> FindName(const Search::State& state, size_t from) {
 
 std::optional<size_t> FindTranslatedName(const Search::State& state, IniOps::Snapshot& files,
                                          const Language& language) {
+  const auto nameFile = language.NameFile(files);
   return state.Cache.Find(0, [&](TextView name, const auto&) {
-    return language.LocalizeEntityName(files, name).starts_with(state.SearchTerm);
+    return language.LocalizeEntityName(nameFile, name).starts_with(state.SearchTerm);
   });
 }
 
@@ -47,7 +53,7 @@ std::optional<size_t> FindDescription(const Search::State& state, size_t from) {
 }
 
 std::optional<InvalidLink> Fill(EntityCache& cache, IniOps::Snapshot& files, const World& world) {
-  // A filling that found no record, or an invalid link, may have left regions and sections.
+  // A filling without records, or stopped by an invalid link, may have left regions and sections.
   cache = EntityCache();
   for (const ProgramPaths::RegionFiles& region : world.paths.regions)
     if (auto invalid = cache.CacheEntities(files, world.language, region))

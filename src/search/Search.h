@@ -1,13 +1,20 @@
 #pragma once
 
 #include "app/World.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Message.h"
+#include "platform/Text.h"
 #include "search/EntityCache.h"
 
+#include <cstddef>
 #include <variant>
 
-/// Finding an entity of any region by the start of its name or by a part of its description.
-/// Letter case counts, blanks count, and a search never begins again at the front by itself.
+namespace LOCAL {
+class Language;
+}
+
+/// Finding an entity of any region by the start of its name or a part of its description. Letter
+/// case and blanks count, and a search never starts over by itself.
 namespace Search {
 
 /// What is searched: the start of names, or anything within descriptions.

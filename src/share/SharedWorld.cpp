@@ -44,6 +44,7 @@ class Reader {
         files_(files),
         region_(region),
         data_(files_.Shared(world.paths.Of(region.region).data)),
+        nameFile_(world.language.NameFile(files)),
         info_(files_.Shared(world.language.InfoPath())),
         portraits_(files_.Shared(Portraits::ListPath(world.paths.picturesFolder))) {}
 
@@ -111,7 +112,7 @@ class Reader {
     const EntityFile::Entity read = EntityFile::Read(*data_, section, key);
     Share::Entity entity;
     entity.key = Windows1252::Decode(key);
-    entity.name = world_.language.Shown(files_, entity.key);
+    entity.name = world_.language.Shown(nameFile_, entity.key);
     entity.position = positionOf(read);
     entity.link = Windows1252::Decode(read.link.value_or(std::string_view()));
     entity.highlighted = read.highlighted;
@@ -129,6 +130,7 @@ class Reader {
   IniOps::Snapshot& files_;
   const RegionRow& region_;
   std::shared_ptr<const ProfileFile> data_;
+  std::shared_ptr<const ProfileFile> nameFile_;
   std::shared_ptr<const ProfileFile> info_;
   std::shared_ptr<const ProfileFile> portraits_;
   Share::RegionMap map_{};

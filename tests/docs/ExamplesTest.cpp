@@ -1,7 +1,7 @@
 // Runs the examples of the manuals: a block with "file" is a file of the program folder, a block
 // with "shows" is what the program makes of the chapter's files so far.
 #include "app/MenuTable.h"
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 #include "docs/Document.h"
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
@@ -74,7 +74,7 @@ class Program {
     return lines;
   }
 
-  Lines Caption() { return {Narrow(StartUp::Caption(world_.edition))}; }
+  Lines Caption() { return {Narrow(ProgramTexts::Caption(world_.edition))}; }
 
   Lines Missing() {
     const auto missing = world_.MissingFile();
@@ -99,7 +99,9 @@ class Program {
     return position ? Shown(*position) : "invalid link to " + std::string(*entity.link);
   }
 
-  std::string NameOf(const Text& key) { return Narrow(language_.Shown(files_, key)); }
+  std::string NameOf(const Text& key) {
+    return Narrow(language_.Shown(language_.NameFile(files_), key));
+  }
 
   std::string KeyOf(const Text& shown) { return Narrow(language_.Key(shown)); }
 

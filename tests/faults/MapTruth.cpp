@@ -313,7 +313,7 @@ void MapTruth::ShowHit(const Search::Outcome& outcome) {
   category_ = entity.Section;
   IniOps::Snapshot files(world_.cache);
   heading_ = ToQt(Search::ResultHeading(search_, files, world_.language));
-  const QString name = ToQt(world_.language.Shown(files, entity.Name));
+  const QString name = ToQt(world_.language.Shown(world_.language.NameFile(files), entity.Name));
   const Spot atPoint = {.point = {entity.X, entity.Y}, .name = name, .caption = name};
   listed_ = rows_.contains(ToQt(entity.Name)) ? ToQt(entity.Name) : QString();
   if (!listed_.isEmpty())

@@ -63,7 +63,7 @@ TEST(EntityNames, AreTranslatedByTheFirstKeyTheyBeginWith) {
   };
 
   for (const auto& test : cases) {
-    EXPECT_EQ(language.LocalizeEntityName(files, test.name), test.shown);
+    EXPECT_EQ(language.LocalizeEntityName(language.NameFile(files), test.name), test.shown);
     EXPECT_EQ(language.UnlocalizeEntityName(test.shown), test.back);
   }
 }
@@ -95,7 +95,7 @@ TEST(EntityNames, AgreeWithThePlainScanOnRandomTables) {
       ASSERT_EQ(language.UnlocalizeEntityName(name), scanned.UnlocalizeEntityName(name))
           << entities;
       const Text shown = scanned.LocalizeEntityName(files, name);
-      ASSERT_EQ(language.LocalizeEntityName(files, name), shown) << entities;
+      ASSERT_EQ(language.LocalizeEntityName(language.NameFile(files), name), shown) << entities;
       ASSERT_EQ(language.UnlocalizeEntityName(shown), scanned.UnlocalizeEntityName(shown))
           << entities;
       translated += shown != Texts::Trim(name);
@@ -109,15 +109,15 @@ TEST(EntityNames, AnEditedFileGivesNewTranslationsOfTheSameKeys) {
   IniOps::Cache cache;
   Snapshot first(cache);
   StartedLanguage language(first, world.Root(), u"L");
-  EXPECT_EQ(language.LocalizeEntityName(first, u"Wolf Arvenna"), u"Lupo A");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(first), u"Wolf Arvenna"), u"Lupo A");
   world.Write("Wolf=Loup\r\nB\xE4r=Ours\r\nArvenna=B\r\n");
-  EXPECT_EQ(language.LocalizeEntityName(first, u"Wolf Arvenna"), u"Lupo A");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(first), u"Wolf Arvenna"), u"Lupo A");
   Snapshot second(cache);
-  EXPECT_EQ(language.LocalizeEntityName(second, u"Wolf Arvenna"), u"Loup B");
-  EXPECT_EQ(language.LocalizeEntityName(second, u"Bär"), u"Bär");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Wolf Arvenna"), u"Loup B");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Bär"), u"Bär");
   EXPECT_EQ(language.UnlocalizeEntityName(u"Lupo B"), u"Wolf Arvenna");
   language.CacheTranslationTable(second);
-  EXPECT_EQ(language.LocalizeEntityName(second, u"Bär"), u"Ours");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Bär"), u"Ours");
   EXPECT_EQ(language.UnlocalizeEntityName(u"Loup"), u"Wolf");
 }
 
@@ -134,7 +134,7 @@ TEST(EntityNames, MayBePrefixesOfEachOther) {
     StartedLanguage language(files, world.Root(), u"L");
     const Text name = Texts::Join(Text(2000, u'x'), u" Mara");
     for (int n = 0; n < 1000; ++n)
-      ASSERT_EQ(language.LocalizeEntityName(files, name), u" Mara");
+      ASSERT_EQ(language.LocalizeEntityName(language.NameFile(files), name), u" Mara");
   }
 }
 
@@ -151,7 +151,7 @@ TEST(EntityNames, DontGrowWithoutBoundWhereWordsHoldEachOther) {
   IniOps::Cache cache;
   Snapshot files(cache);
   StartedLanguage language(files, world.Root(), u"L");
-  const Text shown = language.LocalizeEntityName(files, u"Tor nach Arvenna");
+  const Text shown = language.LocalizeEntityName(language.NameFile(files), u"Tor nach Arvenna");
   EXPECT_TRUE(shown.starts_with(u"Tor nach Skaldor"));
   EXPECT_LT(shown.size(), 10'000U);
 }

@@ -7,7 +7,13 @@ class GermanNames : public EntityNames {
  public:
   explicit GermanNames(Text infoPath = {}) : infoPath_(std::move(infoPath)) {}
 
-  [[nodiscard]] Text Shown(IniOps::Snapshot&, TextView key) const override { return Text(key); }
+  [[nodiscard]] std::shared_ptr<const ProfileFile> NameFile(IniOps::Snapshot&) const override {
+    return nullptr;
+  }
+
+  [[nodiscard]] Text Shown(const std::shared_ptr<const ProfileFile>&, TextView key) const override {
+    return Text(key);
+  }
 
   [[nodiscard]] Text Key(TextView shown) const override { return Text(shown); }
 

@@ -179,7 +179,7 @@ TEST_F(WorldTest, NeverSaysTheSameTwice) {
     StartedLanguage language(files, LanguageRoot, Text(folder));
     std::vector<Text> shown;
     for (const Text& name : names)
-      shown.push_back(language.IsGerman() ? name : language.Shown(files, name));
+      shown.push_back(language.IsGerman() ? name : language.Shown(language.NameFile(files), name));
     std::map<Text, Text> owners;
     for (const Text& key : files.IniReadFile(InfoOf(folder), u"info")) {
       Text text = InfoFile::ReadEntry(files.File(InfoOf(folder)), key);
@@ -235,10 +235,10 @@ TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
     const Text& file = language.LanguageFile();
     ASSERT_EQ(language.CurrentLanguage(), folder);
     for (const Text& key : names) {
-      const Text shown = language.Shown(files, key);
+      const Text shown = language.Shown(language.NameFile(files), key);
       const bool temple = key.starts_with(Temple);
       ExpectEntry(file, u"entities", temple ? Temple : TextView(key));
-      EXPECT_EQ(language.Shown(files, shown), shown) << Bytes(shown);
+      EXPECT_EQ(language.Shown(language.NameFile(files), shown), shown) << Bytes(shown);
     }
     const auto keyOf = [&](TextView shown) { return language.Key(shown); };
     for (const Text& key : files.IniReadFile(German, u"info")) {
@@ -263,7 +263,8 @@ TEST_F(WorldTest, ListsPlantsStonesAndTeachersInEveryLanguage) {
     const std::string stones = PageOf(extras, u"teleporterstones.chm");
     const std::string perks = PageOf(extras, u"perklist.chm");
     for (const Line& line : lines) {
-      const Text name = language.IsGerman() ? line.key : language.Shown(files, line.key);
+      const Text name =
+          language.IsGerman() ? line.key : language.Shown(language.NameFile(files), line.key);
       const bool plant = std::ranges::count(PlantSections, line.section) > 0;
       const bool stone = line.section == u"teleporter stones";
       if (plant || stone || PerkCatalogue::Find(line.section)) {

@@ -9,6 +9,9 @@
 #include "mapdata/windows/MapView.h"
 #include "mapdata/windows/frmInfo.h"
 #include "perks/windows/frmPerks.h"
+#include "platform/Text.h"
+
+#include <QPainter>
 
 Commands::Commands(Context& context, MapView& map, QWidget& mainWindow)
     : QObject(&mainWindow),

@@ -2,15 +2,18 @@
 
 #include "app/MenuTable.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/TextRow.h"
+#include "mapdata/world/Regions.h"
 #include "search/windows/SearchCommands.h"
 
 #include <QWidget>
 
+#include <vector>
+
 class MapView;
 struct Context;
 
-/// What the commands do that show no category: each opens its window over the main window, or
-/// hands something to the desktop.
+/// The commands that show no category: each opens a window or hands something to the desktop.
 class Commands : public QObject {
   Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include "platform/windows/QtText.h"
 
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMenu>
 
 #include <algorithm>

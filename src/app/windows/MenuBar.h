@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MenuTable.h"
+#include "platform/Text.h"
 
 #include <QMenuBar>
 
@@ -9,8 +10,7 @@
 
 class QMenu;
 
-/// The menu bar of the main window, made from the menu table with German captions. Every menu and
-/// command has its control's name as object name.
+/// The menu bar, made from the menu table with German captions; object names are the rows' names.
 class MenuBar : public QMenuBar {
   Q_OBJECT
 
@@ -26,8 +26,7 @@ class MenuBar : public QMenuBar {
   /// A hidden command's shortcut does nothing; an unknown name changes nothing.
   void SetShown(TextView name, bool shown);
 
-  /// Heading of the map for a category: the captions now shown of its region's menu and of its
-  /// command, "&" signs included.
+  /// The map's heading for a category: its region's and its command's caption, with their "&".
   [[nodiscard]] Text Heading(const MenuRow& category) const;
 
  Q_SIGNALS:

@@ -2,10 +2,12 @@
 
 #include "app/Context.h"
 #include "app/MenuTable.h"
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 #include "app/windows/frmMain.h"
 #include "i18n/InterfaceTexts.h"
+#include "i18n/LOCAL.h"
 #include "i18n/Registry_Module.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/Desktop.h"
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
@@ -13,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QWindow>
 
 namespace {
@@ -49,7 +52,7 @@ bool Program::CheckFiles(const Text& chosenLanguage) {
   if (!missing)
     return true;
   ShowMessage(nullptr, MessageIcon::Critical,
-              StartUp::FileNotFound(context_.world, chosenLanguage, *missing));
+              ProgramTexts::FileNotFound(context_.world, chosenLanguage, *missing));
   return false;
 }
 

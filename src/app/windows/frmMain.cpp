@@ -1,12 +1,14 @@
 #include "app/windows/frmMain.h"
 
 #include "app/Context.h"
-#include "app/StartUp.h"
+#include "app/MenuTable.h"
+#include "app/ProgramTexts.h"
 #include "app/windows/Commands.h"
 #include "app/windows/MenuBar.h"
 #include "controls/windows/WidgetTwips.h"
 #include "i18n/InterfaceTexts.h"
 #include "mapdata/windows/MapView.h"
+#include "platform/Text.h"
 #include "platform/windows/WindowTitle.h"
 
 namespace {
@@ -26,7 +28,7 @@ frmMain::frmMain(Context& context)
                        context.world.paths.programFolder + u"overview.jpg")),
       commands_(new Commands(context, *map_, *this)) {
   setObjectName(QLatin1StringView("frmMain"));
-  WindowTitle::Set(*this, StartUp::Caption(context.world.edition));
+  WindowTitle::Set(*this, ProgramTexts::Caption(context.world.edition));
   setMenuBar(menus_);
   setCentralWidget(map_);
   const QSize map = StartSize(*this);

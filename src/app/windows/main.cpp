@@ -1,4 +1,5 @@
 #include "app/Context.h"
+#include "app/World.h"
 #include "app/windows/Program.h"
 #include "controls/windows/FocusStyle.h"
 #include "controls/windows/PlainToolTips.h"

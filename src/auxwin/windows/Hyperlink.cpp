@@ -5,11 +5,14 @@
 #include "platform/windows/QtText.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+
+#include <utility>
 
 namespace {
 

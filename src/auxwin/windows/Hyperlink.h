@@ -10,11 +10,10 @@ class Launching;
 class QLabel;
 class QMouseEvent;
 
-/// Makes a label a link: underlined, in one colour, in another while the pointer is over it; a
-/// click, or Enter or Space while it has the focus, opens it; a link without text has none. A
-/// pointer exactly on the right or bottom edge, one pixel beyond the label, counts as over it.
-///
-/// Colours are red + 256 x green + 65536 x blue.
+/// Makes a label a link: underlined, in another colour while the pointer is over it, opened by a
+/// click, or by Enter or Space while it has the focus; without text it has none. The pixels just
+/// beyond its right and bottom edges count as the label's. Colours are red + 256 x green + 65536 x
+/// blue.
 class Hyperlink : public QObject {
   Q_OBJECT
 

@@ -1,13 +1,17 @@
 #include "auxwin/windows/frmAbout.h"
 
+#include "auxwin/Launching.h"
 #include "auxwin/windows/Hyperlink.h"
 #include "controls/windows/WidgetTwips.h"
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "mapdata/world/Settings.h"
 #include "platform/ProgramInfo.h"
 #include "platform/windows/WindowTitle.h"
 
+#include <QFrame>
 #include <QIcon>
 #include <QPushButton>
 
@@ -76,7 +80,6 @@ constexpr int BannerFrame = 2;
 constexpr int Gray = 0x808080;
 constexpr int White = 0xFFFFFF;
 
-// Its paragraphs, shown as they stand.
 struct Paragraph {
   TextView label;
   const TextRow& text;

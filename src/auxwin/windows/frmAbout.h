@@ -7,6 +7,7 @@
 #include <QLabel>
 
 class Launching;
+struct ProgramPaths;
 
 /// The about window: what the program is, who made it, and its music while it is open.
 class frmAbout : public Dialog {

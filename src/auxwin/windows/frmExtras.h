@@ -5,6 +5,7 @@
 #include "controls/windows/Dialog.h"
 
 class GridListbox;
+struct ProgramPaths;
 class QLabel;
 class QPushButton;
 

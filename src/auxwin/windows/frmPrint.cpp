@@ -9,14 +9,19 @@
 #include <QComboBox>
 #include <QFile>
 #include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLinearGradient>
+#include <QPageLayout>
 #include <QPainter>
+#include <QPixmap>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 using QtText::ToQt;
 using WindowTexts::Row;
@@ -89,7 +94,7 @@ frmPrint::frmPrint(QWidget* parent, World& world, Desktop& desktop, Printout pri
   connect(btnPrint, &QPushButton::clicked, this, &frmPrint::btnPrint_Click);
 }
 
-// The first label stands over the banner's right edge: the picture fades out before it.
+// The first label overlaps the banner's right edge: the picture fades out before it.
 void frmPrint::ShowBanner() {
   // A picture without an alpha channel would fade to black.
   QImage banner = QIcon(QStringLiteral(":/builtin/banner-print.png"))
@@ -141,8 +146,8 @@ bool frmPrint::ChoosePrinter(QPrinter& printer) {
 
 void frmPrint::PrintOn(QPrinter& printer) const {
   const auto screen = WidgetTwips::ScreenOf(*this);
-  // Texts and outlines are printed as such, whatever the resolution: with the screen's, points are
-  // as many units as on screen, and what was laid out there fits here too.
+  // At the screen's resolution a point is as many units as on screen, so that the layout fits.
+  // Texts and outlines are printed sharp at any resolution.
   printer.setResolution(
       Twips2Pixel_Module::Round(Twips2Pixel_Module::TwipsPerInch / screen.twipsPerPixelX));
   printer.setPageOrientation(rbQuerformat->isChecked() ? QPageLayout::Landscape

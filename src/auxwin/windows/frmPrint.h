@@ -15,8 +15,8 @@ class QPushButton;
 class QRadioButton;
 
 /// What is printed, asked when Print is pressed: its size on screen in twips, the function that
-/// paints it in pixels of the screen, on a painter whose origin is the left upper corner, and its
-/// heading, which may be empty.
+/// paints it in pixels of the screen from the painter's origin, and its heading, which may be
+/// empty.
 struct Printout {
   std::function<Twips2Pixel_Module::Twips()> size;
   std::function<void(QPainter&)> paint;
@@ -24,8 +24,7 @@ struct Printout {
 };
 
 /// The print window: a printer, an orientation, and one page in the size that the map has on
-/// screen. Where no printer is installed it offers a PDF file. Whatever goes wrong while printing
-/// is not reported.
+/// screen; without a printer, a PDF file. Failures while printing are not reported.
 class frmPrint : public Dialog {
   Q_OBJECT
 

@@ -7,6 +7,7 @@
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/WindowTitle.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QGroupBox>
 #include <QKeyEvent>

@@ -2,6 +2,8 @@
 
 #include "controls/DialogDesign.h"
 #include "i18n/LOCAL.h"
+#include "mapdata/files/IniOps.h"
+#include "platform/Text.h"
 #include "platform/windows/QtText.h"
 
 #include <QDialog>

@@ -2,6 +2,7 @@
 
 #include "controls/windows/TextFit.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>

@@ -7,7 +7,9 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
+#include <utility>
 
 using TextFit::Breaks;
 
@@ -139,7 +141,7 @@ class Arrangement {
     return FitsIn(i, Grown(i, Breaks::BetweenWords), Breaks::BetweenWords);
   }
 
-  // Those of its kind and type, one below the other, that have the same room to their right.
+  // The controls of its kind and font, one below the other, with the same room to their right.
   [[nodiscard]] Numbers ColumnOf(size_t of) const {
     const int limit = RightLimit(of, base_[of]);
     Numbers column;
@@ -152,7 +154,8 @@ class Arrangement {
     return column;
   }
 
-  // What the column lacks moves those beside it to the right, as far as half of each is left.
+  // Moves the controls beside the column to the right by what it lacks, as far as half of each is
+  // left.
   void MoveRightOf(size_t first) {
     std::set<size_t> beside;
     int missing = 0;
@@ -211,7 +214,7 @@ class Arrangement {
     return fits;
   }
 
-  // Tries an arrangement in ever smaller type; false if even the smallest did not do.
+  // Tries an arrangement in ever smaller type; false if even the smallest does not fit.
   template <typename Try>
   bool InSmallerType(const Numbers& controls, const Try& arrange) {
     const double designed = designed_[controls.front()].font.pointSizeF();

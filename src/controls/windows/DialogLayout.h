@@ -24,10 +24,10 @@ struct Place {
   QFont font;
 };
 
-/// The places that show every text whole, one for each control. What fits stays as designed. Else
-/// a control grows to the right, then down, over free space; a column of labels then moves what
-/// stands to its right, and a row of buttons spreads to the left. Smaller type is the last resort,
-/// for the whole column or all buttons.
+/// The places that show every text whole, one for each control. What fits stays as designed. Else a
+/// control grows to the right, then down, over free space; then a column of labels moves what is to
+/// its right, and a row of buttons spreads to the left. Smaller type, for the whole column or all
+/// buttons, is the last resort.
 [[nodiscard]] std::vector<Place> Arrange(std::span<const Designed> controls);
 
 }  // namespace DialogLayout

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QPainter>
+#include <QPen>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -12,7 +13,7 @@ namespace {
 constexpr double LineWidth = 2;
 constexpr int Border = 2;
 
-// In the rectangle, if keys have brought the focus: a click needs no answer where it went.
+// Only if keys brought the focus: after a click the pointer shows where it is.
 void DrawLine(const QStyleOption& option, const QRect& place, QPainter& painter,
               const QWidget* widget) {
   if (!option.state.testFlag(QStyle::State_HasFocus) ||

@@ -2,8 +2,8 @@
 
 #include <QProxyStyle>
 
-/// The desktop's style with a focus that is seen in every theme: buttons, lists that drop down,
-/// options and links get a line in the colour of their text where a style would draw a thin frame.
+/// The desktop's style with a focus that is visible in every theme: a line in the text's colour
+/// where a style would draw a thin frame.
 class FocusStyle : public QProxyStyle {
  public:
   /// `base` is the name of the style that draws everything else.

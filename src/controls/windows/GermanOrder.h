@@ -2,8 +2,7 @@
 
 #include <QCollator>
 
-/// The order of lists, whatever the language: that of the German alphabet without regard to letter
-/// case.
+/// The order of lists in every language: the German alphabet, ignoring letter case.
 [[nodiscard]] inline QCollator GermanOrder() {
   QCollator german(QLocale::German);
   german.setCaseSensitivity(Qt::CaseInsensitive);

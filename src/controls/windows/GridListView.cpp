@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTreeWidgetItem>
+
+#include <algorithm>
+#include <utility>
 
 GridListView::GridListView(std::function<void(int)> rowReached, QWidget* parent)
     : QTreeWidget(parent), rowReached_(std::move(rowReached)) {}
@@ -33,8 +37,7 @@ void GridListView::keyPressEvent(QKeyEvent* event) {
   const QTreeWidgetItem* before = currentItem();
   QTreeWidget::keyPressEvent(event);
   TellIfMoved(before);
-  // The toolkit makes the first row the current one without selecting it, and Home goes nowhere
-  // then.
+  // The toolkit makes the first row current without selecting it; Home then does nothing.
   if (event->key() == Qt::Key_Home && currentItem() && selectedItems().isEmpty()) {
     currentItem()->setSelected(true);
     rowReached_(indexOfTopLevelItem(currentItem()));

@@ -5,8 +5,7 @@
 
 #include <functional>
 
-/// The item view inside a `GridListbox`: tells of rows that the user reaches, and
-/// finds typed letters in rows that begin with a blank.
+/// The item view inside a `GridListbox`; typed letters also find rows that begin with a blank.
 class GridListView : public QTreeWidget {
   Q_OBJECT
 

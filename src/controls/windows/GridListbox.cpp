@@ -6,11 +6,14 @@
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/QtText.h"
 
+#include <QCollator>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTreeWidgetItem>
 
 #include <algorithm>
+#include <memory>
 
 using QtText::FromQt;
 using QtText::ToQt;
@@ -202,7 +205,7 @@ void GridListbox::ShowCaption(const QString& caption) {
 
 void GridListbox::NameList() {
   lvListView->setHeaderLabel(ToQt(caption_));
-  // A header that nobody sees is in no language: then the list is what its window is about.
+  // A hidden header is never translated: then the window's title names the list.
   const QString name = NoHeader() ? window()->windowTitle() : ToQt(caption_);
   lvListView->setAccessibleName(name);
   setAccessibleName(name);

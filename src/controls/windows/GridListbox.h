@@ -14,11 +14,10 @@ class GridListView;
 class QKeyEvent;
 class QMouseEvent;
 
-/// A list of texts, each with a picture of 16 x 16 pixels and a hidden tag where it is given them,
-/// in one column with a header. Rows are counted from 1; what names no row is passed over.
-///
-/// Colours are red + 256 x green + 65536 x blue, or one of the system's, such as 0x80000005 (window
-/// background), 0x80000008 (window text) and 0x8000000F (button face).
+/// A list of texts in one column with a header; a row may have a picture of 16 x 16 pixels and a
+/// hidden tag. Rows are counted from 1; a number of no row is ignored. Colours are red + 256 x
+/// green + 65536 x blue, or one of the system's, such as 0x80000005 (window background), 0x80000008
+/// (window text) and 0x8000000F (button face).
 class GridListbox : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QFont Font READ Font WRITE SetFont RESET ResetFont)
@@ -103,13 +102,13 @@ class GridListbox : public QWidget {
   /// The selected row's text; "" if none is selected.
   [[nodiscard]] ::Text Text() const;
 
-  /// Selects the first row that is this text or begins with it as a whole word, letter case not
-  /// counting; the selection stays if there is none.
+  /// Selects the first row that is this text or begins with it as a whole word, ignoring letter
+  /// case; the selection stays if there is none.
   void SetText(TextView text);
 
   [[nodiscard]] bool Sorted() const { return sorted_; }
 
-  /// Keeps rows in the order of the German alphabet without regard to letter case.
+  /// Keeps rows in the order of the German alphabet, ignoring letter case.
   void SetSorted(bool sorted);
 
   void ResetSorted() { SetSorted(false); }

@@ -6,7 +6,9 @@
 #include "platform/windows/QtText.h"
 
 #include <QComboBox>
+#include <QFrame>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>

@@ -4,6 +4,5 @@
 
 class QWidget;
 
-/// The widget for a control of a design, with its name, font and design text; its place is left
-/// to the caller.
+/// The widget for a control of a design, with its name, font and text; the caller places it.
 [[nodiscard]] QWidget* MakeControl(const ControlDesign& design, QWidget* parent);

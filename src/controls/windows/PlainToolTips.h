@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Shows the tooltips of all windows as they stand: names and descriptions come from files, and
-/// the toolkit would take "a < b und c > d" for markup. To be installed on the application.
+/// Shows all tooltips as plain text: they come from files, and the toolkit would take "a < b und c
+/// > d" for markup. To be installed on the application.
 class PlainToolTips : public QObject {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ enum class Breaks { BetweenWords, Anywhere };
 [[nodiscard]] QString TextOf(const QWidget& control);
 
 /// The size that the control needs in this font to show its whole text at most `width` wide; only
-/// labels get higher where they are narrower. Wider than `width` if that can't be done.
+/// labels wrap. Wider than `width` if that can't be done.
 [[nodiscard]] QSize Needed(const QWidget& control, const QFont& font, int width, Breaks breaks);
 
 /// The same for a text that is broken within words only where one alone is wider than `width`, as

@@ -1,10 +1,12 @@
 #include "i18n/windows/frmLang.h"
 
+#include "auxwin/Launching.h"
 #include "auxwin/windows/Hyperlink.h"
 #include "i18n/WindowTexts.h"
 #include "platform/windows/PictureReader.h"
 
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 
 using QtText::ToQt;

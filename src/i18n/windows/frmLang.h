@@ -6,10 +6,12 @@
 #include "i18n/InterfaceTexts.h"
 #include "i18n/LOCAL.h"
 #include "i18n/LanguageList.h"
+#include "i18n/TextRow.h"
 
 #include <span>
 
 class Launching;
+struct ProgramPaths;
 class QLabel;
 class QPixmap;
 class QPushButton;
@@ -24,8 +26,8 @@ class frmLang : public Dialog {
   frmLang(QWidget* parent, World& world, Launching& launching, std::span<const TextRow> menus);
 
  Q_SIGNALS:
-  /// Another language is current and stored in the settings; these are its texts. What the map
-  /// shows is of the former one.
+  /// Another language is current and stored in the settings; these are its texts. The map still
+  /// shows the former one.
   void LanguageChanged(const InterfaceTexts& texts);
 
  private:

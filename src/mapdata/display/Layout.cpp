@@ -24,7 +24,7 @@ bool IsInView(const Twips& corner, const Viewport& viewport) {
 
 MapLayout Layout(const MapPlan& plan, const Viewport& viewport, const TextWidths& widths) {
   const Viewport whole = viewport.Whole();
-  const int windowWidth = viewport.MapSize().x + Placement::FrameWidth;
+  const int windowWidth = viewport.MapSize().x + Placement::WindowBorders;
   MapLayout layout;
   layout.headingLeft = Placement::HeadingLeft(widths.heading, windowWidth);
   layout.places.reserve(plan.markers.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Twips2Pixel_Module.h"
 #include "mapdata/display/Plan.h"
 #include "mapdata/display/Viewport.h"
 

@@ -10,7 +10,7 @@ namespace {
 using MarkerWalk::Direction;
 using MarkerWalk::Point;
 
-// How far a marker lies along the direction pressed, and how far beside it.
+// Distances along the direction pressed and across it.
 struct Way {
   std::int64_t along;
   std::int64_t beside;
@@ -38,7 +38,7 @@ namespace MarkerWalk {
 
 std::optional<size_t> Next(std::span<const Point> points, size_t from, Direction direction) {
   const bool forward = direction == Direction::Right || direction == Direction::Down;
-  // Least first: aside of the cone or not, the distance, steps in the order.
+  // The smallest wins: outside the cone or not, the distance, steps in the order.
   using Rank = std::tuple<bool, double, size_t>;
   std::optional<Rank> best;
   size_t nearest = from;

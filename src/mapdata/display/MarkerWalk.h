@@ -16,9 +16,9 @@ struct Point {
 /// Where an arrow key points.
 enum class Direction { Left, Right, Up, Down };
 
-/// The marker that is nearest in the direction: among those within 45 degrees of it, else among
-/// all that lie on that side. Markers at one point follow each other in their order, right and
-/// down forward, left and up backward. None if nothing lies there.
+/// The nearest marker in the direction: within 45 degrees of it, else anywhere on that side.
+/// Markers at one point follow each other in their order: forward for right and down, backward for
+/// left and up. None if there is nothing.
 [[nodiscard]] std::optional<size_t> Next(std::span<const Point> points, size_t from,
                                          Direction direction);
 

@@ -3,15 +3,14 @@
 #include "app/Twips2Pixel_Module.h"
 
 /// Where markers and their names stand on the map. All lengths are twips. "Window width" is the
-/// width that the right-edge rules speak of: that of the map and a frame of 90 twips.
+/// width that the right-edge rules speak of: that of the map and its `WindowBorders`.
 namespace Placement {
 
 /// A marker is a circle of this diameter, whatever the scale of the map.
 inline constexpr int MarkerSize = 160;
 
-/// What the rules take as the window's size is the map's size and this much more.
-inline constexpr int FrameWidth = 90;
-inline constexpr int FrameHeight = 800;
+/// What the rules take as the window's width is the map's width and this much more.
+inline constexpr int WindowBorders = 90;
 
 /// Left and top edge of the marker for an entity at this point of the map.
 [[nodiscard]] Twips2Pixel_Module::Twips MarkerAt(const Twips2Pixel_Module::Twips& point);

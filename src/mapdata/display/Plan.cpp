@@ -9,7 +9,7 @@ std::vector<Marker> MarkersOf(const ViewState& view, const EntityNames& names,
                               IniOps::Snapshot& files) {
   std::vector<Marker> markers;
   for (const EntityFile::Marker& entity : EntityFile::ReadMarkers(
-           files.File(view.DataFile), view.CategoryKey, files, names, MapPlan::MostMarkers))
+           files.File(view.DataFile), view.CategoryKey, files, names, MapPlan::MaximumMarkers))
     markers.push_back({.position = entity.position,
                        .name = entity.name,
                        .caption = Texts::Padded(entity.name),
@@ -29,8 +29,7 @@ std::vector<Marker> Picked(const ViewState& view, const Text& name, const Entity
   return {{.position = *position, .name = name, .caption = Texts::Padded(name)}};
 }
 
-// A hit whose name is in the hidden list is picked there, which puts blanks around its name that
-// the search then adds to.
+// A hit whose name is in the hidden list is picked there: both put blanks around its name.
 std::vector<Marker> Found(const ViewState& view, const EntityNames& names,
                           IniOps::Snapshot& files) {
   const ViewState::Found& found = *view.found;

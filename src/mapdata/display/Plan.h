@@ -2,15 +2,17 @@
 
 #include "mapdata/display/ViewState.h"
 #include "mapdata/files/IniOps.h"
+#include "mapdata/world/EntityFile.h"
 #include "mapdata/world/EntityNames.h"
+#include "platform/Text.h"
 
 #include <vector>
 
-/// What is to be seen on the map, in positions of the 1024 x 768 frame: every marker with its name,
-/// and the heading. Nothing here knows a size of a window or of a picture.
+/// What is to be seen on the map, in positions of the 1024 x 768 frame, whatever the sizes of
+/// window and picture.
 struct MapPlan {
   /// More entities of a category than this are not shown.
-  static constexpr size_t MostMarkers = 81;
+  static constexpr size_t MaximumMarkers = 81;
 
   struct Marker {
     EntityFile::Position position;
@@ -33,6 +35,6 @@ struct MapPlan {
   Text heading;
 };
 
-/// What the state of the map asks for. Each file is looked at once.
+/// The plan for a state of the map. Each file is looked at once.
 [[nodiscard]] MapPlan Plan(const ViewState& view, const EntityNames& names,
                            IniOps::Snapshot& files);

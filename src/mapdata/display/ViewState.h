@@ -5,8 +5,7 @@
 
 #include <optional>
 
-/// What the map shows, kept so that it can be planned again at another size or from files that were
-/// edited.
+/// What the map shows, kept to be planned again at another size or from edited files.
 struct ViewState {
   enum class Kind {
     /// The start-up picture alone.
@@ -30,9 +29,7 @@ struct ViewState {
   Kind kind = Kind::Nothing;
   /// Path of the picture with markers; empty for a single entity.
   Text MapPicture = {};
-  /// Path of the entity data file.
   Text DataFile = {};
-  /// Section of the data file.
   Text CategoryKey = {};
   /// Heading of the markers, "&" signs included, or of a hit as it is shown.
   Text Heading = {};

@@ -3,7 +3,6 @@
 #include "mapdata/display/Placement.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -13,8 +12,7 @@ using Twips2Pixel_Module::Twips;
 
 namespace {
 
-// The coordinate whose marker's centre comes nearest: `centreOf` gives the centre for one, and
-// grows with it.
+// The coordinate whose marker's centre is nearest to `wanted`; `centreOf` must be monotonic.
 template <typename CentreOf>
 int NearestCoordinate(int around, int wanted, CentreOf centreOf) {
   int best = around;
@@ -78,7 +76,7 @@ Position Viewport::ToFrame(const Twips& point) const {
 
 Viewport Viewport::ZoomedAt(const Twips& point, double factor) const {
   Viewport zoomed = *this;
-  zoomed.scale_ = factor > 0 ? std::clamp(scale_ * factor, 1.0, MostScale) : 1;
+  zoomed.scale_ = factor > 0 ? std::clamp(scale_ * factor, 1.0, MaximumScale) : 1;
   const double grown = zoomed.scale_ / scale_;
   zoomed.left_ = (left_ + point.x) * grown - point.x;
   zoomed.top_ = (top_ + point.y) * grown - point.y;

@@ -8,7 +8,7 @@
 /// functions put it, to the twip.
 class Viewport {
  public:
-  static constexpr double MostScale = 8;
+  static constexpr double MaximumScale = 8;
 
   Viewport() = default;
 
@@ -32,8 +32,8 @@ class Viewport {
   /// The same map at scale 1.
   [[nodiscard]] Viewport Whole() const { return {screen_, mapSize_}; }
 
-  /// Another scale, times the one now, that leaves this point of the map (twips) where it is. A
-  /// factor that is no positive number leads to scale 1.
+  /// The scale multiplied by the factor, this point of the map (twips) kept in place. A factor that
+  /// is no positive number leads to scale 1.
   [[nodiscard]] Viewport ZoomedAt(const Twips2Pixel_Module::Twips& point, double factor) const;
 
   /// The picture moved by so many twips right and down, as far as it fills the map.
@@ -43,8 +43,7 @@ class Viewport {
   [[nodiscard]] Viewport Resized(const Twips2Pixel_Module::Screen& screen,
                                  const Twips2Pixel_Module::Twips& mapSize) const;
 
-  /// Panned no further than it takes to have all of this rectangle (twips) on the map, its corner
-  /// first.
+  /// Panned just so far that all of this rectangle (twips) is on the map, its corner first.
   [[nodiscard]] Viewport Showing(const Twips2Pixel_Module::Twips& corner,
                                  const Twips2Pixel_Module::Twips& size) const;
 

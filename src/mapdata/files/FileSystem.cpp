@@ -3,6 +3,8 @@
 #include "platform/NativePath.h"
 #include "platform/PosixFile.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr TextView BothSeparators = u"/\\";
@@ -29,8 +31,7 @@ std::optional<std::string> Find(const std::string& folder, TextView name) {
   return found;
 }
 
-// Goes down one part of a path, which is a name with "\" in it or, if there is none, a path of
-// its own.
+// Enters one part of a path: a name with "\" in it or, if there is none, a path of its own.
 std::optional<std::string> Descend(const std::string& folder, TextView part) {
   if (auto found = Find(folder, part))
     return found;

@@ -1,15 +1,20 @@
 #include "mapdata/files/IniOps.h"
 
 #include "mapdata/files/FileSystem.h"
+#include "mapdata/files/ProfileLines.h"
 #include "platform/Windows1252.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace {
 
 using IniOps::LargestFile;
 
-// The region shown, its descriptions and the language: what the pointer and a resize ask for again
+// The region shown, its descriptions and the language, which the pointer and a resize need again
 // and again. Any other file is parsed anew in milliseconds.
 constexpr size_t MaximumKeptFiles = 3;
 

@@ -6,11 +6,11 @@
 
 #include <deque>
 #include <memory>
+#include <utility>
 #include <vector>
 
-/// Profile files: settings, entity data, descriptions, pictures and languages. Paths are composed
-/// as the rules name them. A missing file, section or key gives the default or an empty list; who
-/// wants to know what became of a file asks the file itself.
+/// Profile files: settings, entity data, descriptions, pictures and languages. A missing file,
+/// section or key gives the default or an empty list; the file itself knows whether it was read.
 namespace IniOps {
 
 /// Larger files read as empty ones.
@@ -19,8 +19,7 @@ inline constexpr size_t LargestFile = 1'000'000'000;
 /// Parsed files, kept from one event to the next while they stay the same on disk.
 class Cache {
  public:
-  /// The file as it stands on disk now, an empty one that knows why if it can't be read; never
-  /// null.
+  /// The file as it is on disk now; one that can't be read is empty and knows why. Never null.
   [[nodiscard]] std::shared_ptr<const ProfileFile> Get(TextView file);
 
  private:
@@ -33,8 +32,8 @@ class Cache {
   std::deque<Kept> kept_;
 };
 
-/// What one event sees of all files: each is looked at once, at the first question about it, and
-/// then stays as it was. Not kept beyond the event, so that the next one notices an edited file.
+/// What one event sees of all files: each is looked at once, when first asked for. Not kept beyond
+/// the event, so that the next one notices an edited file.
 class Snapshot {
  public:
   explicit Snapshot(Cache& cache) : cache_(cache) {}
@@ -45,7 +44,7 @@ class Snapshot {
   /// The same to keep: two that are the same object hold the same contents.
   [[nodiscard]] const std::shared_ptr<const ProfileFile>& Shared(TextView file);
 
-  /// Takes the contents for those of the file, which was not asked before.
+  /// Uses these contents for the file, which must not have been asked for before.
   void Assume(TextView file, std::shared_ptr<const ProfileFile> contents) {
     seen_.push_back({Text(file), std::move(contents)});
   }
@@ -71,7 +70,7 @@ class Snapshot {
   std::deque<Seen> seen_;
 };
 
-/// A question to a file that was read before; see `Snapshot::IniRead`.
+/// The same from a file that was read before.
 [[nodiscard]] Text IniRead(const ProfileFile& file, TextView section, TextView key,
                            TextView defaultValue);
 

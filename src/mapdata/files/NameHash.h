@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-/// The hash of a name: a polynomial at a point drawn by the process, modulo the prime 2^61 - 1.
-/// Two texts share it at few points only, so that nobody can make files full of such texts.
+/// The hash of a name: a polynomial modulo the prime 2^61 - 1 at a random point, so that nobody can
+/// write files full of collisions.
 class NameHash {
  public:
   explicit NameHash(uint64_t length = 0) : drawn_(DrawnOnce()), value_(length) {}

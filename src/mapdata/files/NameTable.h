@@ -2,6 +2,7 @@
 
 #include "mapdata/files/NameHash.h"
 #include "mapdata/files/ProfileLines.h"
+#include "platform/Windows1252.h"
 
 #include <algorithm>
 #include <bit>
@@ -10,8 +11,7 @@
 #include <string_view>
 #include <vector>
 
-/// A table by open addressing of things that bear numbers; it knows their hashes, its users what
-/// the numbers stand for.
+/// An open-addressing table of numbers; users know what a number stands for.
 class HashTable {
  public:
   /// Empties the table and makes room for that many numbers.
@@ -51,9 +51,9 @@ class HashTable {
   std::vector<Slot> slots_;
 };
 
-/// Names found again whatever the case of their letters: the first that differs in the case of
-/// ASCII letters alone, else the first that does so in that of any letter of the code page. A file
-/// may hold "Š" and "š" as two keys.
+/// Names found in any letter case: the first that differs in the case of ASCII letters alone, else
+/// the first that differs in that of any letter of the code page. A file may hold "Š" and "š" as
+/// two keys.
 class NameTable {
  public:
   /// Registers the names 0 to `count` - 1, which `nameAt` gives.
@@ -101,6 +101,6 @@ class NameTable {
   }
 
   HashTable ascii_;
-  // Of names with letters beyond ASCII alone: for all others the first table says the same.
+  // Only of names with letters beyond ASCII: for all others it would equal the first table.
   HashTable folded_;
 };

@@ -1,7 +1,10 @@
 #include "mapdata/files/ProfileFile.h"
 
+#include "mapdata/files/NameHash.h"
+
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 using ProfileLines::Blanks;
 using ProfileLines::Entry;
@@ -22,7 +25,7 @@ bool EndsLine(char byte) {
   return byte == '\n' || byte == '\r';
 }
 
-// Whether one text stands in the other, as memory and not as contents.
+// Whether one view lies within the other's memory.
 bool IsPartOf(std::string_view text, std::string_view part) {
   const std::less_equal<> upTo;
   return part.data() && upTo(text.data(), part.data()) &&
@@ -49,7 +52,7 @@ std::string_view ProfileFile::Key(const KeyLine& line) const {
   return std::string_view(bytes_).substr(line.key, line.keyLength);
 }
 
-// Goes from "[" to "[": most lines of a large file are never looked at.
+// Skips from "[" to "[": most lines of a large file are never looked at.
 void ProfileFile::IndexSections() {
   const std::string_view text = Contents();
   for (size_t at = text.find('['); at != std::string_view::npos;) {

@@ -7,8 +7,7 @@
 #include <optional>
 #include <string_view>
 
-/// The smallest pieces of a profile file: its lines, the blanks around names, and names compared
-/// without regard to letter case.
+/// The pieces of a profile file: lines, the blanks around names, names compared in any letter case.
 namespace ProfileLines {
 
 /// Stripped around section names, keys and values.
@@ -16,7 +15,7 @@ inline constexpr std::string_view Blanks = " \t\v\f";
 
 /// The text without the given blanks at its ends; of nothing else, its empty end.
 [[nodiscard]] inline std::string_view Strip(std::string_view text, std::string_view blanks) {
-  // All blanks are control characters or the space: most ends are settled by the first comparison.
+  // No blank is above the space: the first comparison settles most ends.
   const auto isBlank = [blanks](char byte) {
     return static_cast<unsigned char>(byte) <= ' ' && blanks.find(byte) != std::string_view::npos;
   };
@@ -27,15 +26,14 @@ inline constexpr std::string_view Blanks = " \t\v\f";
   return text;
 }
 
-/// Whether there is nothing but spaces.
+/// Whether it consists of spaces alone.
 [[nodiscard]] inline bool IsBlank(std::string_view text) {
   return text.find_first_not_of(' ') == std::string_view::npos;
 }
 
 /// The number of bytes before the next CR or LF.
 [[nodiscard]] inline size_t LineLength(std::string_view rest) {
-  // In steps: looking for an LF in the whole of a file that has none would take its length for
-  // every line.
+  // In steps: a file without any LF would otherwise be searched to its end for every line.
   constexpr size_t firstStep = 256;
   for (size_t step = firstStep;; step *= 2) {
     const std::string_view part = rest.substr(0, step);
@@ -51,7 +49,7 @@ inline constexpr std::string_view Blanks = " \t\v\f";
   return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte + ('a' - 'A')) : byte;
 }
 
-/// Whether two names are the same once `fold` took the case of their letters away.
+/// Whether two names are the same once folded.
 template <typename Fold>
 [[nodiscard]] bool SameFolded(std::string_view a, std::string_view b, Fold fold) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [fold](char x, char y) {
@@ -59,12 +57,12 @@ template <typename Fold>
   });
 }
 
-/// Whether two names are the same but for the case of ASCII letters.
+/// Whether two names are the same in any case of ASCII letters.
 [[nodiscard]] inline bool SameAscii(std::string_view a, std::string_view b) {
   return a == b || SameFolded(a, b, LowerAscii);
 }
 
-/// Whether two names are the same but for the case of letters of the whole code page.
+/// Whether two names are the same in any case of the code page's letters.
 [[nodiscard]] inline bool SameName(std::string_view a, std::string_view b) {
   return SameFolded(a, b, Windows1252::Fold);
 }
@@ -117,8 +115,8 @@ struct Line {
             Strip(line.substr(equals + 1), Blanks)};
   }
 
-  /// The line as the key list takes it: what stands before the first "=", without the spaces
-  /// around it; none for a line of spaces.
+  /// The key list's view of the line: what is before the first "=", stripped of spaces; none for a
+  /// line of spaces.
   [[nodiscard]] std::optional<std::string_view> ListedKey() const {
     if (IsBlank(raw))
       return std::nullopt;

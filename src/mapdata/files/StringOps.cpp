@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace {
@@ -58,7 +59,7 @@ ScannedNumber ScanNumber(std::string_view text) {
   for (; at < text.size(); ++at) {
     if (IsDigit(text[at])) {
       digits = true;
-      // Beyond 2^52 a further fraction digit changes nothing but would overflow both numbers.
+      // Further fraction digits would change nothing and overflow both numbers.
       if (point && scale > 1e15)
         continue;
       value = value * 10 + (text[at] - '0');

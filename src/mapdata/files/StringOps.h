@@ -13,8 +13,7 @@ namespace StringOps {
 [[nodiscard]] TextView GetField(TextView text, int n, TextView separator);
 [[nodiscard]] std::string_view GetField(std::string_view text, int n, std::string_view separator);
 
-/// Field N of the text, counted from 1, as splitting at every separator gives it; "" if there is
-/// no such field.
+/// Field N of the text, from 1, split at every separator; "" if there is no such field.
 [[nodiscard]] TextView GetSplitField(TextView text, int n, TextView separator);
 [[nodiscard]] std::string_view GetSplitField(std::string_view text, int n,
                                              std::string_view separator);

@@ -3,6 +3,7 @@
 #include "controls/windows/WidgetTwips.h"
 
 #include <QPainter>
+#include <QPen>
 
 namespace {
 

@@ -2,9 +2,8 @@
 
 #include <QWidget>
 
-/// The mark around the marker that has the keyboard's focus: a bright ring inside a dark one, so
-/// that it stands out from every picture. Takes no pointer and no place in the tree that a screen
-/// reader sees.
+/// The ring around the marker with the keyboard's focus: a bright circle inside a dark one, visible
+/// on every picture. The pointer and screen readers don't see it.
 class FocusRing : public QWidget {
   Q_OBJECT
 

@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -18,7 +19,6 @@ QAccessibleInterface* InterfaceOf(QWidget* widget) {
   return QAccessible::queryAccessibleInterface(widget);
 }
 
-// An interface whose children are the widgets that the derived class names.
 class ParentAccess : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;

@@ -72,6 +72,6 @@ void MapArea::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().window());
   picture_.Paint(painter, rect(), DevicePixels(), part_);
   // Now that the picture is on the screen: a later resize finds its pixels there.
-  if (!picture_.IsSettled())
-    QTimer::singleShot(0, this, [this] { picture_.Settle(); });
+  if (!picture_.IsFinished())
+    QTimer::singleShot(0, this, [this] { picture_.FinishLoading(); });
 }

@@ -25,8 +25,8 @@ class MapArea : public QWidget {
   /// Whether that is what it shows.
   [[nodiscard]] bool ShowsStartPicture() const { return showsStart_; }
 
-  /// The part of the picture to show, in fractions of its width and height. Enlarges what is there;
-  /// what it lacks in sharpness comes when no other part was asked for in a moment.
+  /// The part of the picture to show, in fractions of its width and height. What is there is
+  /// enlarged; a sharper picture follows once no other part was asked for in a moment.
   void ShowPart(const QRectF& part);
 
   /// Paints the part that is shown with the pixels there are.

@@ -2,6 +2,7 @@
 
 #include "controls/windows/GermanOrder.h"
 #include "controls/windows/WidgetTwips.h"
+#include "mapdata/display/Plan.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapFocus.h"
 #include "mapdata/windows/MapGestures.h"
@@ -12,6 +13,7 @@
 
 #include <QComboBox>
 #include <QFrame>
+#include <QIcon>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -25,7 +27,7 @@ namespace {
 constexpr double CaptionPoints = 9.75;
 constexpr double HeadingPoints = 12;
 constexpr int RightGap = 110;
-constexpr int MostVisibleItems = 30;
+constexpr int MaximumVisibleItems = 30;
 constexpr int LineWidth = 15360;
 
 template <typename Widget>
@@ -86,7 +88,7 @@ MapControls::MapControls(QWidget* map)
   linMenuSep->setFrameShape(QFrame::HLine);
   SetTwips(*linMenuSep, {}, {LineWidth, 0});
   linMenuSep->resize(linMenuSep->width(), 1);
-  cboItems->setMaxVisibleItems(MostVisibleItems);
+  cboItems->setMaxVisibleItems(MaximumVisibleItems);
   SetTwips(*cboItems, {}, {4215, 360});
   btnInfo->setIcon(QIcon(QStringLiteral(":/builtin/info.png")));
   btnInfo->setFocusPolicy(Qt::StrongFocus);
@@ -138,7 +140,7 @@ void MapControls::Empty(const MapPlan& plan) {
   if (!plan.single || plan.markers.empty())
     EmptyOut(*ITEM, *lblCaption);
   const size_t used = plan.single ? 0 : plan.markers.size();
-  for (size_t slot = used; slot < MapPlan::MostMarkers; ++slot)
+  for (size_t slot = used; slot < MapPlan::MaximumMarkers; ++slot)
     EmptyOut(slots_->Dot(static_cast<int>(slot)), slots_->Label(static_cast<int>(slot)));
 }
 

@@ -2,13 +2,17 @@
 
 #include "app/Twips2Pixel_Module.h"
 #include "mapdata/display/Layout.h"
+#include "platform/Text.h"
 
 #include <QSize>
 #include <QString>
 
+#include <vector>
+
 class MapArea;
 class MapFocus;
 class MapGestures;
+struct MapPlan;
 class MarkerSlots;
 class NameLabel;
 class QComboBox;
@@ -17,26 +21,22 @@ class QToolButton;
 class QWidget;
 class ctlLocation;
 
-/// The widgets of the map: made once, then filled from a plan and moved to where a layout says.
-/// Nothing is decided here.
+/// The widgets of the map: made once, then filled from a plan and moved by a layout.
 class MapControls {
  public:
-  /// Creates all of them on the map, in stacking order: the picture, names, markers, and what lies
-  /// over the whole map.
+  /// Creates all of them on the map, in stacking order: picture, names, markers, then the rest.
   explicit MapControls(QWidget* map);
 
   MapControls(const MapControls&) = delete;
   MapControls& operator=(const MapControls&) = delete;
 
-  /// Gives every marker, name and the heading the texts and colours of the plan; what the plan
-  /// lacks is hidden.
+  /// Gives markers, names and heading the plan's texts and colours; the others are hidden.
   void Fill(const MapPlan& plan);
 
   /// How wide the texts of the plan are, once filled in.
   [[nodiscard]] TextWidths Widths(const MapPlan& plan) const;
 
-  /// Moves everything of the plan to its place. The name of marker `hovered`, -1 for none, shows in
-  /// any case.
+  /// Moves everything to its place. The name of marker `hovered` (-1 for none) is always shown.
   void Place(const MapPlan& plan, const MapLayout& layout, int hovered);
 
   /// Stretches the picture over the map, and puts list and button into its right corner.
@@ -47,7 +47,7 @@ class MapControls {
   /// Fills the list: the prompt, which is selected, and the names in their order.
   void List(const QString& prompt, const std::vector<Text>& names);
 
-  /// Shows the walk by keys and the gestures what they are about.
+  /// Makes the widgets known to the walk by keys and the gestures.
   void AddTo(MapFocus& focus, MapGestures& gestures) const;
 
   /// The texts of list and button for a screen reader, and the button's tooltip.

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -31,7 +32,7 @@ std::optional<MarkerWalk::Direction> DirectionOf(int key) {
   }
 }
 
-// The point that the key leads to; a key that walks nowhere leads to where it is.
+// `from` for a key that leads nowhere.
 size_t Target(const std::vector<MarkerWalk::Point>& points, size_t from, int key) {
   const size_t last = points.size() - 1;
   if (key == Qt::Key_Home || key == Qt::Key_End)
@@ -135,8 +136,8 @@ bool MapFocus::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// A window that becomes active without a focus gives it to its first Tab stop; on the map that
-// would show a name that nobody asked for.
+// A window that becomes active without a focus gives it to its first Tab stop, which would show a
+// name that nobody asked for.
 void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
   if (reason == Qt::ActiveWindowFocusReason && left_ != &marker)
     marker.clearFocus();
@@ -146,9 +147,8 @@ void MapFocus::TakeFocus(ctlLocation& marker, Qt::FocusReason reason) {
 
 void MapFocus::Rest(ctlLocation& marker) {
   MakeTabStop(&marker);
-  const QPointF middle = QRectF(marker.rect()).center();
-  Q_EMIT marker.MouseMove(0, 0, static_cast<float>(middle.x()), static_cast<float>(middle.y()));
-  Q_EMIT NameOf(marker).MouseMove();
+  marker.Hover();
+  NameOf(marker).Hover();
   ShowRing();
   untilTip_.start(map_->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay), this);
 }
@@ -182,7 +182,7 @@ bool MapFocus::Press(ctlLocation& marker, const QKeyEvent& key) {
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      Q_EMIT marker.DblClick();
+      marker.Activate();
       return true;
     case Qt::Key_Escape:
       marker.clearFocus();

@@ -16,8 +16,8 @@ class ctlLocation;
 
 /// The keyboard on the map. All markers are one Tab stop; the arrow keys walk from marker to
 /// marker, Home and End to the first and the last, Page Up and Page Down through their order, Enter
-/// does what a double click does. The marker with the focus has a ring around it, and what the
-/// pointer does by resting on it and on its name happens as well.
+/// does what a double click does. The marker with the focus has a ring, and acts as if the pointer
+/// were on it.
 class MapFocus : public QObject {
   Q_OBJECT
 
@@ -27,8 +27,8 @@ class MapFocus : public QObject {
   /// Takes in a marker and its name. The first ones added come first.
   void Add(ctlLocation* marker, NameLabel* name);
 
-  /// Where the markers stand to walk over, in the order in which they were added; none for one that
-  /// is not on the map. One that is there and not shown lies outside of a closer view.
+  /// The points of the markers, in the order in which they were added; none for one that is not on
+  /// the map. A hidden marker that has one is outside of a closer view.
   void SetPoints(std::vector<std::optional<MarkerWalk::Point>> points);
 
   /// The markers that are shown now, in their order.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGestureEvent>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPinchGesture>

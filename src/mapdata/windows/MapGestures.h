@@ -8,8 +8,7 @@ class QPinchGesture;
 class QWidget;
 class QWheelEvent;
 
-/// What a user does to look closer: wheel, pinch, drag, double click and keys, as wishes. Points
-/// are pixels of the map.
+/// Turns wheel, pinch, drag, double click and keys into wishes. Points are pixels of the map.
 class MapGestures : public QObject {
   Q_OBJECT
 
@@ -50,7 +49,7 @@ class MapGestures : public QObject {
 
   QWidget* map_;
   const QObject* picture_ = nullptr;
-  // Where the button is held down since, or the drag has come to; global.
+  // Where the button went down, or the drag's last point; global.
   QPoint from_;
   bool pressed_ = false;
   bool dragging_ = false;

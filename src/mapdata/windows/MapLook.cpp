@@ -2,6 +2,8 @@
 
 #include "controls/windows/PrintableWidget.h"
 #include "controls/windows/WidgetTwips.h"
+#include "mapdata/display/Layout.h"
+#include "mapdata/display/MarkerWalk.h"
 #include "mapdata/display/Placement.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapControls.h"
@@ -15,6 +17,10 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QToolTip>
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 using Twips2Pixel_Module::Twips;
 
@@ -62,7 +68,7 @@ void MapLook::ShowWhole() {
 void MapLook::Resize() {
   const auto screen = WidgetTwips::ScreenOf(map_);
   ShowPart(viewport_.Resized(screen, WidgetTwips::ToTwips(screen, map_.size())));
-  controls_.FitTo(map_.size(), viewport_.MapSize().x + Placement::FrameWidth);
+  controls_.FitTo(map_.size(), viewport_.MapSize().x + Placement::WindowBorders);
 }
 
 void MapLook::BringIntoView(size_t marker) {
@@ -122,7 +128,7 @@ void MapLook::ShowPart(const Viewport& viewport) {
 
 void MapLook::Arrange() {
   const MapLayout layout = Layout(plan_, viewport_, controls_.Widths(plan_));
-  std::vector<std::optional<MarkerWalk::Point>> points(MapPlan::MostMarkers + 1);
+  std::vector<std::optional<MarkerWalk::Point>> points(MapPlan::MaximumMarkers + 1);
   for (size_t i = 0; i < plan_.markers.size(); ++i)
     if (plan_.markers[i].shown)
       points[plan_.single ? i : i + 1] = {layout.places[i].marker.x, layout.places[i].marker.y};

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "app/Twips2Pixel_Module.h"
 #include "mapdata/display/Plan.h"
 #include "mapdata/display/Viewport.h"
 
 #include <QObject>
+
+#include <cstddef>
 
 class MapControls;
 class MapFocus;
@@ -11,8 +14,8 @@ class MapGestures;
 class QPainter;
 class QWidget;
 
-/// What is seen of the map: a plan, laid out in the part of the picture that is shown, and the
-/// widgets moved there. Looking closer reads no file of entities.
+/// What is seen of the map: a plan, laid out in the part of the picture that is shown. Looking
+/// closer reads no data file.
 class MapLook : public QObject {
   Q_OBJECT
 
@@ -26,8 +29,7 @@ class MapLook : public QObject {
   /// Shows all of the picture.
   void ShowWhole();
 
-  /// Follows the map's size: the scale and the point in the middle stay. The plan is to be shown
-  /// anew.
+  /// Follows the map's size, keeping scale and middle. The plan must be shown again after it.
   void Resize();
 
   /// Moves the picture as far as it takes to have the marker in view; nothing if there is none.

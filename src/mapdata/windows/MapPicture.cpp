@@ -49,7 +49,7 @@ bool IsWhole(const QRectF& part) {
   return part == QRectF(0, 0, 1, 1);
 }
 
-// What all of the picture would measure of which the part is as large as this.
+// The size of the whole picture if the part has this one.
 QSizeF WholeSize(const QSize& size, const QRectF& part) {
   return {size.width() / part.width(), size.height() / part.height()};
 }
@@ -86,7 +86,7 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
     pictures_[*known] = {Text(path), stamp, std::move(pixels), {}};
   }
   screen_ = screen;
-  settled_ = settled_ && ready && shown_ == known;
+  finished_ = finished_ && ready && shown_ == known;
   if (!ready || shown_ != known) {
     level_ = {};
     exhausted_ = false;
@@ -98,13 +98,13 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   return true;
 }
 
-void MapPicture::Settle() {
-  settled_ = true;
+void MapPicture::FinishLoading() {
+  finished_ = true;
   PackAllBut(shown_);
   static_cast<void>(Pixels());
 }
 
-// Keeps three bytes of each pixel, where it needs no fourth.
+// At three bytes a pixel, where no alpha is lost.
 void MapPicture::PackAllBut(std::optional<size_t> picture) {
   // A conversion in place would keep the larger block.
   for (size_t other = 0; other < pictures_.size(); ++other)
@@ -145,7 +145,7 @@ void MapPicture::Paint(QPainter& painter, const QRectF& target, const QSize& siz
     return;
   const QImage& scaled = Shown().scaled;
   const QImage& pixels = IsWhole(part) && scaled.size() == size ? scaled : Pixels();
-  // Once for a picture that is new, and not for each step of a resize.
+  // Scaled once for a new picture, not for each step of a resize.
   if (IsWhole(part) && (scaled.isNull() || pixels.hasAlphaChannel()))
     return PaintPart(painter, target, At(size), part);
   if (&pixels == &scaled)
@@ -202,6 +202,6 @@ bool MapPicture::ReadLevel(const QSize& cover) {
   return (level_.isNull() ? Pixels().size() : level_.size()) != before;
 }
 
-qsizetype MapPicture::BytesOfPixels() const {
+qsizetype MapPicture::SizeInBytes() const {
   return shown_ ? Shown().pixels.sizeInBytes() + level_.sizeInBytes() : 0;
 }

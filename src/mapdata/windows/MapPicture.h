@@ -12,11 +12,9 @@
 class QPainter;
 
 /// The pictures that the map area has shown, ready to be painted at its size and in closer views.
-///
-/// The one shown keeps its pixels, read no larger than the screen needs, so that no resize reads it
-/// again; a closer view adds the sharper level that it needs. The others keep only how they last
-/// looked: going back to one of them shows that at once, and `Settle` reads its pixels when there
-/// is time. A file that changed is read anew.
+/// The one shown keeps its pixels, no more than the screen needs; a closer view adds a sharper
+/// level. The others keep only how they last looked, which is shown at once on return;
+/// `FinishLoading` then reads the pixels. A file that changed is read anew.
 class MapPicture {
  public:
   /// Makes the picture of the file the one to show at `size` device pixels on a screen of `screen`
@@ -39,22 +37,19 @@ class MapPicture {
   /// Paints the part with all the pixels that are there, for a device of unknown resolution.
   void PaintPixels(QPainter& painter, const QRectF& target, const QRectF& part);
 
-  /// Makes ready what `Paint` would do better: reads the level that the part needs at this size,
-  /// scales the whole. True if it looks better now.
+  /// Prepares a better `Paint`: reads the level that the part needs at this size, or scales the
+  /// whole. True if it looks better now.
   [[nodiscard]] bool Sharpen(const QSize& size, const QRectF& part);
 
-  /// Does what can wait until a loaded picture is on the screen: reads its pixels if they are not,
-  /// and keeps the looks of the others in less memory.
-  void Settle();
+  /// Does what can wait until a loaded picture is on the screen: reads its pixels, packs the
+  /// others.
+  void FinishLoading();
 
-  /// Whether `Settle` has been called since the last picture was loaded.
-  [[nodiscard]] bool IsSettled() const { return settled_; }
+  /// Whether `FinishLoading` has been called since the last picture was loaded.
+  [[nodiscard]] bool IsFinished() const { return finished_; }
 
-  /// Whether the pixels of the picture shown are still to be read.
-  [[nodiscard]] bool NeedsPixels() const { return shown_ && Shown().pixels.isNull(); }
-
-  /// The pixels that are kept of the picture shown, in bytes.
-  [[nodiscard]] qsizetype BytesOfPixels() const;
+  /// The memory that the pixels of the picture shown take; 0 before they are read.
+  [[nodiscard]] qsizetype SizeInBytes() const;
 
  private:
   struct Picture {
@@ -81,5 +76,5 @@ class MapPicture {
   // The file has no more pixels than are there.
   bool exhausted_ = false;
   QSize screen_;
-  bool settled_ = true;
+  bool finished_ = true;
 };

@@ -10,8 +10,8 @@
 #include "platform/windows/QtText.h"
 
 MapPointer::MapPointer(QObject& map, MapControls& controls, MapFocus& focus, MapLook& look,
-                       IniOps::Cache& files, const EntityNames& names)
-    : QObject(&map), controls_(controls), focus_(focus), look_(look), files_(files), names_(names) {
+                       IniOps::Cache& cache, const EntityNames& names)
+    : QObject(&map), controls_(controls), focus_(focus), look_(look), cache_(cache), names_(names) {
   connect(controls.lblCaption, &NameLabel::MouseMove, this, &MapPointer::lblCaption_MouseMove);
   connect(controls.slots_, &MarkerSlots::DotMoved, this, &MapPointer::DOT_MouseMove);
   connect(controls.slots_, &MarkerSlots::DotDoubleClicked, this, &MapPointer::DOT_DblClick);
@@ -61,7 +61,7 @@ QString MapPointer::Description(size_t marker) const {
   const auto& markers = look_.Plan().markers;
   if (marker >= markers.size())
     return {};
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(cache_);
   const Text key = Texts::Lower(names_.Key(markers[marker].caption));
   return QtText::ToQt(InfoFile::TooltipOf(InfoFile::ReadEntry(files.File(names_.InfoPath()), key)));
 }

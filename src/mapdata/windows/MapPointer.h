@@ -2,9 +2,12 @@
 
 #include "mapdata/files/IniOps.h"
 #include "mapdata/world/EntityNames.h"
+#include "platform/Text.h"
 
 #include <QObject>
 #include <QString>
+
+#include <cstddef>
 
 class MapControls;
 class MapFocus;
@@ -12,14 +15,13 @@ class MapLook;
 class NameLabel;
 class ctlLocation;
 
-/// What pointing at markers and names does: names show, descriptions become tooltips, a double
-/// click asks for the information.
+/// What the pointer does on markers and names: shows names and tooltips, asks for information.
 class MapPointer : public QObject {
   Q_OBJECT
 
  public:
   MapPointer(QObject& map, MapControls& controls, MapFocus& focus, MapLook& look,
-             IniOps::Cache& files, const EntityNames& names);
+             IniOps::Cache& cache, const EntityNames& names);
 
   /// Whether names show only while the pointer is on their marker.
   void SetLabelsOnHover(bool labelsOnHover) { labelsOnHover_ = labelsOnHover; }
@@ -27,8 +29,8 @@ class MapPointer : public QObject {
   /// What a screen reader says of a highlighted marker.
   void SetHighlightedText(const QString& text) { highlighted_ = text; }
 
-  /// What a screen reader tells of a marker beside its name: whether it is highlighted, and the
-  /// start of the entity's description.
+  /// What a screen reader says after the name: whether it is highlighted, and the description's
+  /// start.
   [[nodiscard]] QString SpokenDescription(const ctlLocation& marker) const;
 
  Q_SIGNALS:
@@ -47,7 +49,7 @@ class MapPointer : public QObject {
   MapControls& controls_;
   MapFocus& focus_;
   MapLook& look_;
-  IniOps::Cache& files_;
+  IniOps::Cache& cache_;
   const EntityNames& names_;
   QString highlighted_;
   bool labelsOnHover_ = false;

@@ -1,5 +1,6 @@
 #include "mapdata/windows/MapView.h"
 
+#include "mapdata/display/Plan.h"
 #include "mapdata/windows/MapAccess.h"
 #include "mapdata/windows/MapArea.h"
 #include "mapdata/windows/MapControls.h"
@@ -10,25 +11,27 @@
 #include "mapdata/windows/NameLabel.h"
 #include "mapdata/windows/ShiftCursor.h"
 #include "mapdata/windows/ctlLocation.h"
+#include "mapdata/world/EntityNames.h"
 #include "platform/windows/QtText.h"
 
 #include <QComboBox>
+#include <QPainter>
 #include <QToolButton>
 
 using Kind = ViewState::Kind;
 using QtText::FromQt;
 using QtText::ToQt;
 
-MapView::MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent,
+MapView::MapView(IniOps::Cache& cache, const EntityNames& names, QWidget* parent,
                  const Text& startPicture)
     : QWidget(parent),
-      files_(files),
+      cache_(cache),
       names_(names),
       focus_(new MapFocus(this)),
       controls_(std::make_unique<MapControls>(this)),
       gestures_(new MapGestures(this)),
       look_(new MapLook(*this, *controls_, *focus_, *gestures_)),
-      pointer_(new MapPointer(*this, *controls_, *focus_, *look_, files, names)) {
+      pointer_(new MapPointer(*this, *controls_, *focus_, *look_, cache, names)) {
   MapAccess::Install();
   new ShiftCursor(this);
   ConnectControls();
@@ -75,8 +78,7 @@ void MapView::ShowNoRegion() {
   controls_->imgMap->ShowStartPicture();
 }
 
-// The state of a display that begins, in which the whole picture is seen; false, and the start-up
-// picture, if its picture can't be read.
+// False, and the start-up picture, if the picture can't be read.
 bool MapView::Begin(const ViewState& view) {
   ClearUI();
   view_ = view;
@@ -105,7 +107,7 @@ void MapView::Change(const Text& Map, const Text& Data, const Text& KindX) {
 }
 
 void MapView::FillList() {
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(cache_);
   controls_->List(ToQt(prompt_), EntityFile::ReadNames(files.File(view_.DataFile),
                                                        view_.CategoryKey, files, names_));
 }
@@ -146,7 +148,7 @@ void MapView::Repeat() {
 }
 
 void MapView::ShowPlan() {
-  IniOps::Snapshot files(files_);
+  IniOps::Snapshot files(cache_);
   pointer_->SetLabelsOnHover(view_.LabelsOnHover);
   look_->Show(Plan(view_, names_, files));
 }

@@ -1,12 +1,17 @@
 #pragma once
 
-#include "mapdata/display/Plan.h"
+#include "app/Twips2Pixel_Module.h"
+#include "mapdata/display/ViewState.h"
 #include "mapdata/display/Viewport.h"
+#include "mapdata/files/IniOps.h"
+#include "mapdata/world/EntityFile.h"
+#include "platform/Text.h"
 
 #include <QWidget>
 
 #include <memory>
 
+class EntityNames;
 class MapControls;
 class MapFocus;
 class MapGestures;
@@ -14,10 +19,10 @@ class MapLook;
 class MapPointer;
 class QPainter;
 
-/// The map of the main window with everything that stands on it: one region's picture, and either
-/// the list of a category with one marker for the entity picked, or all of its entities as markers,
-/// or one entity that was searched for. Every display goes one way: the state is planned, the plan
-/// is laid out in the part of the picture that is shown, and the widgets are moved there.
+/// The map of the main window: one region's picture, and on it the list of a category with a marker
+/// for the entity picked, or all of its entities as markers, or one entity that was searched for. A
+/// state is planned, the plan is laid out in the part of the picture that is shown, and the widgets
+/// are moved there.
 class MapView : public QWidget {
   Q_OBJECT
 
@@ -41,15 +46,14 @@ class MapView : public QWidget {
     Text Heading;
   };
 
-  /// Without a region the map shows the start picture, or where that can't be read the one that is
-  /// built into the program.
-  MapView(IniOps::Cache& files, const EntityNames& names, QWidget* parent = nullptr,
+  /// Without a region the map shows the start picture, or the built-in one if that can't be read.
+  MapView(IniOps::Cache& cache, const EntityNames& names, QWidget* parent = nullptr,
           const Text& startPicture = {});
   ~MapView() override;
 
-  /// Sets the first row of the list, which begins with a blank, and the information button's
-  /// tooltip. The row shows when the list is filled the next time. `highlighted` is what a screen
-  /// reader says of a highlighted marker, `spokenPrompt` what it says of the list.
+  /// Sets the list's first row, which begins with a blank and shows when the list is next filled,
+  /// and the information button's tooltip. A screen reader says `highlighted` of a highlighted
+  /// marker and `spokenPrompt` of the list.
   void SetTexts(const Text& prompt, const Text& infoToolTip, const Text& highlighted,
                 const Text& spokenPrompt);
 
@@ -95,10 +99,10 @@ class MapView : public QWidget {
   /// The text in the top right corner; "" while there is none.
   [[nodiscard]] const Text& Heading() const;
 
-  /// The way of the keyboard over the markers.
+  /// The keyboard on the markers.
   [[nodiscard]] MapFocus& Focus() { return *focus_; }
 
-  /// What there is to tell of a marker.
+  /// The pointer on the markers.
   [[nodiscard]] const MapPointer& Pointer() const { return *pointer_; }
 
  Q_SIGNALS:
@@ -122,7 +126,7 @@ class MapView : public QWidget {
 
   void lblCaption_DblClick() { btnInfo_Click(); }
 
-  IniOps::Cache& files_;
+  IniOps::Cache& cache_;
   const EntityNames& names_;
   Text prompt_;
 

@@ -16,14 +16,14 @@ class MarkerSlots : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr int Count = static_cast<int>(MapPlan::MostMarkers);
+  static constexpr int Count = static_cast<int>(MapPlan::MaximumMarkers);
 
   /// Creates all of them on the map, hidden. `between` is a sibling that stays above every label
   /// and below every marker, `above` one that stays above every marker.
   MarkerSlots(QWidget* map, QWidget* between, QWidget* above);
 
-  /// Brings the slot's marker in front of the other markers and its label in front of the other
-  /// labels, so that no name covers a marker.
+  /// Brings the slot's marker in front of the other markers, its label in front of the other
+  /// labels.
   void BringToFront(int slot);
 
   /// Marker and label of the slot, 0 to 80.
@@ -41,7 +41,7 @@ class MarkerSlots : public QObject {
  private:
   QWidget* between_;
   QWidget* above_;
-  std::array<ctlLocation*, MapPlan::MostMarkers> dots_{};
-  std::array<NameLabel*, MapPlan::MostMarkers> labels_{};
+  std::array<ctlLocation*, MapPlan::MaximumMarkers> dots_{};
+  std::array<NameLabel*, MapPlan::MaximumMarkers> labels_{};
   int front_ = -1;
 };

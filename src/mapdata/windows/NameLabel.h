@@ -2,8 +2,7 @@
 
 #include <QLabel>
 
-/// A name on the map: sizes itself to its text, shown as it stands on a coloured ground. Colours
-/// are red + 256 x green + 65536 x blue.
+/// A name on the map, as large as its plain text. Colours are red + 256 x green + 65536 x blue.
 class NameLabel : public QLabel {
   Q_OBJECT
 
@@ -15,6 +14,9 @@ class NameLabel : public QLabel {
 
   /// The colour of the text from now on.
   void SetTextColor(int color);
+
+  /// Does what the pointer does by moving over the name.
+  void Hover() { Q_EMIT MouseMove(); }
 
  Q_SIGNALS:
   /// The pointer moved over the name, or double-clicked it with the left button.

@@ -8,7 +8,7 @@ ShiftCursor::ShiftCursor(QWidget* widget) : QObject(widget), widget_(widget) {
   widget->installEventFilter(this);
 }
 
-// Keys go to whatever has the focus: the program is listened to while the pointer is here.
+// Keys go to whatever has the focus, so all of the program is watched while the pointer is here.
 bool ShiftCursor::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
   if (watched == widget_ && type == QEvent::Enter) {

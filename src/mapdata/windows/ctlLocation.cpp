@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPen>
 
 namespace {
 
@@ -44,6 +45,11 @@ void ctlLocation::SetBackColor(int color) {
 void ctlLocation::SetHighlighted(bool highlighted) {
   highlighted_ = highlighted;
   update();
+}
+
+void ctlLocation::Hover() {
+  constexpr float centre = Placement::MarkerSize / 2.0F;
+  Q_EMIT MouseMove(0, 0, centre, centre);
 }
 
 void ctlLocation::mouseMoveEvent(QMouseEvent* event) {

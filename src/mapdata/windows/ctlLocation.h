@@ -28,8 +28,7 @@ class ctlLocation : public QWidget {
 
   void ResetBorderColor() { SetBorderColor(DarkRed); }
 
-  /// Whether the entity stands out: a thicker outline, and what a screen reader says. The colours
-  /// are set apart from that.
+  /// Whether the outline is thicker and a screen reader says so; colours are set apart from that.
   [[nodiscard]] bool Highlighted() const { return highlighted_; }
 
   void SetHighlighted(bool highlighted);
@@ -40,11 +39,17 @@ class ctlLocation : public QWidget {
 
   void ResetBackColor() { SetBackColor(Gold); }
 
+  /// Does what the pointer does by moving over its centre, no button or key held.
+  void Hover();
+
+  /// Does what a double click does.
+  void Activate() { Q_EMIT DblClick(); }
+
  Q_SIGNALS:
   /// The pointer moved over the marker; x and y are twips from its top left corner. `button` is
   /// the sum of 1 (left), 2 (right) and 4 (middle), `shift` of 1 (Shift), 2 (Ctrl) and 4 (Alt).
   void MouseMove(int button, int shift, float x, float y);
-  /// The marker was double-clicked with the left button, or Enter was pressed on it.
+  /// The marker was double-clicked with the left button or activated.
   void DblClick();
 
  protected:

@@ -1,12 +1,16 @@
 #include "mapdata/windows/frmInfo.h"
 
 #include "i18n/WindowTexts.h"
+#include "mapdata/files/ProfileFile.h"
 #include "mapdata/world/InfoFile.h"
 #include "mapdata/world/Portraits.h"
+#include "mapdata/world/ProgramPaths.h"
 #include "platform/windows/PictureReader.h"
 #include "platform/windows/WindowTitle.h"
 
+#include <QImage>
 #include <QLabel>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPushButton>
 

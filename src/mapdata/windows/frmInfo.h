@@ -3,6 +3,7 @@
 #include "app/World.h"
 #include "controls/windows/Dialog.h"
 
+struct ProgramPaths;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;

@@ -1,5 +1,6 @@
 #include "mapdata/world/EntityFile.h"
 
+#include "mapdata/files/ProfileLines.h"
 #include "mapdata/files/StringOps.h"
 #include "platform/Windows1252.h"
 
@@ -74,19 +75,20 @@ std::optional<Position> FoundPosition(const Entity& entity) {
 }
 
 std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
-                                IniOps::Snapshot& files, const EntityNames& names, size_t most) {
+                                IniOps::Snapshot& files, const EntityNames& names, size_t maximum) {
   const auto section = Windows1252::Encode(category);
   if (!section)
     return {};
   auto keys = dataFile.KeyNames(*section);
-  keys.resize(std::min(keys.size(), most));
+  keys.resize(std::min(keys.size(), maximum));
+  const auto nameFile = names.NameFile(files);
   std::vector<Marker> markers;
   markers.reserve(keys.size());
   for (const std::string_view key : keys) {
     const Entity entity = Read(dataFile, *section, key);
     Marker& marker = markers.emplace_back();
     marker.key = Windows1252::Decode(key);
-    marker.name = names.Shown(files, marker.key);
+    marker.name = names.Shown(nameFile, marker.key);
     marker.position = MarkerPosition(entity);
     marker.highlighted = entity.highlighted;
     marker.disabled = IsDisabled(key);
@@ -99,10 +101,11 @@ std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category, IniO
   const auto section = Windows1252::Encode(category);
   if (!section)
     return {};
+  const auto nameFile = names.NameFile(files);
   std::vector<Text> shown;
   for (const std::string_view key : dataFile.KeyNames(*section))
     if (!IsDisabled(key))
-      shown.push_back(names.Shown(files, Windows1252::Decode(key)));
+      shown.push_back(names.Shown(nameFile, Windows1252::Decode(key)));
   return shown;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/Text.h"
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 /// Entity data files: a section a category, a line an entity: its German name as the key, and as
@@ -65,22 +66,20 @@ struct Marker {
 /// The fields as the list takes them.
 [[nodiscard]] Fields SplitFields(const Entity& entity);
 
-/// Where the markers show the entity: the leading numbers of the scanned fields, of a field that
-/// has none 0.
+/// Where the markers show the entity: the leading numbers of the scanned fields, 0 without one.
 [[nodiscard]] Position MarkerPosition(const Entity& entity);
 
 /// Where the list shows it; none if one of the split fields is no whole number.
 [[nodiscard]] std::optional<Position> PickedPosition(const Entity& entity);
 
-/// Where the search shows it: a scanned field that is no whole number counts 0. None if the value
-/// is a link to a line without a position.
+/// Where the search shows it: a scanned field that is no whole number is 0. None if the value is a
+/// link to a line without a position.
 [[nodiscard]] std::optional<Position> FoundPosition(const Entity& entity);
 
-/// Every line of the category in file order, disabled ones included, at most `most`; `files` is
-/// where the names are read from.
+/// Every line of the category in file order, disabled ones included, at most `maximum`.
 [[nodiscard]] std::vector<Marker> ReadMarkers(const ProfileFile& dataFile, TextView category,
                                               IniOps::Snapshot& files, const EntityNames& names,
-                                              size_t most);
+                                              size_t maximum);
 
 /// The names to show for all keys of the category that are not disabled, in file order.
 [[nodiscard]] std::vector<Text> ReadNames(const ProfileFile& dataFile, TextView category,

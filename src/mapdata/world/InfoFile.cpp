@@ -1,5 +1,6 @@
 #include "mapdata/world/InfoFile.h"
 
+#include "mapdata/files/ProfileLines.h"
 #include "platform/Windows1252.h"
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 
 /// Information files: section "info", an entity's German name as the key, its description as the
 /// value, all in Windows-1252. The two characters "\n" in it stand for a line break. A description

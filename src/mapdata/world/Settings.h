@@ -41,7 +41,7 @@ inline constexpr std::array All = {Language, ExtrasFolder,  PicturesFolder,  Lan
 /// The setting's value in that settings file.
 [[nodiscard]] Text Read(const ProfileFile& settings, const Entry& entry);
 
-/// Whether the setting is "yes", whatever its letter case and the spaces around it.
+/// Whether the setting is "yes" in any letter case, with or without spaces around it.
 [[nodiscard]] bool IsYes(const ProfileFile& settings, const Entry& entry);
 
 }  // namespace Settings

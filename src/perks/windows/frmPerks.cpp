@@ -1,5 +1,6 @@
 #include "perks/windows/frmPerks.h"
 
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
 #include "platform/windows/WindowTitle.h"
 
@@ -8,6 +9,7 @@
 #include <QIcon>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItem>
 
 #include <map>
 
@@ -61,7 +63,8 @@ frmPerks::frmPerks(QWidget* parent, const Text& perksData, World& world)
   IniOps::Snapshot snapshot(world.cache);
   const auto lookup = LookupIn(snapshot, world.language);
   const Text name = PerkTree::PerkRegion(PerksData);
-  const PerkTree::Region region = {name, world.language.Shown(snapshot, name)};
+  const PerkTree::Region region = {name,
+                                   world.language.Shown(world.language.NameFile(snapshot), name)};
   tvPerks->header()->hide();
   tvPerks->setIconSize({PictureSize, PictureSize});
   Fill(PerkTree::Build(snapshot.IniSectionNames(PerksData), region, lookup));

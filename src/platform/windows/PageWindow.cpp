@@ -4,12 +4,16 @@
 #include "platform/NativePath.h"
 #include "platform/PageLimits.h"
 #include "platform/PosixFile.h"
+#include "platform/Text.h"
 #include "platform/windows/QtText.h"
 #include "platform/windows/WindowTitle.h"
 
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <optional>
+#include <utility>
 
 namespace {
 

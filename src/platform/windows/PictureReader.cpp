@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QIODevice>
 #include <QImageReader>
 
 #include <algorithm>

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QAudioDevice>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -17,6 +18,8 @@
 #include <QSoundEffect>
 #include <QStandardPaths>
 #include <QUrl>
+
+#include <utility>
 
 namespace {
 

@@ -2,10 +2,13 @@
 
 #include "platform/Desktop.h"
 #include "platform/PosixFile.h"
+#include "platform/Text.h"
 
 #include <map>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 class QSoundEffect;
 

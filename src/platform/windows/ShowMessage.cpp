@@ -4,6 +4,7 @@
 #include "platform/windows/WindowTitle.h"
 
 #include <QApplication>
+#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -12,9 +13,11 @@
 #include <QScreen>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace {
 
-// Pixels: what a text may take before it scrolls, and what a title bar holds beside its text.
+// Pixels: what a text may take before it scrolls, and what a title bar has beside its text.
 constexpr int LargestTextWidth = 500;
 constexpr int TitleBarButtons = 150;
 
@@ -33,7 +36,7 @@ void WidenToTitle(QMessageBox& box, QGridLayout& grid) {
   grid.addItem(new QSpacerItem(std::min(title, widest), 0), grid.rowCount(), 0, 1, -1);
 }
 
-// The label keeps the text, which a read-only view shows in its place.
+// The label keeps the text; a read-only view shows it in its place.
 void ShowInView(QLabel& label, QGridLayout& grid, int height) {
   auto* view = new QPlainTextEdit(label.text(), label.parentWidget());
   view->setReadOnly(true);

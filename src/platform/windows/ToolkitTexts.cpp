@@ -14,7 +14,7 @@ QLocale LocaleOf(const QString& languageName) {
   const auto named = [&](const QLocale& locale) {
     return locale.nativeLanguageName().compare(languageName, Qt::CaseInsensitive) == 0;
   };
-  // Most worlds are read in the first.
+  // Spares most worlds the way through all locales.
   const QLocale german(QLocale::German);
   if (named(german))
     return german;

@@ -1,5 +1,6 @@
 #include "search/windows/Display.h"
 
+#include "mapdata/files/IniOps.h"
 #include "mapdata/windows/MapView.h"
 
 namespace SearchResult {
@@ -12,7 +13,7 @@ void Display(size_t index, const Search::State& state, MapView& map, World& worl
                .CategoryKey = entity.Section,
                .at = {entity.X, entity.Y},
                .Name = entity.Name,
-               .ShownName = world.language.Shown(snapshot, entity.Name),
+               .ShownName = world.language.Shown(world.language.NameFile(snapshot), entity.Name),
                .Description = entity.Description,
                .Heading = Search::ResultHeading(state, snapshot, world.language)});
 }

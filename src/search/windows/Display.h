@@ -1,8 +1,9 @@
 #pragma once
 
 #include "app/World.h"
-#include "search/EntityCache.h"
 #include "search/Search.h"
+
+#include <cstddef>
 
 class MapView;
 

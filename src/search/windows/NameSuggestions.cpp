@@ -11,10 +11,11 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int MostVisibleRows = 12;
+constexpr int MaximumVisibleRows = 12;
 
 }  // namespace
 
@@ -23,7 +24,7 @@ NameSuggestions::NameSuggestions(QLineEdit& box, std::function<std::vector<Text>
   // Not the box's own completer, which would open with every letter.
   list_->setWidget(&box);
   list_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-  list_->setMaxVisibleItems(MostVisibleRows);
+  list_->setMaxVisibleItems(MaximumVisibleRows);
   connect(list_, qOverload<const QString&>(&QCompleter::activated), &box, &QLineEdit::setText);
   connect(&box, &QLineEdit::textEdited, this, [this] {
     if (list_->popup()->isVisible())

@@ -1,9 +1,13 @@
 #include "search/windows/SearchCommands.h"
 
+#include "mapdata/files/IniOps.h"
 #include "mapdata/windows/MapView.h"
 #include "platform/windows/ShowMessage.h"
+#include "search/EntityCache.h"
 #include "search/windows/Display.h"
 #include "search/windows/frmFind.h"
+
+#include <variant>
 
 SearchCommands::SearchCommands(MapView& map, World& world, Search::State& state)
     : map_(map), world_(world), state_(state) {}

@@ -68,7 +68,7 @@ TEST(Viewport, IsNeverLeftWithoutAPicture) {
                  : i % 7 == 0 ? viewport.Resized({12, 12}, {size.y, size.x})
                               : viewport.ZoomedAt({any(), any()}, factors[random() % 8]);
       ASSERT_GE(viewport.Scale(), 1);
-      ASSERT_LE(viewport.Scale(), Viewport::MostScale);
+      ASSERT_LE(viewport.Scale(), Viewport::MaximumScale);
       ExpectFilled(viewport);
     }
   }

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <algorithm>
+#include <cmath>
 
 namespace Map {
 
@@ -32,7 +33,7 @@ struct Tone {
 
  private:
   [[nodiscard]] static int part(double value) {
-    return static_cast<int>(std::clamp(value, 0.0, 255.0) + 0.5);
+    return static_cast<int>(std::lround(std::clamp(value, 0.0, 255.0)));
   }
 };
 

@@ -1,4 +1,4 @@
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 
 #include "platform/ProgramInfo.h"
 #include "support/TemporaryFolder.h"
@@ -15,7 +15,7 @@ void WriteRegions(const TemporaryFolder& folder) {
 
 }  // namespace
 
-TEST(StartUp, NamesTheEdition) {
+TEST(ProgramTexts, NamesTheEdition) {
   struct {
     std::string special;
     Text edition;
@@ -30,13 +30,13 @@ TEST(StartUp, NamesTheEdition) {
   for (const auto& test : cases) {
     const TemporaryFolder folder;
     folder.Write("orvalis.ini", "[special]\r\n" + test.special);
-    EXPECT_EQ(StartUp::Caption(World(folder.Folder()).edition),
+    EXPECT_EQ(ProgramTexts::Caption(World(folder.Folder()).edition),
               Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", test.edition))
         << test.special;
   }
 }
 
-TEST(StartUp, NamesTheFirstMissingFileAndOnlyThat) {
+TEST(World, NamesTheFirstMissingFileAndOnlyThat) {
   const TemporaryFolder folder;
   const World world(folder.Folder());
   WriteRegions(folder);
@@ -49,14 +49,14 @@ TEST(StartUp, NamesTheFirstMissingFileAndOnlyThat) {
   EXPECT_EQ(world.MissingFile(), folder.Path(u"arvenna.jpg"));
 }
 
-TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
+TEST(ProgramTexts, TellsOfAMissingFileInTheChosenLanguage) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\nlang=sprachen\r\n[general]\r\nlanguage= Test \r\n");
   const auto message = [&] {
     World world(folder.Folder());
     const Text chosen = world.ChosenLanguage();
     EXPECT_TRUE(world.language.IsGerman()) << "opening chooses no language";
-    return StartUp::FileNotFound(world, chosen, u"/x/arvenna.data");
+    return ProgramTexts::FileNotFound(world, chosen, u"/x/arvenna.data");
   };
   EXPECT_EQ(message().caption, u"Fehler");
   EXPECT_EQ(message().text,
@@ -68,7 +68,7 @@ TEST(StartUp, TellsOfAMissingFileInTheChosenLanguage) {
   EXPECT_EQ(message().text, u"/x/arvenna.data\r\nis gone (/x/arvenna.data)");
 }
 
-TEST(StartUp, TakesFoldersFromTheSettings) {
+TEST(World, TakesFoldersFromTheSettings) {
   const TemporaryFolder folder;
   folder.Write("orvalis.ini", "[folders]\r\npics=Bilder\r\nextras=\r\n");
   const World world(folder.Folder());

@@ -1,13 +1,16 @@
-#include "app/StartUp.h"
+#include "app/ProgramTexts.h"
 
+#include "i18n/LOCAL.h"
+#include "i18n/TextRow.h"
 #include "i18n/WindowTexts.h"
+#include "mapdata/files/IniOps.h"
 #include "platform/NativePath.h"
 #include "platform/ProgramInfo.h"
 
 using Texts::Join;
 using WindowTexts::Row;
 
-namespace StartUp {
+namespace ProgramTexts {
 
 Text Caption(const Edition& edition) {
   return Join(ProgramInfo::Title, u" ", ProgramInfo::Version, u" ", edition.text);
@@ -23,4 +26,4 @@ Message FileNotFound(World& world, const Text& languageFolder, const Text& missi
           language.Lookup(files, Row(u"ui", u"FileNotFoundCaption"))};
 }
 
-}  // namespace StartUp
+}  // namespace ProgramTexts
