@@ -11,7 +11,8 @@ struct Sight {
   Text key;
   /// Whether the key is a name, and told of because an entity bears it.
   bool isOfName = false;
-  auto operator<=>(const Sight&) const = default;
+  // The comparison with 0 within is the compiler's own.
+  auto operator<=>(const Sight&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /// Everything that all readers give of a world, in words: what is compared before and after a

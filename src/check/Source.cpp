@@ -57,10 +57,11 @@ void Source::CloseSections() {
     if (section->header.starts_with('['))
       listEnd = section->line;
   }
-  for (size_t number = 0; number < sections_.size(); ++number) {
-    Section& section = sections_[number];
+  size_t number = 0;
+  for (Section& section : sections_) {
     section.found = names_.emplace(Words::Folded(section.name), number).second;
     section.listed = headers_.emplace(section.header, number).second;
+    ++number;
   }
 }
 
