@@ -64,8 +64,7 @@ void DataFile::append(std::vector<Place>& places, const Section& section) const 
     }
     std::optional<Terrain::Point> at = Position(value);
     if (const Section* target = at ? nullptr : find(LinkTarget(value))) {
-      const auto entry = std::ranges::find_if(
-          target->entries, [&key](const auto& candidate) { return candidate.first == key; });
+      const auto entry = std::ranges::find(target->entries, key, &Entry::first);
       at = entry == target->entries.end() ? std::nullopt : Position(entry->second);
     }
     if (at) {

@@ -34,9 +34,11 @@ class DataFile {
   [[nodiscard]] std::vector<std::string> values() const;
 
  private:
+  using Entry = std::pair<std::string, std::string>;
+
   struct Section {
     std::string name;
-    std::vector<std::pair<std::string, std::string>> entries;
+    std::vector<Entry> entries;
   };
 
   [[nodiscard]] const Section* find(std::string_view name) const;

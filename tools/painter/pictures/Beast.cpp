@@ -223,8 +223,9 @@ void PaintReptileSnout(Canvas& canvas, const Beast& beast) {
   canvas.line(Rounded({{32, 72}, {42, 77}, {50, 75}, {58, 77}, {68, 72}, {50, 79}}), dark.color(),
               1.4);
   for (int scale = 0; scale < 14; ++scale) {
-    canvas.line(Oval({36 + (scale % 5) * 7.0, 28 + (scale / 5) * 6.0}, 2.2, 1.5), dark.color(110),
-                0.6);
+    const int column = scale % 5;
+    const int row = scale / 5;
+    canvas.line(Oval({36 + column * 7.0, 28 + row * 6.0}, 2.2, 1.5), dark.color(110), 0.6);
   }
 }
 

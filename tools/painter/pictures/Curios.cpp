@@ -133,7 +133,7 @@ void Mask(Canvas& canvas) {
   canvas.flat(Rounded({{30, 42}, {38, 37}, {45, 43}, {38, 47}}), Ink.color());
   canvas.flat(Mirrored(Rounded({{30, 42}, {38, 37}, {45, 43}, {38, 47}})), Ink.color());
   canvas.line(QPointF(50, 44), QPointF(48, 60), Ink.color(120), 1.4);
-  for (double x = 38; x < 64; x += 5) {
+  for (int x = 38; x < 64; x += 5) {
     canvas.line(QPointF(x, 68), QPointF(x + 1, 76), Wine.color(), 1.6);
   }
   canvas.line(QPointF(36, 72), QPointF(64, 72), Wine.color(), 1.4);

@@ -196,7 +196,7 @@ void TrialBridge(Canvas& canvas, Random& random) {
   Columns(canvas, 4, 60, 4, false, random);
   canvas.flat(Angular({{0, 58}, {100, 58}, {100, 100}, {0, 100}}), Ink.color(235));
   canvas.body(Angular({{44, 56}, {56, 56}, {72, 100}, {28, 100}}), Masonry.lit(0.9));
-  for (double y = 62; y < 98; y += 7) {
+  for (int y = 62; y < 98; y += 7) {
     canvas.line(QPointF(50 - (y - 34) * 0.3, y), QPointF(50 + (y - 34) * 0.3, y), Ink.color(90), 1);
   }
 }

@@ -59,7 +59,8 @@ void Tower(Canvas& canvas, QPointF foot, double half, double tall, bool pointed)
 void Wall(Canvas& canvas, double left, double right, double top, double bottom) {
   canvas.body(Angular({{left, top}, {right, top}, {right, bottom}, {left, bottom}}),
               Masonry.lit(0.92));
-  for (double x = left; x < right - 4; x += 8) {
+  for (int stone = 0; left + stone * 8 < right - 4; ++stone) {
+    const double x = left + stone * 8;
     canvas.body(Angular({{x, top - 4}, {x + 4.4, top - 4}, {x + 4.4, top + 0.5}, {x, top + 0.5}}),
                 Masonry, 0.6);
   }

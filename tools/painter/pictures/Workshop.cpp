@@ -155,7 +155,9 @@ void Waterskin(Canvas& canvas) {
               {112, 128, 78});
   canvas.body(Angular({{50, 10}, {64, 12}, {63, 24}, {50, 23}}), Wood);
   for (int scale = 0; scale < 12; ++scale) {
-    canvas.line(Oval({34 + scale % 4 * 9.0, 48 + scale / 4 * 11.0}, 3.6, 2.6), Ink.color(90), 0.8);
+    const int column = scale % 4;
+    const int row = scale / 4;
+    canvas.line(Oval({34 + column * 9.0, 48 + row * 11.0}, 3.6, 2.6), Ink.color(90), 0.8);
   }
 }
 
