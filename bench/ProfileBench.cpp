@@ -75,6 +75,29 @@ void LookUpAmongSigns(benchmark::State& state) {
 BENCHMARK(LookUpAmongOrdinaryNames)->Repetitions(Rounds);
 BENCHMARK(LookUpAmongSigns)->Repetitions(Rounds);
 
+// The names of a million keys whose lines end so.
+void ListKeys(benchmark::State& state, const std::string& lineEnd) {
+  std::string bytes = "[a]" + lineEnd;
+  for (int key = 0; key < 1'000'000; ++key)
+    bytes += "k=1" + lineEnd;
+  for (auto _ : state) {
+    const ProfileFile file{std::string(bytes)};
+    benchmark::DoNotOptimize(file.KeyNames("a"));
+  }
+}
+
+void ListKeysOfLines(benchmark::State& state) {
+  ListKeys(state, "\n");
+}
+
+// As the oldest editors ended them: nothing may look for a "\n" behind every line.
+void ListKeysOfOldLines(benchmark::State& state) {
+  ListKeys(state, "\r");
+}
+
+BENCHMARK(ListKeysOfLines)->Repetitions(Rounds);
+BENCHMARK(ListKeysOfOldLines)->Repetitions(Rounds);
+
 void ReadWithQSettings(benchmark::State& state) {
   // QSettings shares what it has read until nobody holds it, and then keeps it for a while.
   for (auto _ : state) {
@@ -139,6 +162,7 @@ int main(int argc, char** argv) {
   int onlyName = 1;
   const QGuiApplication forPictures(onlyName, argv);
   const Ratios::Ratio ratios[] = {{"LookUpAmongSigns", "LookUpAmongOrdinaryNames", 2},
+                                  {"ListKeysOfOldLines", "ListKeysOfLines", 2},
                                   {"ReadWithIniOps", "ReadWithGKeyFile", 1},
                                   {"ReadWithIniOps", "ReadWithInih", 1},
                                   {"ReadWithIniOps", "ReadWithQSettings", 1}};

@@ -1,25 +1,18 @@
 #include "app/ProgramTexts.h"
 
 #include "platform/ProgramInfo.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-void WriteRegions(const TemporaryFolder& folder) {
-  for (const RegionRow& region : Regions)
-    for (const TextView extension : {u".data", u".jpg"})
-      folder.Write(NativePath::ToBytes(Texts::Join(region.stem, extension)), "x");
-}
+class OpenedWorld : public testing::Test, protected TestWorld {};
 
 }  // namespace
 
-TEST(ProgramTexts, NamesTheEdition) {
-  struct {
-    std::string special;
-    Text edition;
-  } const cases[] = {
+TEST_F(OpenedWorld, NamesTheEdition) {
+  const std::pair<std::string, TextView> cases[] = {
       {"", u""},
       {"NoExtras= YES \r\n", u"Lite"},
       {"NoLang=yes\r\n", u" "},
@@ -27,19 +20,18 @@ TEST(ProgramTexts, NamesTheEdition) {
       {"NoExtras=1\r\nNoLang=ja\r\nLocalizedString=English\r\n", u""},
   };
 
-  for (const auto& test : cases) {
-    const TemporaryFolder folder;
-    folder.Write("orvalis.ini", "[special]\r\n" + test.special);
+  for (const auto& [special, edition] : cases) {
+    folder.Write("orvalis.ini", "[special]\r\n" + special);
     EXPECT_EQ(ProgramTexts::Caption(World(folder.Folder()).edition),
-              Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", test.edition))
-        << test.special;
+              Texts::Join(u"Orvalis ", ProgramInfo::Version, u" ", edition))
+        << special;
   }
 }
 
-TEST(World, NamesTheFirstMissingFileAndOnlyThat) {
-  const TemporaryFolder folder;
-  const World world(folder.Folder());
-  WriteRegions(folder);
+TEST_F(OpenedWorld, NamesTheFirstMissingFileAndOnlyThat) {
+  for (const RegionRow& region : Regions)
+    for (const TextView extension : {u".data", u".jpg"})
+      Write(NativePath::ToBytes(Texts::Join(region.stem, extension)), u"x");
   EXPECT_FALSE(world.MissingFile()) << "descriptions are not required";
   folder.Write("arvenna.jpg", "");
   EXPECT_EQ(world.MissingFile(), folder.Path(u"arvenna.jpg"));
@@ -49,14 +41,13 @@ TEST(World, NamesTheFirstMissingFileAndOnlyThat) {
   EXPECT_EQ(world.MissingFile(), folder.Path(u"arvenna.jpg"));
 }
 
-TEST(ProgramTexts, TellsOfAMissingFileInTheChosenLanguage) {
-  const TemporaryFolder folder;
+TEST_F(OpenedWorld, TellsOfAMissingFileInTheChosenLanguage) {
   folder.Write("orvalis.ini", "[folders]\r\nlang=sprachen\r\n[general]\r\nlanguage= Test \r\n");
   const auto message = [&] {
-    World world(folder.Folder());
-    const Text chosen = world.ChosenLanguage();
-    EXPECT_TRUE(world.language.IsGerman()) << "opening chooses no language";
-    return ProgramTexts::FileNotFound(world, chosen, u"/x/arvenna.data");
+    World opened(folder.Folder());
+    const Text chosen = opened.ChosenLanguage();
+    EXPECT_TRUE(opened.language.IsGerman()) << "opening chooses no language";
+    return ProgramTexts::FileNotFound(opened, chosen, u"/x/arvenna.data");
   };
   EXPECT_EQ(message().caption, u"Fehler");
   EXPECT_EQ(message().text,
@@ -68,13 +59,12 @@ TEST(ProgramTexts, TellsOfAMissingFileInTheChosenLanguage) {
   EXPECT_EQ(message().text, u"/x/arvenna.data\r\nis gone (/x/arvenna.data)");
 }
 
-TEST(World, TakesFoldersFromTheSettings) {
-  const TemporaryFolder folder;
+TEST_F(OpenedWorld, TakesFoldersFromTheSettings) {
   folder.Write("orvalis.ini", "[folders]\r\npics=Bilder\r\nextras=\r\n");
-  const World world(folder.Folder());
-  EXPECT_EQ(world.paths.picturesFolder, folder.Path(u"Bilder/"));
-  EXPECT_EQ(world.paths.extrasFolder, folder.Path(u"EXTRAS/"));
-  EXPECT_EQ(world.paths.languageRoot, folder.Path(u"LANG/"));
-  EXPECT_EQ(world.paths.programFolder, folder.Path(u"")) << "folders end with a separator";
-  EXPECT_EQ(world.paths.Of(Region::Ancestors).picture, folder.Path(u"ancestors.jpg"));
+  const auto paths = World(folder.Folder()).paths;
+  EXPECT_EQ(paths.picturesFolder, folder.Path(u"Bilder/"));
+  EXPECT_EQ(paths.extrasFolder, folder.Path(u"EXTRAS/"));
+  EXPECT_EQ(paths.languageRoot, folder.Path(u"LANG/"));
+  EXPECT_EQ(paths.programFolder, folder.Path(u"")) << "folders end with a separator";
+  EXPECT_EQ(paths.Of(Region::Ancestors).picture, folder.Path(u"ancestors.jpg"));
 }

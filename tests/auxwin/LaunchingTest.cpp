@@ -3,9 +3,7 @@
 #include "auxwin/Addresses.h"
 #include "auxwin/Documents.h"
 #include "auxwin/WebCommands.h"
-#include "platform/NativePath.h"
-#include "support/RecordingDesktop.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -13,40 +11,31 @@ using Addresses::Kind;
 
 namespace {
 
-struct Classified {
-  const char* what;
-  Text uri;
-  Kind kind;
-  std::string address;
-};
-
-// A program folder with a language of its own, and the state of a player who chose it.
-class Documented : public testing::Test {
+class Documented : public testing::Test, protected TestWorld {
  protected:
-  void Choose(TextView name) {
-    const Text file = LOCAL::FileOfLanguage(world.paths.languageRoot, name, u".lng");
-    IniOps::Snapshot files(world.cache);
-    world.language.Choose(files, name == LOCAL::German ? Text(LOCAL::BuiltIn) : file);
+  // What a click on the command for help opens.
+  void ExpectHelp(const std::vector<std::string>& calls) {
+    commands.miHelp_Click();
+    ExpectCalls(calls);
   }
 
-  void ExpectCalls(const std::vector<std::string>& calls) {
-    EXPECT_EQ(desktop.calls, calls);
-    desktop.calls.clear();
+  void ExpectReadMe(const std::vector<std::string>& calls) {
+    commands.miReadMe_Click();
+    ExpectCalls(calls);
   }
 
-  TemporaryFolder folder;
-  World world{folder.Folder()};
-  RecordingDesktop desktop;
-  Launching launching{world.paths, desktop};
   WebCommands commands{world, launching};
 };
-
-constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
 
 }  // namespace
 
 TEST(Addresses, OnlyTheWebMailAndPathsPass) {
-  const Classified table[] = {
+  const struct {
+    const char* what;
+    Text uri;
+    Kind kind;
+    std::string address;
+  } table[] = {
       {"as it stands", u"http://a.example/b?c=%20d#e", Kind::Web, "http://a.example/b?c=%20d#e"},
       {"letter case", u"HTTPS://A.example", Kind::Web, "HTTPS://A.example"},
       {"blanks around", u"  www.a.example ", Kind::Web, "http://www.a.example"},
@@ -74,7 +63,8 @@ TEST(Addresses, OnlyTheWebMailAndPathsPass) {
       {"very long", u"http://" + Text(10'000, u'a'), Kind::Web,
        "http://" + std::string(10'000, 'a')},
   };
-  for (const Classified& row : table) {
+
+  for (const auto& row : table) {
     const Addresses::Target target = Addresses::Classify(row.uri);
     EXPECT_EQ(target.kind, row.kind) << row.what;
     EXPECT_EQ(target.address, row.address) << row.what;
@@ -96,57 +86,45 @@ TEST(Documents, TheTextBetweenTheFirstTwoPointsChoosesTheViewer) {
 TEST_F(Documented, HelpFallsBackByTheResultOfOpening) {
   folder.Write("orvalis.chm", "x");
   folder.Write("LANG/English/orvalis.chm", "x");
-  desktop.viewers.insert(HelpFiles);
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("orvalis.chm")});
+  desktop.viewers.insert("application/vnd.ms-htmlhelp");
+  ExpectHelp({"open " + folder.Native("orvalis.chm")});
   Choose(u"English");
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.chm")});
+  ExpectHelp({"open " + folder.Native("LANG/English/orvalis.chm")});
   desktop.result = Desktop::Refused;
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.chm"),
-               "open " + folder.Native("orvalis.chm")});
+  ExpectHelp({"open " + folder.Native("LANG/English/orvalis.chm"),
+              "open " + folder.Native("orvalis.chm")});
   desktop.result = Desktop::Started;
   Choose(u"Français");
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("orvalis.chm")});
+  ExpectHelp({"open " + folder.Native("orvalis.chm")});
 }
 
 TEST_F(Documented, AHelpFileIsItsPageWhereNothingShowsHelpFiles) {
   folder.Write("orvalis.html", "<p>Hilfe");
   folder.Write("LANG/English/orvalis.chm", "x");
   Choose(u"English");
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("orvalis.html")});
+  ExpectHelp({"open " + folder.Native("orvalis.html")});
   folder.Write("LANG/English/orvalis.html", "<p>Help");
-  commands.miHelp_Click();
-  ExpectCalls({"open " + folder.Native("LANG/English/orvalis.html")});
+  ExpectHelp({"open " + folder.Native("LANG/English/orvalis.html")});
   desktop.viewers.clear();
-  commands.miHelp_Click();
-  ExpectCalls({"page " + folder.Native("LANG/English/orvalis.html")});
+  ExpectHelp({"page " + folder.Native("LANG/English/orvalis.html")});
 }
 
 TEST_F(Documented, ReadMeIsChosenByWhatExists) {
   folder.Write("README.HTML", "<p>Lies mich");
-  commands.miReadMe_Click();
-  ExpectCalls({"open " + folder.Native("README.HTML")});
+  ExpectReadMe({"open " + folder.Native("README.HTML")});
   EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(folder.Native(".")));
   Choose(u"English");
   folder.Write("LANG/English/readme.html", "");
-  commands.miReadMe_Click();
-  ExpectCalls({"open " + folder.Native("README.HTML")});
+  ExpectReadMe({"open " + folder.Native("README.HTML")});
   std::filesystem::remove(folder.Native("LANG/English/readme.html"));
   std::filesystem::create_directory(folder.Native("LANG/English/readme.html"));
-  commands.miReadMe_Click();
-  ExpectCalls({"open " + folder.Native("README.HTML")});
+  ExpectReadMe({"open " + folder.Native("README.HTML")});
   std::filesystem::remove(folder.Native("LANG/English/readme.html"));
   folder.Write("LANG/English/readme.html", "<p>Read me");
-  commands.miReadMe_Click();
-  ExpectCalls({"open " + folder.Native("LANG/English/readme.html")});
+  ExpectReadMe({"open " + folder.Native("LANG/English/readme.html")});
   std::filesystem::remove(folder.Native("README.HTML"));
   Choose(u"Deutsch");
-  commands.miReadMe_Click();
-  ExpectCalls({});
+  ExpectReadMe({});
 }
 
 TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
@@ -156,19 +134,20 @@ TEST_F(Documented, NothingOutsideItsFoldersIsOpened) {
   ProgramPaths paths = world.paths;
   paths.programFolder = folder.Path(u"prog/");
   Launching below(paths, desktop);
-  EXPECT_EQ(below.ShellExec(folder.Path(u"secret.html")), Desktop::Refused);
-  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/../secret.html")), Desktop::Refused);
-  EXPECT_EQ(below.ShowPage(folder.Path(u"LANG/../secret.html")), Desktop::Refused);
-  EXPECT_EQ(below.ShowPage(folder.Path(u"prog/..\\secret.html")), Desktop::Refused);
-  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/none\\..\\..\\secret.html")), Desktop::FileMissing);
-  EXPECT_EQ(below.ShellExec(folder.Path(u"LANG\\English\\..\\..\\secret.html")), Desktop::Refused);
-  EXPECT_EQ(below.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
-  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/none.pdf")), Desktop::FileMissing);
+  const auto open = [&](TextView name) { return below.ShellExec(folder.Path(name)); };
+  for (const TextView outside :
+       {u"secret.html", u"prog/../secret.html", u"LANG\\English\\..\\..\\secret.html"})
+    EXPECT_EQ(open(outside), Desktop::Refused);
+  for (const TextView outside : {u"LANG/../secret.html", u"prog/..\\secret.html"})
+    EXPECT_EQ(below.ShowPage(folder.Path(outside)), Desktop::Refused);
   EXPECT_EQ(below.StartProgram(folder.Path(u"secret.html")), Desktop::Refused);
+  EXPECT_EQ(open(u"prog/none\\..\\..\\secret.html"), Desktop::FileMissing);
+  EXPECT_EQ(open(u"prog/none.pdf"), Desktop::FileMissing);
+  EXPECT_EQ(below.ShellExec(u"orvalis.chm"), Desktop::FileMissing);
   EXPECT_TRUE(desktop.calls.empty());
-  EXPECT_EQ(below.ShellExec(folder.Path(u"LANG\\english\\readme.html")), Desktop::Started);
+  EXPECT_EQ(open(u"LANG\\english\\readme.html"), Desktop::Started);
   std::filesystem::create_symlink(folder.Native("secret.html"), folder.Native("prog/linked.html"));
-  EXPECT_EQ(below.ShellExec(folder.Path(u"prog/linked.html")), Desktop::Started);
+  EXPECT_EQ(open(u"prog/linked.html"), Desktop::Started);
 }
 
 TEST_F(Documented, AddressesComeFromTheSettingsReadAtEachClick) {

@@ -37,6 +37,13 @@ std::string Encoded(TextView text) {
   return Windows1252::Encode(text).value();
 }
 
+Lines NarrowAll(const std::vector<Text>& texts) {
+  Lines lines;
+  for (const Text& text : texts)
+    lines.push_back(Narrow(text));
+  return lines;
+}
+
 std::string Shown(const EntityFile::Position& position) {
   return std::to_string(position.x) + "," + std::to_string(position.y);
 }
@@ -54,25 +61,15 @@ class Program {
   Lines Markers() {
     Lines lines;
     for (const auto& marker : EntityFile::ReadMarkers(Data(), Section(), files_, language_, 81))
-      lines.push_back(Narrow(marker.disabled ? TextView(marker.key) : TextView(marker.name)) +
-                      " -> " + (marker.disabled ? "nothing" : Shown(marker.position)) +
-                      (marker.highlighted && !marker.disabled ? " green" : ""));
+      lines.push_back(marker.disabled ? Narrow(marker.key) + " -> nothing"
+                                      : Narrow(marker.name) + " -> " + Shown(marker.position) +
+                                            (marker.highlighted ? " green" : ""));
     return lines;
   }
 
-  Lines List() {
-    Lines lines;
-    for (const Text& name : EntityFile::ReadNames(Data(), Section(), files_, language_))
-      lines.push_back(Narrow(name));
-    return lines;
-  }
+  Lines List() { return NarrowAll(EntityFile::ReadNames(Data(), Section(), files_, language_)); }
 
-  Lines Sections() {
-    Lines lines;
-    for (const Text& name : files_.IniSectionNames(File()))
-      lines.push_back(Narrow(name));
-    return lines;
-  }
+  Lines Sections() { return NarrowAll(files_.IniSectionNames(File())); }
 
   Lines Caption() { return {Narrow(ProgramTexts::Caption(world_.edition))}; }
 
@@ -220,8 +217,4 @@ TEST_P(Examples, DoWhatThePageSays) {
   EXPECT_GT(shown, 5U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Manuals, Examples, testing::Values("map-authors.md", "translators.md"),
-                         [](const auto& page) {
-                           return page.index == 0 ? std::string("MapAuthors")
-                                                  : std::string("Translators");
-                         });
+INSTANTIATE_TEST_SUITE_P(Manuals, Examples, testing::Values("map-authors.md", "translators.md"));

@@ -18,10 +18,9 @@ std::string Content(const fs::path& page) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void ExpectThereAll(const fs::path& page, const fs::path& base, const std::regex& named) {
-  const std::string content = Content(page);
-  for (std::sregex_iterator at(content.begin(), content.end(), named), end; at != end; ++at)
-    EXPECT_TRUE(fs::exists(base / (*at)[1].str())) << page << " names " << (*at)[1];
+// Every place in the page that the pattern matches.
+std::vector<std::smatch> All(const std::string& content, const std::regex& pattern) {
+  return {std::sregex_iterator(content.begin(), content.end(), pattern), {}};
 }
 
 // The anchor that a heading gets: lower case, no punctuation, hyphens for blanks.
@@ -48,22 +47,19 @@ class Pages : public testing::TestWithParam<const char*> {};
 }  // namespace
 
 TEST_P(Pages, NameOnlyWhatIsThere) {
-  static const std::regex link(R"(\]\(([^)#:]+\.(?:md|jpg)|LICENSE)[)#])");
+  static const std::regex link(R"(\]\(([^)#:]+\.(?:md|jpg)|LICENSE)(?:#([^)]+))?\))");
   static const std::regex path(
       R"(`((?:src|tests|docs|world|bench|tools|packaging|scripts|fuzz)/[^`* ]*)[ `])");
   const fs::path page = Repository / GetParam();
-  ASSERT_GT(Content(page).size(), 500U);
-  ExpectThereAll(page, page.parent_path(), link);
-  ExpectThereAll(page, Repository, path);
-}
-
-TEST_P(Pages, LinkToHeadingsThatAreThere) {
-  static const std::regex link(R"(\]\(([^)#:]+\.md)#([^)]+)\))");
-  const fs::path page = Repository / GetParam();
   const std::string content = Content(page);
-  for (std::sregex_iterator at(content.begin(), content.end(), link), end; at != end; ++at)
-    EXPECT_TRUE(HasAnchor(page.parent_path() / (*at)[1].str(), (*at)[2]))
-        << page << " links to " << (*at)[2];
+  ASSERT_GT(content.size(), 500U);
+  for (const std::smatch& named : All(content, path))
+    EXPECT_TRUE(fs::exists(Repository / named[1].str())) << page << " names " << named[1];
+  for (const std::smatch& linked : All(content, link)) {
+    const fs::path target = page.parent_path() / linked[1].str();
+    EXPECT_TRUE(fs::exists(target)) << page << " links to " << linked[1];
+    EXPECT_TRUE(!linked[2].matched || HasAnchor(target, linked[2])) << page << ": " << linked[2];
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Repository, Pages,

@@ -92,6 +92,19 @@ class Reader:
         return [window for window in children(self.application)
                 if window.get_role_name() in ("dialog", "alert") and "showing" in states(window)]
 
+    def open(self, what, *keys):
+        self.program.keys(*keys)
+        return self.opened(what)
+
+    def close(self, what, *keys):
+        self.program.keys(*keys)
+        wait_for(lambda: not self.windows(), "the end of " + what, 30)
+
+    def search(self, term):
+        self.open("the search", "ctrl+f")
+        self.program.type(term)
+        self.program.keys("Return")
+
     def opened(self, what):
         window = wait_for(lambda: next(iter(self.windows()), None), what, 30)
         assert window.get_name().strip(), what + " has no caption"
@@ -101,9 +114,6 @@ class Reader:
     def tool_tip(self):
         return next((tip.get_name() for tip in children(self.application)
                      if tip.get_role_name() == "tool tip" and "showing" in states(tip)), None)
-
-    def closed(self, what):
-        wait_for(lambda: not self.windows(), "the end of " + what, 30)
 
     def map(self):
         view = next(child for child in children(self.main) if child.get_role_name() == "filler")

@@ -29,12 +29,11 @@ def wait_for(condition, what, seconds=10):
     raise AssertionError("waited in vain for " + what)
 
 
-class Screen:
-    """The pixels of the whole screen."""
+class Picture:
+    """The pixels that a command writes as a portable pixmap."""
 
-    def __init__(self):
-        data = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"], check=True,
-                              capture_output=True).stdout
+    def __init__(self, *command):
+        data = subprocess.run(command, check=True, capture_output=True).stdout
         header, size, depth, self.pixels = data.split(b"\n", 3)
         assert header == b"P6" and depth == b"255"
         self.width, self.height = map(int, size.split())
@@ -53,6 +52,13 @@ class Screen:
         return [self.pixels[((top + y) * self.width + left) * 3:][:width * 3] for y in range(height)]
 
 
+class Screen(Picture):
+    """The pixels of the whole screen."""
+
+    def __init__(self):
+        super().__init__("import", "-window", "root", "-depth", "8", "ppm:-")
+
+
 class Program:
     """A copy of the program folder, with the program running in it."""
 
@@ -68,9 +74,31 @@ class Program:
         if started:
             self.start()
 
+    def __enter__(self):
+        return self
+
+    def __exit__(self, kind, *_):
+        """Ends the program as a user does, unless something failed; cleans up in any case."""
+        try:
+            if kind is None:
+                self.keys("ctrl+w")
+                assert self.process.wait(10) == 0
+        finally:
+            self.end()
+
+    def end(self):
+        if self.running():
+            self.process.terminate()
+            self.process.wait(10)
+        self.manager.terminate()
+        self.manager.wait(10)
+        shutil.rmtree(self.home)
+
+    def path(self, *parts):
+        return os.path.join(self.folder, *parts)
+
     def start(self):
-        self.process = subprocess.Popen([os.path.join(self.folder, "orvalis")], env=self.environment,
-                                        stderr=subprocess.DEVNULL)
+        self.process = subprocess.Popen([self.path("orvalis")], env=self.environment, stderr=subprocess.DEVNULL)
         self.window = wait_for(lambda: self.find("^Orvalis "), "the main window")
         xdotool("windowfocus", "--sync", self.window)
         self.menu_height = self.geometry()[3] - START_HEIGHT
@@ -131,20 +159,6 @@ class Program:
     def running(self):
         return self.process is not None and self.process.poll() is None
 
-    def quit(self):
-        """Ends the program as a user does."""
-        self.keys("ctrl+w")
-        self.process.wait(10)
-        assert self.process.returncode == 0
-
-    def end(self):
-        if self.running():
-            self.process.terminate()
-            self.process.wait(10)
-        self.manager.terminate()
-        self.manager.wait(10)
-        shutil.rmtree(self.home)
-
 
 def read_section(path, section):
     """The key lines of a section of a profile file, in file order."""
@@ -183,7 +197,7 @@ def marker_centre(position, map_size, offset=MARKER_OFFSET):
 def missing_markers(program, data, section):
     """The entities of a category whose marker is not where it should be on the screen."""
     screen = Screen()
-    return [key for key, *position in positions(os.path.join(program.folder, data), section)
+    return [key for key, *position in positions(program.path(data), section)
             if not screen.marked(*program.spot(position))]
 
 

@@ -13,21 +13,13 @@ CATEGORIES = [
 ]
 
 
-def main():
-    program = Program(sys.argv[1])
-    try:
-        assert 10 < program.menu_height < 40, f"the map is not {START_HEIGHT} pixels high"
-        for size in ((1024, START_HEIGHT + program.menu_height), (1500, 1000), (700, 500)):
-            program.resize(*size)
-            for data, section, keys in CATEGORIES:
-                program.keys(*keys)
-                missing = missing_markers(program, data, section)
-                assert not missing, f"{data} [{section}] at {size}: {missing}"
-        program.resize(1200, 900)
-        assert not missing_markers(program, "ancestors.data", "orcs"), "after a resize"
-        program.quit()
-    finally:
-        program.end()
-
-
-main()
+with Program(sys.argv[1]) as program:
+    assert 10 < program.menu_height < 40, f"the map is not {START_HEIGHT} pixels high"
+    for size in ((1024, START_HEIGHT + program.menu_height), (1500, 1000), (700, 500)):
+        program.resize(*size)
+        for data, section, keys in CATEGORIES:
+            program.keys(*keys)
+            missing = missing_markers(program, data, section)
+            assert not missing, f"{data} [{section}] at {size}: {missing}"
+    program.resize(1200, 900)
+    assert not missing_markers(program, "ancestors.data", "orcs"), "after a resize"

@@ -1,6 +1,5 @@
 """Starts on a system of no language, picks English by keyboard, switches through all languages."""
 
-import os
 import sys
 
 import accessibility
@@ -18,20 +17,18 @@ def texts(program, language, section):
     if language == "Deutsch":
         found = [german for _, _, german, *_ in rows]
     else:
-        path = os.path.join(program.folder, "LANG", language, language + ".lng")
-        translated = read_section(path, section)
+        translated = read_section(program.path("LANG", language, language + ".lng"), section)
         found = [translated[key] for key, *_ in rows]
     return [text.replace("&", "").strip() for text in found]
 
 
 def stored_language(program):
-    return read_section(os.path.join(program.folder, "orvalis.ini"), "general")["language"]
+    return read_section(program.path("orvalis.ini"), "general")["language"]
 
 
 def choose(program, reader, language):
     reader.opened("the languages")
-    program.keys("Home", *["Down"] * ROWS[language], "Return")
-    reader.closed("the languages")
+    reader.close("the languages", "Home", *["Down"] * ROWS[language], "Return")
     wait_for(lambda: stored_language(program) == language, "the stored language")
 
 
@@ -80,30 +77,22 @@ def check_no_region(program, reader, empty):
         wait_for(lambda: map_at(program, size) == empty[size], f"a map without a region at {size}")
 
 
-def main():
-    program = Program(sys.argv[1], language="C", environment=accessibility.ENVIRONMENT)
-    try:
-        reader = Reader(program)
-        check_menus(program, reader, "Deutsch")
-        check_dialog(program, reader, "Deutsch")
-        choose(program, reader, "English")
-        empty = {size: map_at(program, size) for size in SIZES}
-        seen = {"English": show_merchants(program, reader)}
-        for before, language in (("English", "English"), ("English", "Français"), ("Français", "Deutsch")):
-            program.keys("ctrl+l")
-            check_dialog(program, reader, before)
-            choose(program, reader, language)
-            check_no_region(program, reader, empty)
-            check_menus(program, reader, language)
-            check_list(program, reader, language)
-            seen[language] = show_merchants(program, reader)
-        assert empty[SIZES[-1]] != map_at(program, SIZES[-1])
-        assert seen["Deutsch"][0] == "Arvenna: Händler", seen["Deutsch"][0]
-        assert len({heading for heading, _ in seen.values()}) == 3
-        assert len({len(markers) for _, markers in seen.values()}) == 1
-        program.quit()
-    finally:
-        program.end()
-
-
-main()
+with Program(sys.argv[1], language="C", environment=accessibility.ENVIRONMENT) as program:
+    reader = Reader(program)
+    check_menus(program, reader, "Deutsch")
+    check_dialog(program, reader, "Deutsch")
+    choose(program, reader, "English")
+    empty = {size: map_at(program, size) for size in SIZES}
+    seen = {"English": show_merchants(program, reader)}
+    for before, language in (("English", "English"), ("English", "Français"), ("Français", "Deutsch")):
+        program.keys("ctrl+l")
+        check_dialog(program, reader, before)
+        choose(program, reader, language)
+        check_no_region(program, reader, empty)
+        check_menus(program, reader, language)
+        check_list(program, reader, language)
+        seen[language] = show_merchants(program, reader)
+    assert empty[SIZES[-1]] != map_at(program, SIZES[-1])
+    assert seen["Deutsch"][0] == "Arvenna: Händler", seen["Deutsch"][0]
+    assert len({heading for heading, _ in seen.values()}) == 3
+    assert len({len(markers) for _, markers in seen.values()}) == 1

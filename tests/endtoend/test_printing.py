@@ -7,7 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-from desktop import GOLD, Program, marker_centre, positions, wait_for
+from desktop import Picture, Program, marker_centre, positions, wait_for
 
 SERVER = """Listen {folder}/socket
 DefaultAuthType None
@@ -51,7 +51,17 @@ class PrintServer:
         self.environment = {"CUPS_SERVER": self.path("socket")}
         self.process = subprocess.Popen(["/usr/sbin/cupsd", "-f", "-c", self.path("cupsd.conf"),
                                          "-s", self.path("cups-files.conf")])
+
+    def __enter__(self):
         wait_for(lambda: os.path.exists(self.path("socket")), "the print server")
+        for queue in QUEUES:
+            self.admin("/usr/sbin/lpadmin", "-p", queue, "-E", "-v", "file:/dev/null")
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait(10)
+        shutil.rmtree(self.folder)
 
     def path(self, name):
         return os.path.join(self.folder, name)
@@ -60,22 +70,11 @@ class PrintServer:
         return subprocess.run(args, check=True, capture_output=True, text=True,
                               env={**os.environ, **self.environment}).stdout
 
-    def add_queue(self, name):
-        self.admin("/usr/sbin/lpadmin", "-p", name, "-E", "-v", "file:/dev/null")
-
-    def remove_queue(self, name):
-        self.admin("/usr/sbin/lpadmin", "-x", name)
-
     def jobs(self, queue):
         """The documents that a queue has printed, as they were sent, by job number."""
         listed = self.admin("/usr/bin/lpstat", "-W", "completed", "-o", queue)
         numbers = sorted(int(number) for number in re.findall(rf"^{queue}-(\d+) ", listed, re.MULTILINE))
         return [self.path(f"spool/d{number:05}-001") for number in numbers]
-
-    def end(self):
-        self.process.terminate()
-        self.process.wait(10)
-        shutil.rmtree(self.folder)
 
 
 def page_size(document):
@@ -84,14 +83,11 @@ def page_size(document):
     return tuple(round(float(side)) for side in re.search(r"Page size:\s+([\d.]+) x ([\d.]+)", info).groups())
 
 
-class Page:
+class Page(Picture):
     """The pixels of a printed page, at the screen's resolution."""
 
     def __init__(self, document):
-        data = subprocess.run(["pdftoppm", "-r", str(DOTS_PER_INCH), document], check=True,
-                              capture_output=True).stdout
-        _, size, _, self.pixels = data.split(b"\n", 3)
-        self.width, self.height = map(int, size.split())
+        super().__init__("pdftoppm", "-r", str(DOTS_PER_INCH), document)
 
     def row(self, y):
         return self.pixels[y * self.width * 3:(y + 1) * self.width * 3]
@@ -102,10 +98,6 @@ class Page:
         left = min(self.width * 3 - len(self.row(y).lstrip(b"\xff")) for y in rows) // 3
         right = max(len(self.row(y).rstrip(b"\xff")) + 2 for y in rows) // 3
         return left, rows[0], right, rows[-1] + 1
-
-    def gold_near(self, x, y):
-        return any(tuple(self.row(y + dy)[(x + dx) * 3:(x + dx) * 3 + 3]) == GOLD
-                   for dx in (-1, 0, 1) for dy in (-1, 0, 1))
 
 
 def check_page(document, map_size, markers):
@@ -118,40 +110,26 @@ def check_page(document, map_size, markers):
     assert abs(bottom - top - map_size[1]) <= 2, (top, bottom)
     for key, *position in markers:
         x, y = marker_centre(position, map_size)
-        assert page.gold_near(left + x, top + y), f"{key} is not at {x}, {y}"
+        assert page.marked(left + x, top + y), f"{key} is not at {x}, {y}"
 
 
-def main():
-    server = PrintServer()
-    program = None
-    try:
-        for queue in QUEUES:
-            server.add_queue(queue)
-        program = Program(sys.argv[1], environment=server.environment)
-        program.resize(700, 500)
-        program.keys("alt+a", "Right", "f")
-
-        def choose_second_queue():
-            program.keys("ctrl+p")
-            program.dialog("^Karte Drucken$")
-            program.keys("Down", "alt+h")
-
-        choose_second_queue()
-        program.keys("alt+d")
-        [document] = wait_for(lambda: server.jobs(QUEUES[1]), "the printed page")
-        markers = positions(os.path.join(program.folder, "arvenna.data"), "friendsX")
-        check_page(document, (700, 500 - program.menu_height), markers)
-
-        choose_second_queue()
-        server.remove_queue(QUEUES[1])
-        program.keys("alt+d")
-        wait_for(lambda: not program.find("^Karte Drucken$"), "the end of the print window")
-        assert program.running() and not server.jobs(QUEUES[0])
-        program.quit()
-    finally:
-        if program:
-            program.end()
-        server.end()
+def choose_second_queue():
+    program.keys("ctrl+p")
+    program.dialog("^Karte Drucken$")
+    program.keys("Down", "alt+h")
 
 
-main()
+with PrintServer() as server, Program(sys.argv[1], environment=server.environment) as program:
+    program.resize(700, 500)
+    program.keys("alt+a", "Right", "f")
+    choose_second_queue()
+    program.keys("alt+d")
+    [document] = wait_for(lambda: server.jobs(QUEUES[1]), "the printed page")
+    markers = positions(program.path("arvenna.data"), "friendsX")
+    check_page(document, (700, 500 - program.menu_height), markers)
+
+    choose_second_queue()
+    server.admin("/usr/sbin/lpadmin", "-x", QUEUES[1])
+    program.keys("alt+d")
+    wait_for(lambda: not program.find("^Karte Drucken$"), "the end of the print window")
+    assert program.running() and not server.jobs(QUEUES[0])

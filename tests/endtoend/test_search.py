@@ -1,6 +1,5 @@
 """Finds entities by name in all regions, and uses markers and names with the pointer."""
 
-import os
 import re
 import sys
 
@@ -17,7 +16,7 @@ BESIDE = range(10, 60)
 def hits(program, term):
     """Name and position of every entity that the search finds, in its order."""
     for region in REGIONS:
-        path = os.path.join(program.folder, region + ".data")
+        path = program.path(region + ".data")
         with open(path, encoding="windows-1252") as file:
             sections = re.findall(r"^\[(.*)\]", file.read(), re.MULTILINE)
         for section in sections:
@@ -35,28 +34,22 @@ def shows(program, reader, name, position, offset=0):
 def search(program, reader):
     expected = list(hits(program, TERM))
     assert len(set(expected)) > 1
-    program.keys("ctrl+f")
-    reader.opened("the search")
-    program.type(TERM)
-    program.keys("Return")
-    reader.closed("the search")
+    reader.search(TERM)
+    reader.close("the search")
     shows(program, reader, *expected[0])
     for before, hit in zip(expected, expected[1:]):
         program.keys("F3")
         shows(program, reader, *hit)
         assert hit == before or not Screen().marked(*program.spot(before[1], 0)), "left behind"
-    program.keys("F3")
-    reader.opened("the message at the end")
-    program.keys("Return")
-    reader.closed("the message")
+    reader.open("the message at the end", "F3")
+    reader.close("the message", "Return")
     return expected[-1]
 
 
 def open_by_pointer(program, reader, name, x, y):
     program.double_click(x, y)
     assert reader.opened("the information window").get_name().strip() == name
-    program.keys("Escape")
-    reader.closed("the information window")
+    reader.close("the information window", "Escape")
     assert reader.markers() == [name]
 
 
@@ -64,8 +57,8 @@ def rest_on_a_name(program, reader):
     """Rests on a marker whose name shows only then, on the name, and on another marker."""
     program.keys("alt+a", "Right", "l")
     reader.shows("the teachers", lambda markers: len(markers) > 5)
-    teachers = positions(os.path.join(program.folder, "arvenna.data"), "teachers")
-    descriptions = read_section(os.path.join(program.folder, "info.data"), "info")
+    teachers = positions(program.path("arvenna.data"), "teachers")
+    descriptions = read_section(program.path("info.data"), "info")
     name, *position = next(teacher for teacher in teachers if teacher[0].startswith("Bibliothekar"))
     x, y = program.spot(position)
 
@@ -86,22 +79,14 @@ def rest_on_a_name(program, reader):
     wait_for(lambda: side_of_name() is None, "the end of the name")
 
 
-def main():
-    program = Program(sys.argv[1], environment=accessibility.ENVIRONMENT)
-    try:
-        reader = Reader(program)
-        name, position = search(program, reader)
-        program.resize(700, 500)
-        shows(program, reader, name, position, MARKER_OFFSET)
-        program.resize(1200, 900)
-        shows(program, reader, name, position, MARKER_OFFSET)
-        x, y = program.spot(position)
-        open_by_pointer(program, reader, name, x, y)
-        open_by_pointer(program, reader, name, x + 30, y)
-        rest_on_a_name(program, reader)
-        program.quit()
-    finally:
-        program.end()
-
-
-main()
+with Program(sys.argv[1], environment=accessibility.ENVIRONMENT) as program:
+    reader = Reader(program)
+    name, position = search(program, reader)
+    program.resize(700, 500)
+    shows(program, reader, name, position, MARKER_OFFSET)
+    program.resize(1200, 900)
+    shows(program, reader, name, position, MARKER_OFFSET)
+    x, y = program.spot(position)
+    open_by_pointer(program, reader, name, x, y)
+    open_by_pointer(program, reader, name, x + 30, y)
+    rest_on_a_name(program, reader)

@@ -1,6 +1,5 @@
 """Looks closer with a real wheel, a drag and keys: markers stay on their spots of the picture."""
 
-import os
 import sys
 import time
 
@@ -40,7 +39,7 @@ class View:
         screen = Screen()
         found = []
         seen = 0
-        for key, *position in positions(os.path.join(program.folder, "arvenna.data"), SECTION):
+        for key, *position in positions(program.path("arvenna.data"), SECTION):
             x, y = self.spot(*position)
             if 20 < x < self.width - 20 and 40 < y < self.height - 20:
                 seen += 1
@@ -54,39 +53,31 @@ def expect(program, view):
     wait_for(lambda: not view.wrong(program), "markers on their spots: " + ", ".join(view.wrong(program)))
 
 
-def main():
-    program = Program(sys.argv[1])
-    try:
-        program.keys("alt+a", "Right", "l")
-        time.sleep(0.5)
-        assert not missing_markers(program, "arvenna.data", SECTION)
-        view = View(program)
-        at = next(position for _, *position in positions(
-            os.path.join(program.folder, "arvenna.data"), SECTION) if 200 < position[0] < 800)
-        at = tuple(round(value) for value in view.spot(*at))
-        program.point(view.left + at[0] + 12, view.top + at[1] + 12)
-        at = (at[0] + 12, at[1] + 12)
-        for _ in range(4):
-            xdotool("click", 4)
-            view.zoom(at, STEP)
-        expect(program, view)
-        xdotool("mousedown", 1)
-        xdotool("mousemove_relative", "--sync", "--", -90, -60)
-        xdotool("mouseup", 1)
-        view.pan(-90, -60)
-        expect(program, view)
-        program.keys("plus", "plus", "shift+Right", "shift+Down")
-        middle = ((view.width - 1) // 2, (view.height - 1) // 2)
-        view.zoom(middle, STEP)
-        view.zoom(middle, STEP)
-        view.pan(-(view.width * TWIPS_PER_PIXEL // 8) / TWIPS_PER_PIXEL, 0)
-        view.pan(0, -(view.height * TWIPS_PER_PIXEL // 8) / TWIPS_PER_PIXEL)
-        expect(program, view)
-        program.keys("0")
-        wait_for(lambda: not missing_markers(program, "arvenna.data", SECTION), "all markers at 100 %")
-        program.quit()
-    finally:
-        program.end()
-
-
-main()
+with Program(sys.argv[1]) as program:
+    program.keys("alt+a", "Right", "l")
+    time.sleep(0.5)
+    assert not missing_markers(program, "arvenna.data", SECTION)
+    view = View(program)
+    at = next(position for _, *position in positions(
+        program.path("arvenna.data"), SECTION) if 200 < position[0] < 800)
+    at = tuple(round(value) for value in view.spot(*at))
+    program.point(view.left + at[0] + 12, view.top + at[1] + 12)
+    at = (at[0] + 12, at[1] + 12)
+    for _ in range(4):
+        xdotool("click", 4)
+        view.zoom(at, STEP)
+    expect(program, view)
+    xdotool("mousedown", 1)
+    xdotool("mousemove_relative", "--sync", "--", -90, -60)
+    xdotool("mouseup", 1)
+    view.pan(-90, -60)
+    expect(program, view)
+    program.keys("plus", "plus", "shift+Right", "shift+Down")
+    middle = ((view.width - 1) // 2, (view.height - 1) // 2)
+    view.zoom(middle, STEP)
+    view.zoom(middle, STEP)
+    view.pan(-(view.width * TWIPS_PER_PIXEL // 8) / TWIPS_PER_PIXEL, 0)
+    view.pan(0, -(view.height * TWIPS_PER_PIXEL // 8) / TWIPS_PER_PIXEL)
+    expect(program, view)
+    program.keys("0")
+    wait_for(lambda: not missing_markers(program, "arvenna.data", SECTION), "all markers at 100 %")

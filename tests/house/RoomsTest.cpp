@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -16,64 +14,50 @@ namespace fs = std::filesystem;
 
 const fs::path Sources = fs::path(ORVALIS_SOURCES) / "src";
 
-// What stands on one floor may not know each other; a folder that is not named has its parent's.
-struct Floor {
-  int height;
-  const char* path;
+// From the lowest floor up, first of the core, then of the windows. What stands on one floor may
+// not know each other; a folder that is not named has its parent's floor.
+const std::vector<std::string> Floors[] = {
+    {"platform"},
+    {"app/Twips2Pixel_Module"},
+    {"mapdata/files"},
+    {"mapdata/world"},
+    {"mapdata/display", "i18n"},
+    {"app/World", "controls"},
+    {"search", "perks", "auxwin"},
+    {"app"},
+    {"check", "share"},
+    {"cli"},
+    {"platform/windows"},
+    {"controls/windows"},
+    {"auxwin/windows/Hyperlink"},
+    {"mapdata/windows"},
+    {"i18n/windows", "search/windows", "perks/windows", "auxwin/windows"},
+    {"app/windows"},
 };
 
-constexpr auto CoreFloors = std::to_array<Floor>({
-    {0, "platform"},
-    {1, "app/Twips2Pixel_Module"},
-    {2, "mapdata/files"},
-    {3, "mapdata/world"},
-    {4, "mapdata/display"},
-    {4, "i18n"},
-    {5, "app/World"},
-    {5, "controls"},
-    {6, "search"},
-    {6, "perks"},
-    {6, "auxwin"},
-    {7, "app"},
-    {8, "check"},
-    {8, "share"},
-    {9, "cli"},
-});
-
-constexpr auto WindowFloors = std::to_array<Floor>({
-    {10, "platform/windows"},
-    {11, "controls/windows"},
-    {12, "auxwin/windows/Hyperlink"},
-    {13, "mapdata/windows"},
-    {14, "i18n/windows"},
-    {14, "search/windows"},
-    {14, "perks/windows"},
-    {14, "auxwin/windows"},
-    {15, "app/windows"},
-});
+// A place in the house.
+struct Place {
+  size_t height = 0;
+  std::string path;
+};
 
 bool IsBelow(const std::string& path, const std::string& place) {
   return path.starts_with(place) &&
          (path.size() == place.size() || path[place.size()] == '/' || path[place.size()] == '.');
 }
 
-// The floor whose path names the most of the file's.
-template <size_t Count>
-const Floor* FloorIn(const std::array<Floor, Count>& floors, const std::string& file) {
-  const Floor* best = nullptr;
-  for (const Floor& floor : floors)
-    if (IsBelow(file, floor.path) &&
-        (!best || std::string(floor.path).size() > std::string(best->path).size()))
-      best = &floor;
-  return best;
-}
-
 bool IsWindow(const std::string& file) {
   return file.find("/windows/") != std::string::npos;
 }
 
-const Floor* FloorOf(const std::string& file) {
-  return IsWindow(file) ? FloorIn(WindowFloors, file) : FloorIn(CoreFloors, file);
+// The place whose path names the most of the file's; an empty path where none does.
+Place PlaceOf(const std::string& file) {
+  Place best;
+  for (size_t height = 0; height < std::size(Floors); ++height)
+    for (const std::string& path : Floors[height])
+      if (IsBelow(file, path) && path.size() > best.path.size())
+        best = {height, path};
+  return best;
 }
 
 // The command line takes two files of the windows' lowest floor.
@@ -83,15 +67,15 @@ bool IsGivenToCommandLine(const std::string& included) {
 
 // Why the file may not include this; none if it may.
 std::optional<std::string> Offence(const std::string& file, const std::string& included) {
-  const Floor* from = FloorOf(file);
-  const Floor* to = FloorOf(included);
-  if (!from || !to)
+  const Place from = PlaceOf(file);
+  const Place to = PlaceOf(included);
+  if (from.path.empty() || to.path.empty())
     return "stands on no floor";
   if (IsBelow(file, "cli") && IsGivenToCommandLine(included))
     return std::nullopt;
   if (IsWindow(included) && !IsWindow(file))
     return "is a window";
-  if (from == to || to->height < from->height)
+  if (from.path == to.path || to.height < from.height)
     return std::nullopt;
   return "does not stand left of it";
 }

@@ -1,7 +1,5 @@
-#include "platform/Windows1252.h"
 #include "support/ScannedNames.h"
-#include "support/StartedLanguage.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -11,37 +9,28 @@ using IniOps::Snapshot;
 
 namespace {
 
-// A language with these lines as its table of names.
-class World {
- public:
-  explicit World(const std::string& entities) { Write(entities); }
+// A language with a table of names.
+class TranslatedNames : public testing::Test, protected TestWorld {
+ protected:
+  void Speak(TextView table) { SpeakEnglish(Texts::Join(u"[entities]\r\n", table)); }
 
-  void Write(const std::string& entities) const {
-    folder_.Write("L/L.lng", "[general]\r\nlanguage=L\r\n[entities]\r\n" + entities);
+  Text Shown(TextView name) {
+    Snapshot files(world.cache);
+    return language.LocalizeEntityName(language.NameFile(files), name);
   }
 
-  [[nodiscard]] Text Root() const { return folder_.Path(u""); }
-
-  [[nodiscard]] Text File() const { return folder_.Path(u"L/L.lng"); }
-
- private:
-  TemporaryFolder folder_;
+  LOCAL::Language& language = world.language;
 };
 
 }  // namespace
 
-TEST(EntityNames, AreTranslatedByTheFirstKeyTheyBeginWith) {
-  const World world(
-      "H\xE4ndler=Merchant\r\nH\xE4ndlerin=Tradeswoman\r\nKoch=\r\nWolf=Wolf king\r\n"
-      "Arvenna=Arvenna Land\r\nTempel von=Temple of\r\n;Tor=Gate\r\nBlank=\"  \"\r\n");
-  IniOps::Cache cache;
-  Snapshot files(cache);
-  StartedLanguage language(files, world.Root(), u"L");
+TEST_F(TranslatedNames, AreTranslatedByTheFirstKeyTheyBeginWith) {
+  Speak(
+      u"Händler=Merchant\r\nHändlerin=Tradeswoman\r\nKoch=\r\nWolf=Wolf king\r\n"
+      u"Arvenna=Arvenna Land\r\nTempel von=Temple of\r\n;Tor=Gate\r\nBlank=\"  \"\r\n");
 
   const struct {
-    TextView name;
-    TextView shown;
-    TextView back;
+    TextView name, shown, back;
   } cases[] = {
       {u"Händler Mara", u"Merchant Mara", u"Händler Mara"},
       {u"Händlerin Mara", u"Merchantin Mara", u"Händlerin Mara"},
@@ -63,12 +52,12 @@ TEST(EntityNames, AreTranslatedByTheFirstKeyTheyBeginWith) {
   };
 
   for (const auto& test : cases) {
-    EXPECT_EQ(language.LocalizeEntityName(language.NameFile(files), test.name), test.shown);
+    EXPECT_EQ(Shown(test.name), test.shown);
     EXPECT_EQ(language.UnlocalizeEntityName(test.shown), test.back);
   }
 }
 
-TEST(EntityNames, AgreeWithThePlainScanOnRandomTables) {
+TEST_F(TranslatedNames, AgreeWithThePlainScanOnRandomTables) {
   std::mt19937 random(20);
   const auto below = [&](size_t most) { return random() % most; };
   const auto word = [&](size_t longest) {
@@ -84,74 +73,70 @@ TEST(EntityNames, AgreeWithThePlainScanOnRandomTables) {
     std::string entities;
     for (size_t n = below(12); n > 0; --n)
       entities += word(3) + '=' + word(3) + "\r\n";
-    const World world(entities);
-    IniOps::Cache cache;
-    Snapshot files(cache);
-    StartedLanguage language(files, world.Root(), u"L");
-    ScannedNames scanned(world.File());
+    Speak(Windows1252::Decode(entities));
+    Snapshot files(world.cache);
+    LOCAL::Language fresh(world.paths);
+    fresh.Start(files, u"English");
+    fresh.CacheTranslationTable(files);
+    ScannedNames scanned(language.LanguageFile());
     scanned.CacheTranslationTable(files);
     for (int n = 0; n < 60; ++n) {
       const Text name = Windows1252::Decode(word(5));
-      ASSERT_EQ(language.UnlocalizeEntityName(name), scanned.UnlocalizeEntityName(name))
-          << entities;
+      ASSERT_EQ(fresh.UnlocalizeEntityName(name), scanned.UnlocalizeEntityName(name)) << entities;
       const Text shown = scanned.LocalizeEntityName(files, name);
-      ASSERT_EQ(language.LocalizeEntityName(language.NameFile(files), name), shown) << entities;
-      ASSERT_EQ(language.UnlocalizeEntityName(shown), scanned.UnlocalizeEntityName(shown))
-          << entities;
+      ASSERT_EQ(fresh.LocalizeEntityName(fresh.NameFile(files), name), shown) << entities;
+      ASSERT_EQ(fresh.UnlocalizeEntityName(shown), scanned.UnlocalizeEntityName(shown)) << entities;
       translated += shown != Texts::Trim(name);
     }
   }
   EXPECT_GT(translated, 1000U);
 }
 
-TEST(EntityNames, AnEditedFileGivesNewTranslationsOfTheSameKeys) {
-  const World world("Wolf=Lupo\r\nArvenna=A\r\n");
-  IniOps::Cache cache;
-  Snapshot first(cache);
-  StartedLanguage language(first, world.Root(), u"L");
-  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(first), u"Wolf Arvenna"), u"Lupo A");
-  world.Write("Wolf=Loup\r\nB\xE4r=Ours\r\nArvenna=B\r\n");
-  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(first), u"Wolf Arvenna"), u"Lupo A");
-  Snapshot second(cache);
-  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Wolf Arvenna"), u"Loup B");
-  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Bär"), u"Bär");
+TEST_F(TranslatedNames, AnEditedFileGivesNewTranslationsOfTheSameKeys) {
+  Speak(u"Wolf=Lupo\r\nArvenna=A\r\n");
+  Snapshot event(world.cache);
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(event), u"Wolf Arvenna"), u"Lupo A");
+  Write("LANG/English/English.lng",
+        u"[general]\r\nlanguage=English\r\n[entities]\r\nWolf=Loup\r\nBär=Ours\r\nArvenna=B\r\n");
+  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(event), u"Wolf Arvenna"), u"Lupo A");
+  EXPECT_EQ(Shown(u"Wolf Arvenna"), u"Loup B");
+  EXPECT_EQ(Shown(u"Bär"), u"Bär");
   EXPECT_EQ(language.UnlocalizeEntityName(u"Lupo B"), u"Wolf Arvenna");
-  language.CacheTranslationTable(second);
-  EXPECT_EQ(language.LocalizeEntityName(language.NameFile(second), u"Bär"), u"Ours");
+  Choose(u"English");
+  EXPECT_EQ(Shown(u"Bär"), u"Ours");
   EXPECT_EQ(language.UnlocalizeEntityName(u"Loup"), u"Wolf");
 }
 
-TEST(EntityNames, MayBePrefixesOfEachOther) {
+TEST_F(TranslatedNames, MayBePrefixesOfEachOther) {
+  const Text name = Texts::Join(Text(2000, u'x'), u" Mara");
   for (const bool longestFirst : {false, true}) {
     std::string entities;
     for (size_t line = 0; line < 8192; ++line) {
       const size_t length = longestFirst ? 2000 - line % 2000 : line % 2000 + 1;
       entities.append(length, 'x').append(line < 2000 ? "" : std::to_string(line)).append("=\n");
     }
-    const World world(entities);
-    IniOps::Cache cache;
-    Snapshot files(cache);
-    StartedLanguage language(files, world.Root(), u"L");
-    const Text name = Texts::Join(Text(2000, u'x'), u" Mara");
+    Speak(Windows1252::Decode(entities));
+    Snapshot files(world.cache);
     for (int n = 0; n < 1000; ++n)
       ASSERT_EQ(language.LocalizeEntityName(language.NameFile(files), name), u" Mara");
   }
 }
 
-TEST(EntityNames, DontGrowWithoutBoundWhereWordsHoldEachOther) {
-  const auto filledWith = [](const std::string& word) {
-    std::string value;
-    while (value.size() + word.size() < ProfileFile::LongestValue)
-      value += word;
-    return value;
-  };
-  const World world("Arvenna=" + filledWith("Skaldor") + "\nSkaldor=" + filledWith("Sarrakh") +
-                    "\nSarrakh=" + filledWith("Ostrakh") + "\nOstrakh=" + filledWith("x") +
-                    "\nO=" + filledWith("O") + "\n");
-  IniOps::Cache cache;
-  Snapshot files(cache);
-  StartedLanguage language(files, world.Root(), u"L");
-  const Text shown = language.LocalizeEntityName(language.NameFile(files), u"Tor nach Arvenna");
+TEST_F(TranslatedNames, DontGrowWithoutBoundWhereWordsHoldEachOther) {
+  Text table;
+  for (const auto& [key, word] :
+       std::initializer_list<std::pair<TextView, TextView>>{{u"Arvenna", u"Skaldor"},
+                                                            {u"Skaldor", u"Sarrakh"},
+                                                            {u"Sarrakh", u"Ostrakh"},
+                                                            {u"Ostrakh", u"x"},
+                                                            {u"O", u"O"}}) {
+    table += Texts::Join(key, u"=");
+    for (size_t size = 0; size + word.size() < ProfileFile::LongestValue; size += word.size())
+      table += word;
+    table += u'\n';
+  }
+  Speak(table);
+  const Text shown = Shown(u"Tor nach Arvenna");
   EXPECT_TRUE(shown.starts_with(u"Tor nach Skaldor"));
   EXPECT_LT(shown.size(), 10'000U);
 }

@@ -1,45 +1,37 @@
 #include "i18n/InterfaceTexts.h"
+#include "i18n/LanguageList.h"
 #include "i18n/Registry_Module.h"
-#include "support/StartedLanguage.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
-
-using IniOps::Snapshot;
 
 namespace {
 
 constexpr TextRow MenuRows[] = {{u"menus", u"mnuFile", u"File", u"&Datei"},
                                 {u"menus", u"miQuit", u"&Quit", u"&Beenden"}};
 
-// Start-up with a folder name in the settings; the files are as the start finds them.
-class Started {
- public:
-  Started(const TemporaryFolder& folder, TextView name)
-      : language(files, folder.Path(u"LANG/"), Text(name)) {}
+class Languages : public testing::Test, protected TestWorld {
+ protected:
+  // The texts of the main window in the language of the moment.
+  InterfaceTexts Translated() {
+    IniOps::Snapshot files(world.cache);
+    return Translate_UI(files, language, MenuRows);
+  }
 
- private:
-  IniOps::Cache cache_;
-
- public:
-  Snapshot files{cache_};
-  StartedLanguage language;
+  LOCAL::Language& language = world.language;
 };
 
 }  // namespace
 
-TEST(Language, ThreeStatesDiffer) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/Sound/Sound.lng", "[general]\r\nlanguage=English\r\n");
+TEST_F(Languages, ThreeStatesDiffer) {
   folder.Write("LANG/Without/readme.html", "x");
-  folder.Write("LANG/Claims/Claims.lng", "[general]\r\nLANGUAGE=Deutsch\r\n");
-  folder.Write("LANG/Blanks/Blanks.lng", "[general]\r\nlanguage=\" English \"\r\n");
-  folder.Write("LANG/Small/Small.lng", "[general]\r\nlanguage=deutsch\r\n");
+  Write("LANG/Claims/Claims.lng", u"[general]\r\nLANGUAGE=Deutsch\r\n");
+  Write("LANG/Small/Small.lng", u"[general]\r\nlanguage=deutsch\r\n");
+  Write("LANG/Sound/Sound.lng", u"[general]\r\nlanguage=English\r\n");
+  Write("LANG/Blanks/Blanks.lng", u"[general]\r\nlanguage=\" English \"\r\n");
 
   const struct {
-    TextView folder;
-    TextView started;
-    TextView chosen;
+    TextView folder, started, chosen;
   } cases[] = {
       {u"Sound", u"English", u"English"},  {u"Without", u"Deutsch", u"Deutsch"},
       {u"Claims", u"Deutsch", u"Deutsch"}, {u"Blanks", u" English ", u"English"},
@@ -47,64 +39,60 @@ TEST(Language, ThreeStatesDiffer) {
   };
 
   for (const auto& test : cases) {
+    const auto expect = [&](TextView name, TextView folderName, const Text& file) {
+      EXPECT_EQ(language.CurrentLanguage(), name);
+      EXPECT_EQ(language.LanguageFolder(), folderName);
+      EXPECT_EQ(language.LanguageFile(), file);
+    };
     const Text path = folder.Path(Texts::Join(u"LANG/", test.folder, u"/", test.folder, u".lng"));
-    Started start(folder, test.folder);
-    LOCAL::Language& language = start.language;
-    EXPECT_EQ(language.CurrentLanguage(), test.started);
-    EXPECT_EQ(language.LanguageFolder(), test.folder);
-    EXPECT_EQ(language.LanguageFile(), path);
-
-    language.Choose(start.files, Text(LOCAL::BuiltIn));
-    EXPECT_EQ(language.CurrentLanguage(), u"Deutsch");
-    EXPECT_EQ(language.LanguageFolder(), u"Deutsch");
-    EXPECT_EQ(language.LanguageFile(), u"*");
-    language.Choose(start.files, path);
-    language.CacheTranslationTable(start.files);
-    EXPECT_EQ(language.CurrentLanguage(), test.chosen);
-    EXPECT_EQ(language.LanguageFolder(), test.folder);
-    EXPECT_EQ(language.LanguageFile(), path);
+    Start(test.folder);
+    expect(test.started, test.folder, path);
+    Choose(LOCAL::German);
+    expect(u"Deutsch", u"Deutsch", u"*");
+    Choose(test.folder);
+    expect(test.chosen, test.folder, path);
   }
 }
 
-TEST(Language, DescriptionsStandUnderTheDeclaredName) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/en/en.lng", "[general]\r\nlanguage=English\r\n");
-  folder.Write("LANG/en/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/info.data"));
-  folder.Write("LANG/English/info.data", "[info]\r\n");
-  EXPECT_EQ(Started(folder, u"en").language.InfoPath(), folder.Path(u"LANG/English/info.data"));
+TEST_F(Languages, DescriptionsStandUnderTheDeclaredName) {
+  Write("LANG/en/en.lng", u"[general]\r\nlanguage=English\r\n");
+  Write("LANG/en/info.data", u"[info]\r\n");
+  Start(u"en");
+  EXPECT_EQ(language.InfoPath(), folder.Path(u"info.data"));
+  Write("LANG/English/info.data", u"[info]\r\n");
+  EXPECT_EQ(language.InfoPath(), folder.Path(u"LANG/English/info.data"));
 }
 
-TEST(Language, IsOfferedWhereGermanMeetsAnotherSystem) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/en/en.lng", "[general]\r\nlanguage=English\r\n");
-  const auto offered = [&](TextView language, TextView system) {
-    return Started(folder, language).language.IsToBeOffered(system);
-  };
-  EXPECT_FALSE(offered(u"Deutsch", u" DEU "));
-  EXPECT_TRUE(offered(u"Deutsch", u"eng"));
-  EXPECT_TRUE(offered(u"Deutsch", u""));
-  EXPECT_FALSE(offered(u"en", u"eng"));
+TEST_F(Languages, AreOfferedWhereGermanMeetsAnotherSystem) {
+  EXPECT_FALSE(language.IsToBeOffered(u" DEU "));
+  EXPECT_TRUE(language.IsToBeOffered(u"eng"));
+  EXPECT_TRUE(language.IsToBeOffered(u""));
+  SpeakEnglish(u"");
+  EXPECT_FALSE(language.IsToBeOffered(u"eng"));
+}
+
+TEST_F(Languages, AreListedByTheEntriesOfTheirFolder) {
+  const Text root = folder.Path(u"LANG/");
+  EXPECT_TRUE(LanguageList::EnumFoldersEx(root, false).empty());
+  folder.Write("LANG/B/x", "");
+  folder.Write("LANG/a", "");
+  EXPECT_EQ(LanguageList::EnumFoldersEx(root, false),
+            (std::vector<Text>{u".", u"..", u"B", u"a", u""}));
+  EXPECT_EQ(LanguageList::EnumFoldersEx(root, true)[2], folder.Path(u"LANG/B"));
 }
 
 TEST(Language, TheRegistryHoldsOneValue) {
   using Registry_Module::ReadRegistryValue;
-  EXPECT_EQ(
-      ReadRegistryValue(u"HKEY_CURRENT_USER\\Control Panel\\International\\", u"sLanguage", u"deu"),
-      u"deu");
-  EXPECT_EQ(
-      ReadRegistryValue(u"HKEY_CURRENT_USER\\Control Panel\\International\\", u"sCountry", u"deu"),
-      u"");
+  constexpr TextView key = u"HKEY_CURRENT_USER\\Control Panel\\International\\";
+  EXPECT_EQ(ReadRegistryValue(key, u"sLanguage", u"deu"), u"deu");
+  EXPECT_EQ(ReadRegistryValue(key, u"sCountry", u"deu"), u"");
 }
 
-TEST(InterfaceTexts, AMissingOrEmptyEntryIsEnglishNeverGerman) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/fr/fr.lng",
-               "[general]\r\nlanguage=Fran\xE7"
-               "ais\r\n[Menus]\r\nMNUFILE=&Fichier\r\nmiQuit=\r\n"
-               "[ui]\r\nComboBoxPrompt=   -- Choisir %s --\r\n");
-  Started start(folder, u"fr");
-  const InterfaceTexts french = Translate_UI(start.files, start.language, MenuRows);
+TEST_F(Languages, AMissingOrEmptyTextIsEnglishNeverGerman) {
+  SpeakEnglish(
+      u"[Menus]\r\nMNUFILE=&Fichier\r\nmiQuit=\r\n"
+      u"[ui]\r\nComboBoxPrompt=   -- Choisir %s --\r\n");
+  const InterfaceTexts french = Translated();
   EXPECT_EQ(french.menus, (std::vector<Text>{u"&Fichier", u"&Quit"}));
   EXPECT_EQ(french.prompt, u"   -- Choisir %s --");
   EXPECT_EQ(french.infoToolTip, u"Displays informations about selected entity.");
@@ -113,9 +101,16 @@ TEST(InterfaceTexts, AMissingOrEmptyEntryIsEnglishNeverGerman) {
   EXPECT_EQ(Translate_UI_DE().spokenPrompt, u"Bitte Auswählen");
   EXPECT_EQ(RestoreGerman(MenuRows).prompt, u"  ------------ Bitte Auswählen ------------");
   EXPECT_TRUE(Translate_UI_DE().menus.empty());
+  SpeakEnglish(u"[ui]\r\nComboBoxPrompt====\r\n");
+  EXPECT_EQ(Translated().prompt, u"   ===");
+  EXPECT_EQ(Translated().spokenPrompt, u"Please select") << "signs alone can't be spoken";
 }
 
-TEST(InterfaceTexts, BadFilesGiveDefaults) {
+TEST_F(Languages, BadFilesGiveDefaults) {
+  std::string keys = "[menus]\n";
+  for (int i = 0; keys.size() < 10'000'000; ++i)
+    keys += "key" + std::to_string(i) + "=value\n";
+
   const struct {
     const char* name;
     std::string bytes;
@@ -124,35 +119,16 @@ TEST(InterfaceTexts, BadFilesGiveDefaults) {
       {"without sections", "mnuFile=X\r\nlanguage=Y\r\n", u"File"},
       {"without a name", "[menus]\r\nmnuFile=Menu\r\n", u"Menu"},
       {"UTF-8", "\xEF\xBB\xBF[menus]\nmnuFile=Men\xC3\xBC\n", u"MenÃ¼"},
-      {"10 MB of one line", "[menus]\nx=" + std::string(10'000'000, 'x') + "\nmnuFile=Menu",
-       u"Menu"},
+      {"a long line", "[menus]\nx=" + std::string(10'000'000, 'x') + "\nmnuFile=Menu", u"Menu"},
       {"a long value", "[menus]\nmnuFile=" + std::string(5000, 'x'), Text(2047, u'x')},
-      {"10 MB of keys",
-       [] {
-         std::string keys = "[menus]\n";
-         for (int i = 0; keys.size() < 10'000'000; ++i)
-           keys += "key" + std::to_string(i) + "=value\n";
-         return keys + "mnuFile=Menu";
-       }(),
-       u"Menu"},
+      {"many keys", keys + "mnuFile=Menu", u"Menu"},
       {"NUL bytes", std::string("[menus]\n\0\0=\0\nmnuFile=Menu", 25), u"Menu"},
   };
 
   for (const auto& test : cases) {
-    const TemporaryFolder folder;
     folder.Write("LANG/x/x.lng", test.bytes);
-    Started start(folder, u"x");
-    EXPECT_EQ(start.language.CurrentLanguage(), u"Deutsch") << test.name;
-    EXPECT_EQ(Translate_UI(start.files, start.language, MenuRows).menus[0], test.file) << test.name;
+    Start(u"x");
+    EXPECT_EQ(language.CurrentLanguage(), u"Deutsch") << test.name;
+    EXPECT_EQ(Translated().menus[0], test.file) << test.name;
   }
-}
-
-TEST(InterfaceTexts, APromptOfSignsAloneIsSpokenAsTheBuiltInOne) {
-  const TemporaryFolder folder;
-  folder.Write("LANG/Signs/Signs.lng",
-               "[general]\r\nlanguage=Signs\r\n[ui]\r\nComboBoxPrompt====\r\n");
-  Started start(folder, u"Signs");
-  const InterfaceTexts texts = Translate_UI(start.files, start.language, MenuRows);
-  EXPECT_EQ(texts.prompt, u"   ===");
-  EXPECT_EQ(texts.spokenPrompt, u"Please select");
 }

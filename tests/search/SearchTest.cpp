@@ -1,6 +1,6 @@
 #include "search/Search.h"
 
-#include "search/SearchWorld.h"
+#include "support/TestWorld.h"
 
 #include <array>
 #include <optional>
@@ -10,30 +10,25 @@
 
 namespace {
 
-Text Digits(int number) {
-  const std::string digits = std::to_string(number);
-  return {digits.begin(), digits.end()};
-}
-
-class Searching : public testing::Test {
+class Searching : public testing::Test, protected TestWorld {
  protected:
   void WriteRegions() {
-    world_.Write("arvenna.data",
-                 u"[NPC]\r\nWolfsrudel=10,20\r\n;Wolf Alt=1,1\r\n*Wolf Geheim=2,2\r\n"
-                 "Händler Mara = #, smiths ,*\r\nOhne\r\n[leer]\r\n"
-                 "[teachers]\r\nWolfsrudel=30, 40.5 ,*\r\nWolf Zahm=a,99999\r\n"
-                 "[smiths]\r\nHändler Mara=-7,800\r\n");
-    world_.Write("sarrakh.data", u"[[keys]\r\nWolf Brand=5,6\r\n[ places ]\r\nNie=1,2\r\n");
-    world_.Write("info.data",
-                 u"[Info]\r\nwolfsrudel=Sechs Wölfe\\nim Wald\r\nWolf Zahm=# Wolfsrudel \r\n"
-                 "Händler Mara=#Wolf Zahm\r\nWolf Brand=\"ein <b>%s</b>\"\r\n");
+    Write("arvenna.data",
+          u"[NPC]\r\nWolfsrudel=10,20\r\n;Wolf Alt=1,1\r\n*Wolf Geheim=2,2\r\n"
+          "Händler Mara = #, smiths ,*\r\nOhne\r\n[leer]\r\n"
+          "[teachers]\r\nWolfsrudel=30, 40.5 ,*\r\nWolf Zahm=a,99999\r\n"
+          "[smiths]\r\nHändler Mara=-7,800\r\nZirkel=#,smiths\r\n");
+    Write("sarrakh.data", u"[[keys]\r\nWolf Brand=5,6\r\n[ places ]\r\nNie=1,2\r\n");
+    Write("info.data",
+          u"[Info]\r\nwolfsrudel=Sechs Wölfe\\nim Wald\r\nWolf Zahm=# Wolfsrudel \r\n"
+          "Händler Mara=#Wolf Zahm\r\nWolf Brand=\"ein <b>%s</b>\"\r\n");
   }
 
   // The number found; none if nothing was found.
   std::optional<size_t> First(TextView term, Search::Mode mode = Search::Mode::Names) {
     state_.SearchMode = mode;
-    IniOps::Snapshot files(world_.world.cache);
-    return NumberOf(Search::FindFirst(state_, files, world_.world, term));
+    IniOps::Snapshot files(world.cache);
+    return NumberOf(Search::FindFirst(state_, files, world, term));
   }
 
   std::optional<size_t> Next() { return NumberOf(Search::FindNext(state_)); }
@@ -44,16 +39,15 @@ class Searching : public testing::Test {
   }
 
   Message NotFound() {
-    IniOps::Snapshot files(world_.world.cache);
-    return Search::NotFoundMessage(state_, files, world_.world.language);
+    IniOps::Snapshot files(world.cache);
+    return Search::NotFoundMessage(state_, files, world.language);
   }
 
   Text Heading() {
-    IniOps::Snapshot files(world_.world.cache);
-    return Search::ResultHeading(state_, files, world_.world.language);
+    IniOps::Snapshot files(world.cache);
+    return Search::ResultHeading(state_, files, world.language);
   }
 
-  SearchWorld world_;
   Search::State state_;
 };
 
@@ -63,32 +57,29 @@ TEST_F(Searching, CachesEveryFindableLineInTheOrderOfTheFiles) {
   WriteRegions();
   EXPECT_EQ(First(u"-"), std::nullopt);
 
-  struct Row {
+  const struct {
     TextView section, name, description;
     int x, y;
-  };
-
-  constexpr Row Rows[] = {
+  } rows[] = {
       {u"NPC", u"Wolfsrudel", u"Sechs Wölfe\\nim Wald", 10, 20},
       {u"NPC", u"Händler Mara", u"# Wolfsrudel", -7, 800},
       {u"NPC", u"Ohne", u"", 0, 0},
       {u"teachers", u"Wolfsrudel", u"Sechs Wölfe\\nim Wald", 30, 40},
       {u"teachers", u"Wolf Zahm", u"Sechs Wölfe\\nim Wald", 0, 0},
       {u"smiths", u"Händler Mara", u"# Wolfsrudel", -7, 800},
+      {u"smiths", u"Zirkel", u"", 0, 0},
       {u"keys", u"Wolf Brand", u"ein <b>%s</b>", 5, 6},
   };
-  ASSERT_EQ(state_.Cache.Size(), std::size(Rows));
-  for (size_t i = 0; i < std::size(Rows); ++i) {
-    SCOPED_TRACE(i);
+
+  ASSERT_EQ(state_.Cache.Size(), std::size(rows));
+  for (size_t i = 0; i < std::size(rows); ++i) {
     const CachedEntity entity = state_.Cache.At(i);
-    EXPECT_EQ(entity.Section, Rows[i].section);
-    EXPECT_EQ(entity.Name, Rows[i].name);
-    EXPECT_EQ(entity.Description, Rows[i].description);
-    EXPECT_EQ(entity.X, Rows[i].x);
-    EXPECT_EQ(entity.Y, Rows[i].y);
+    EXPECT_EQ(std::tie(entity.Section, entity.Name, entity.Description, entity.X, entity.Y),
+              std::tie(rows[i].section, rows[i].name, rows[i].description, rows[i].x, rows[i].y))
+        << i;
   }
-  EXPECT_EQ(state_.Cache.At(6).Database, world_.world.paths.Of(Region::Sarrakh).data);
-  EXPECT_EQ(state_.Cache.At(6).Map, world_.world.paths.Of(Region::Sarrakh).picture);
+  EXPECT_EQ(state_.Cache.At(7).Database, world.paths.Of(Region::Sarrakh).data);
+  EXPECT_EQ(state_.Cache.At(7).Map, world.paths.Of(Region::Sarrakh).picture);
 }
 
 TEST_F(Searching, MatchesTheStartOfNamesAndAnyPartOfDescriptions) {
@@ -100,13 +91,16 @@ TEST_F(Searching, MatchesTheStartOfNamesAndAnyPartOfDescriptions) {
   EXPECT_EQ(First(Text(10000, u'W')), std::nullopt);
   using enum Search::Mode;
   EXPECT_EQ(First(u"Wölfe\\nim", Descriptions), 0U);
-  EXPECT_EQ(First(u"%s</b>", Descriptions), 6U);
+  EXPECT_EQ(First(u"%s</b>", Descriptions), 7U);
   EXPECT_EQ(First(u"wölfe", Descriptions), std::nullopt);
   EXPECT_EQ(First(u"日本", Descriptions), std::nullopt);
 }
 
 TEST_F(Searching, GoesOnBehindTheLastHitAndNeverRoundAgain) {
   WriteRegions();
+  EXPECT_EQ(First(u"wolf"), std::nullopt);
+  state_.SearchTerm = u"Wolfs";
+  EXPECT_EQ(Next(), 3U) << "behind the first record where nothing was ever found";
   EXPECT_EQ(First(u"Wolfs"), 0U);
   EXPECT_EQ(Next(), 3U);
   EXPECT_EQ(Next(), std::nullopt);
@@ -120,17 +114,10 @@ TEST_F(Searching, GoesOnBehindTheLastHitAndNeverRoundAgain) {
   EXPECT_EQ(Next(), 5U);
 }
 
-TEST_F(Searching, GoesOnBehindTheFirstRecordWhenNothingWasEverFound) {
-  WriteRegions();
-  EXPECT_EQ(First(u"wolf"), std::nullopt);
-  state_.SearchTerm = u"Wolfs";
-  EXPECT_EQ(Next(), 3U);
-}
-
 TEST_F(Searching, ComparesNamesAsTheyAreShownNowAndThenAsTheyWereCached) {
   WriteRegions();
   EXPECT_EQ(First(u"Händler"), 1U);
-  world_.SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\nWolfsrudel=Merchants of wolves\r\n");
+  SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\nWolfsrudel=Merchants of wolves\r\n");
   EXPECT_EQ(First(u"Händler"), std::nullopt);
   EXPECT_EQ(First(u"Merchant"), 0U);
   EXPECT_EQ(Next(), std::nullopt);
@@ -139,13 +126,12 @@ TEST_F(Searching, ComparesNamesAsTheyAreShownNowAndThenAsTheyWereCached) {
 
 TEST_F(Searching, CachesNamesAndDescriptionsInTheLanguageOfTheFirstSearch) {
   WriteRegions();
-  world_.SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\n");
-  world_.Write("LANG/English/info.data", u"[info]\r\nHändler Mara=She sells.\r\n");
+  SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\n");
+  Write("LANG/English/info.data", u"[info]\r\nHändler Mara=She sells.\r\n");
   EXPECT_EQ(First(u"sells", Search::Mode::Descriptions), 1U);
   EXPECT_EQ(state_.Cache.At(1).Name, u"Merchant Mara");
   EXPECT_EQ(state_.Cache.At(0).Description, u"");
-  IniOps::Snapshot files(world_.world.cache);
-  world_.world.language.Choose(files, Text(LOCAL::BuiltIn));
+  Choose(LOCAL::German);
   EXPECT_EQ(First(u"Merchant"), 1U);
 }
 
@@ -153,26 +139,19 @@ TEST_F(Searching, StopsAtTheFirstInvalidLink) {
   constexpr std::array<std::array<TextView, 2>, 3> Lines = {
       {{u"Tom = #, smiths", u"smiths"}, {u"Tom=#,none,*", u"none"}, {u"Tom=#", u""}}};
   for (const auto& [line, target] : Lines) {
-    world_.Write("arvenna.data",
-                 Texts::Join(u"[NPC]\r\nAda=1,2\r\n", line, u"\r\n[smiths]\r\nTom= ,5\r\n"));
+    Write("arvenna.data",
+          Texts::Join(u"[NPC]\r\nAda=1,2\r\n", line, u"\r\n[smiths]\r\nTom= ,5\r\n"));
     Search::State state;
     IniOps::Cache cache;
     IniOps::Snapshot files(cache);
-    const auto outcome = Search::FindFirst(state, files, world_.world, TextView(u"Ada"));
+    const auto outcome = Search::FindFirst(state, files, world, TextView(u"Ada"));
     const auto* link = std::get_if<InvalidLink>(&outcome);
     ASSERT_TRUE(link);
     EXPECT_EQ(Search::InvalidLinkMessage(*link).text,
-              Texts::Join(u"DB: ", world_.world.paths.Of(Region::Arvenna).data,
-                          u"\r\n\r\n[NPC]\r\nTom=#,", target, u"\r\n\r\nLink-Target invalid!"));
+              Texts::Join(u"DB: ", world.paths.Of(Region::Arvenna).data, u"\r\n\r\n[NPC]\r\nTom=#,",
+                          target, u"\r\n\r\nLink-Target invalid!"));
     EXPECT_EQ(Search::InvalidLinkMessage(*link).caption, u"Link Error");
   }
-}
-
-TEST_F(Searching, TakesALinkToItsOwnSectionForAPositionOfZero) {
-  world_.Write("arvenna.data", u"[NPC]\r\nTom=#,NPC\r\n");
-  EXPECT_EQ(First(u"Tom"), 0U);
-  EXPECT_EQ(state_.Cache.At(0).X, 0);
-  EXPECT_EQ(state_.Cache.At(0).Y, 0);
 }
 
 TEST_F(Searching, FillsAgainWhereTheFilesWereMissing) {
@@ -182,10 +161,10 @@ TEST_F(Searching, FillsAgainWhereTheFilesWereMissing) {
 }
 
 TEST_F(Searching, KeepsAndFindsMoreRecordsThanSixteenBitsCount) {
-  Text file = u"[NPC]\r\n";
+  std::string file = "[NPC]\r\n";
   for (int i = 0; i < 70'000; ++i)
-    file += Texts::Join(u"N", Digits(i), u"=1,2\r\n");
-  world_.Write("ancestors.data", file + u"Letzter=3,4\r\n");
+    file += "N" + std::to_string(i) + "=1,2\r\n";
+  folder.Write("ancestors.data", file + "Letzter=3,4\r\n");
   EXPECT_EQ(First(u"N69999"), 69'999U);
   EXPECT_EQ(First(u"Letzter"), 70'000U);
   EXPECT_EQ(state_.Cache.At(70'000).X, 3);
@@ -197,12 +176,12 @@ TEST_F(Searching, TellsWhatWasNotFoundInTheLanguageOfTheMoment) {
   EXPECT_EQ(NotFound().text, u"Der Suchbegriff: \" \"%s\" <b> \" konnte nicht gefunden werden!");
   EXPECT_EQ(NotFound().caption, u"Suche beendet");
   EXPECT_EQ(Heading(), u" Suchergebnis für:  \"%s\" <b>  ");
-  world_.SpeakEnglish(u"[frmFind]\r\nnotfoundmessage=No %s, no %s!\r\nSearchResult=%s of %s\r\n");
+  SpeakEnglish(u"[frmFind]\r\nnotfoundmessage=No %s, no %s!\r\nSearchResult=%s of %s\r\n");
   EXPECT_EQ(First(u"a%s"), std::nullopt);
   EXPECT_EQ(NotFound().text, u"No a%s, no a%s!");
   EXPECT_EQ(NotFound().caption, u"");
   EXPECT_EQ(Heading(), u"a%s of a%s ");
-  world_.SpeakEnglish(u"[general]\r\n");
+  SpeakEnglish(u"[general]\r\n");
   EXPECT_EQ(NotFound().text, u"");
   EXPECT_EQ(Heading(), u" ");
 }

@@ -1,7 +1,7 @@
 #include "share/SharedWorld.h"
 
-#include "search/SearchWorld.h"
 #include "share/Find.h"
+#include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ class SharedWorld : public testing::Test {
     return found;
   }
 
-  SearchWorld world_;
+  TestWorld world_;
   std::vector<RegionMap> maps_;
 };
 

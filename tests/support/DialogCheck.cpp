@@ -3,13 +3,14 @@
 #include "controls/windows/Dialog.h"
 #include "controls/windows/TextFit.h"
 #include "controls/windows/WidgetTwips.h"
+#include "platform/NativePath.h"
+#include "support/Windows.h"
 
 #include <QAccessible>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
-#include <QTest>
 
 #include <set>
 
@@ -17,12 +18,12 @@
 
 namespace {
 
-QWidget* Find(const Dialog& dialog, TextView name) {
-  return dialog.findChild<QWidget*>(QtText::ToQt(name));
+std::string NameOf(const ControlDesign& design) {
+  return NativePath::ToBytes(design.name);
 }
 
-std::string NameOf(const ControlDesign& design) {
-  return QtText::ToQt(design.name).toStdString();
+QWidget& Find(const Dialog& dialog, const ControlDesign& design) {
+  return Part(dialog, NameOf(design).c_str());
 }
 
 bool TakesKeys(ControlKind kind) {
@@ -32,7 +33,7 @@ bool TakesKeys(ControlKind kind) {
 
 void CheckPlace(const Dialog& dialog, const ControlDesign& design) {
   const auto screen = WidgetTwips::ScreenOf(dialog);
-  const QRect place = Find(dialog, design.name)->geometry();
+  const QRect place = Find(dialog, design).geometry();
   EXPECT_EQ(place.left(), WidgetTwips::ToPixelsX(screen, design.place.left)) << NameOf(design);
   EXPECT_EQ(place.top(), WidgetTwips::ToPixelsY(screen, design.place.top)) << NameOf(design);
   EXPECT_GE(place.width(), WidgetTwips::ToPixelsX(screen, design.place.width)) << NameOf(design);
@@ -72,12 +73,12 @@ void CheckOverlaps(const Dialog& dialog) {
   constexpr int shared = 2;
   for (const ControlDesign& one : dialog.Design().controls) {
     for (const ControlDesign& other : dialog.Design().controls) {
-      const QWidget* a = Find(dialog, one.name);
-      const QWidget* b = Find(dialog, other.name);
-      if (a >= b || a->parentWidget() != b->parentWidget() || !a->isVisible() || !b->isVisible() ||
+      const QWidget& a = Find(dialog, one);
+      const QWidget& b = Find(dialog, other);
+      if (&a >= &b || a.parentWidget() != b.parentWidget() || !a.isVisible() || !b.isVisible() ||
           one.kind == ControlKind::Picture || other.kind == ControlKind::Picture)
         continue;
-      const QRect common = Covered(*a) & Covered(*b);
+      const QRect common = Covered(a) & Covered(b);
       EXPECT_TRUE(common.width() <= shared || common.height() <= 0)
           << NameOf(one) << " over " << NameOf(other);
     }
@@ -104,10 +105,10 @@ bool ChosenWithArrows(const QWidget& control) {
 void CheckKeyboard(Dialog& dialog) {
   const auto reached = Reached(dialog);
   for (const ControlDesign& design : dialog.Design().controls) {
-    const QWidget* control = Find(dialog, design.name);
-    if (control->isVisible() && control->isEnabled() && !ChosenWithArrows(*control) &&
-        (TakesKeys(design.kind) || control->focusPolicy() != Qt::NoFocus)) {
-      EXPECT_TRUE(reached.contains(control)) << "not reached with Tab: " << NameOf(design);
+    const QWidget& control = Find(dialog, design);
+    if (control.isVisible() && control.isEnabled() && !ChosenWithArrows(control) &&
+        (TakesKeys(design.kind) || control.focusPolicy() != Qt::NoFocus)) {
+      EXPECT_TRUE(reached.contains(&control)) << "not reached with Tab: " << NameOf(design);
     }
   }
   QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -122,20 +123,17 @@ void CheckTexts(Dialog& dialog) {
   EXPECT_EQ(dialog.size(), QSize(WidgetTwips::ToPixelsX(screen, dialog.Design().width),
                                  WidgetTwips::ToPixelsY(screen, dialog.Design().height)));
   for (const ControlDesign& design : dialog.Design().controls) {
-    QWidget* control = Find(dialog, design.name);
-    ASSERT_NE(control, nullptr) << NameOf(design);
-    if (!control->isVisible() || design.kind == ControlKind::Line)
+    QWidget& control = Find(dialog, design);
+    if (!control.isVisible() || design.kind == ControlKind::Line)
       continue;
-    CheckText(*control);
-    CheckSpokenName(*control);
+    CheckText(control);
+    CheckSpokenName(control);
   }
   CheckOverlaps(dialog);
 }
 
 void CheckDialog(Dialog& dialog) {
-  dialog.show();
-  dialog.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  ShowActive(dialog);
   EXPECT_FALSE(dialog.objectName().isEmpty());
   EXPECT_FALSE(dialog.windowTitle().trimmed().isEmpty());
   CheckTexts(dialog);

@@ -1,3 +1,4 @@
+#include "app/World.h"
 #include "auxwin/ExtrasTable.h"
 #include "check/Check.h"
 #include "mapdata/world/EntityFile.h"
@@ -5,7 +6,6 @@
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
-#include "support/StartedLanguage.h"
 
 #include <algorithm>
 #include <cctype>
@@ -24,7 +24,9 @@ namespace {
 const Text WorldFolder = NativePath::FromBytes(ORVALIS_SOURCES "/world/");
 const Text LanguageRoot = WorldFolder + u"LANG/";
 const Text German = WorldFolder + u"info.data";
-constexpr TextView Languages[] = {u"English", u"Français"};
+const Text Portraits = WorldFolder + u"PICS/pic.ini";
+constexpr TextView Languages[] = {LOCAL::German, u"English", u"Français"};
+constexpr std::span Translations(Languages + 1, 2);
 constexpr TextView PlantSections[] = {u"dragonroots", u"goblinberries", u"kings sorrels"};
 // A run of this many words in two descriptions reads as if one had been copied, unless it holds
 // the name of an entity.
@@ -60,10 +62,6 @@ std::string PageOf(TextView folder, TextView document) {
   const Text path = Texts::Join(folder, document.substr(0, document.rfind(u'.')), u".html");
   std::ifstream page(Bytes(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(page), {}};
-}
-
-Text InfoOf(TextView folder) {
-  return folder == LOCAL::German ? German : Texts::Join(LanguageRoot, folder, u"/info.data");
 }
 
 bool IsLetter(char16_t unit) {
@@ -103,31 +101,32 @@ std::set<std::string> SecondColumn(const std::string& page) {
 }
 
 struct Line {
-  Text dataFile;
-  Text section;
-  Text key;
+  Text section, key;
 };
 
 class WorldTest : public testing::Test {
  protected:
   WorldTest() {
-    for (const RegionRow& region : Regions) {
-      const Text data = Texts::Join(WorldFolder, region.stem, u".data");
-      for (const Text& section : files.IniSectionNames(data))
-        for (const Text& key : files.IniReadFile(data, section))
-          if (!EntityFile::IsDisabled(Windows1252::Encode(key).value()))
-            lines.push_back({data, section, key});
-    }
-    for (const Line& line : lines)
-      names.insert(line.key);
+    for (const auto& region : world.paths.regions)
+      for (const Text& section : files.IniSectionNames(region.data))
+        for (const Text& key : files.IniReadFile(region.data, section))
+          if (!EntityFile::IsDisabled(Windows1252::Encode(key).value())) {
+            lines.push_back({section, key});
+            names.insert(key);
+          }
   }
 
-  void ExpectEntry(TextView file, TextView section, TextView key) {
-    EXPECT_NE(files.IniRead(file, section, key, u""), u"") << Bytes(section) << ": " << Bytes(key);
+  void Speak(TextView folder) {
+    language.Start(files, Text(folder));
+    language.CacheTranslationTable(files);
+    ASSERT_EQ(language.CurrentLanguage(), folder);
   }
 
-  IniOps::Cache cache;
-  IniOps::Snapshot files{cache};
+  Text Shown(TextView key) { return language.Shown(language.NameFile(files), key); }
+
+  World world{WorldFolder.substr(0, WorldFolder.size() - 1)};
+  LOCAL::Language& language = world.language;
+  IniOps::Snapshot files{world.cache};
   // Every line that the maps show, and the different names among them.
   std::vector<Line> lines;
   std::set<Text> names;
@@ -157,32 +156,15 @@ TEST_F(WorldTest, IsLargeAndTeachesEveryPerk) {
   EXPECT_EQ(taught.size(), PerkCatalogue::Perks.size());
 }
 
-TEST_F(WorldTest, DescribesAndPicturesWhatIsThere) {
-  for (const Text& name : names)
-    ExpectEntry(German, u"info", name);
-  const Text pictures = WorldFolder + u"PICS/pic.ini";
-  const std::regex painted("(person-[mf]|creature|object|place)-[a-z0-9-]+\\.jpg");
-  for (const Text& key : files.IniReadFile(pictures, u"pics")) {
-    const std::string picture = Bytes(files.IniRead(pictures, u"pics", key, u""));
-    EXPECT_TRUE(names.contains(key)) << Bytes(key);
-    EXPECT_TRUE(std::regex_match(picture, painted)) << picture;
-  }
-  for (const Text& key : files.IniReadFile(German, u"info")) {
-    const auto text =
-        InfoFile::ReadRedirected(files.File(German), key, [](auto to) { return Text(to); });
-    EXPECT_TRUE(names.contains(key) && !text.empty() && text.front() != u'#') << Bytes(key);
-  }
-}
-
 TEST_F(WorldTest, NeverSaysTheSameTwice) {
-  for (const TextView folder : {LOCAL::German, Languages[0], Languages[1]}) {
-    StartedLanguage language(files, LanguageRoot, Text(folder));
+  for (const TextView folder : Languages) {
+    Speak(folder);
     std::vector<Text> shown;
     for (const Text& name : names)
-      shown.push_back(language.IsGerman() ? name : language.Shown(language.NameFile(files), name));
+      shown.push_back(Shown(name));
     std::map<Text, Text> owners;
-    for (const Text& key : files.IniReadFile(InfoOf(folder), u"info")) {
-      Text text = InfoFile::ReadEntry(files.File(InfoOf(folder)), key);
+    for (const Text& key : files.IniReadFile(language.InfoPath(), u"info")) {
+      Text text = InfoFile::ReadEntry(files.File(language.InfoPath()), key);
       for (const Text& name : shown)
         text = Texts::ReplaceAll(text, name, NameSign);
       for (const Text& run : RunsOf(text)) {
@@ -194,9 +176,10 @@ TEST_F(WorldTest, NeverSaysTheSameTwice) {
 }
 
 TEST_F(WorldTest, PaintsPeopleAsTheyAreTold) {
-  const Text pictures = WorldFolder + u"PICS/pic.ini";
-  for (const Text& key : files.IniReadFile(pictures, u"pics")) {
-    const std::string picture = Bytes(files.IniRead(pictures, u"pics", key, u""));
+  const std::regex painted("(person-[mf]|creature|object|place)-[a-z0-9-]+\\.jpg");
+  for (const Text& key : files.IniReadFile(Portraits, u"pics")) {
+    const std::string picture = Bytes(files.IniRead(Portraits, u"pics", key, u""));
+    EXPECT_TRUE(std::regex_match(picture, painted)) << picture;
     const std::string told = Bytes(key + u"=" + files.IniRead(German, u"info", key, u""));
     for (const Look& look : Looks) {
       const bool marked = std::regex_search(picture, look.mark);
@@ -230,28 +213,29 @@ TEST_F(WorldTest, SetsFrenchAsItIsPrinted) {
 }
 
 TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
-  for (const TextView folder : Languages) {
-    StartedLanguage language(files, LanguageRoot, Text(folder));
-    const Text& file = language.LanguageFile();
-    ASSERT_EQ(language.CurrentLanguage(), folder);
+  for (const TextView folder : Translations) {
+    Speak(folder);
     for (const Text& key : names) {
-      const Text shown = language.Shown(language.NameFile(files), key);
-      const bool temple = key.starts_with(Temple);
-      ExpectEntry(file, u"entities", temple ? Temple : TextView(key));
-      EXPECT_EQ(language.Shown(language.NameFile(files), shown), shown) << Bytes(shown);
+      const TextView entry = key.starts_with(Temple) ? Temple : TextView(key);
+      EXPECT_NE(files.IniRead(language.LanguageFile(), u"entities", entry, u""), u"") << Bytes(key);
+      const Text shown = Shown(key);
+      EXPECT_EQ(Shown(shown), shown) << Bytes(shown);
     }
-    const auto keyOf = [&](TextView shown) { return language.Key(shown); };
-    for (const Text& key : files.IniReadFile(German, u"info")) {
-      const Text own = InfoFile::ReadRedirected(files.File(language.InfoPath()), key, keyOf);
-      EXPECT_TRUE(!own.empty() && own.front() != u'#') << Bytes(folder) << ": " << Bytes(key);
-      EXPECT_NE(own, InfoFile::ReadRedirected(files.File(German), key, keyOf)) << Bytes(key);
-    }
+    const auto told = [&](const Text& file, const Text& key) {
+      return InfoFile::ReadRedirected(files.File(file), key,
+                                      [&](TextView shown) { return language.Key(shown); });
+    };
+    for (const Text& key : files.IniReadFile(German, u"info"))
+      EXPECT_NE(told(language.InfoPath(), key), told(German, key)) << Bytes(key);
   }
 }
 
 TEST_F(WorldTest, ListsPlantsStonesAndTeachersInEveryLanguage) {
-  for (const TextView folder : {LOCAL::German, Languages[0], Languages[1]}) {
-    StartedLanguage language(files, LanguageRoot, Text(folder));
+  const auto isPlant = [](const Line& line) {
+    return std::ranges::count(PlantSections, line.section) > 0;
+  };
+  for (const TextView folder : Languages) {
+    Speak(folder);
     const Text own = language.IsGerman() ? WorldFolder : Texts::Join(LanguageRoot, folder, u"/");
     const Text extras = language.IsGerman() ? WorldFolder + u"EXTRAS/" : own;
     EXPECT_NE(PageOf(own, u"orvalis.chm"), "") << Bytes(folder);
@@ -263,18 +247,13 @@ TEST_F(WorldTest, ListsPlantsStonesAndTeachersInEveryLanguage) {
     const std::string stones = PageOf(extras, u"teleporterstones.chm");
     const std::string perks = PageOf(extras, u"perklist.chm");
     for (const Line& line : lines) {
-      const Text name =
-          language.IsGerman() ? line.key : language.Shown(language.NameFile(files), line.key);
-      const bool plant = std::ranges::count(PlantSections, line.section) > 0;
       const bool stone = line.section == u"teleporter stones";
-      if (plant || stone || PerkCatalogue::Find(line.section)) {
-        const std::string& page = plant ? plants : stone ? stones : perks;
-        EXPECT_NE(page.find(Bytes(name)), std::string::npos) << Bytes(folder) << Bytes(name);
+      if (isPlant(line) || stone || PerkCatalogue::Find(line.section)) {
+        const std::string& page = isPlant(line) ? plants : stone ? stones : perks;
+        const std::string name = Bytes(Shown(line.key));
+        EXPECT_NE(page.find(name), std::string::npos) << Bytes(folder) << name;
       }
     }
-    const auto isPlant = [](const Line& line) {
-      return std::ranges::count(PlantSections, line.section) > 0;
-    };
     EXPECT_EQ(SecondColumn(perks).size(), PerkCatalogue::Perks.size()) << "what each perk does";
     EXPECT_EQ(SecondColumn(plants).size(), std::ranges::count_if(lines, isPlant))
         << "where to look";

@@ -14,8 +14,6 @@
 #include "support/RecordingDesktop.h"
 #include "support/TemporaryFolder.h"
 
-#include <memory>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -55,38 +53,29 @@ constexpr TextView Lungo =
     u"finestra\r\n";
 
 // The windows over a program folder, whose languages lie in `LANG`.
-class Windows {
- public:
-  Windows(const Text& programFolder, const Text& languageName) : world_(programFolder) {
-    IniOps::Snapshot files(world_.cache);
-    world_.language.Start(files, languageName);
-    world_.language.CacheTranslationTable(files);
+void CheckAll(const Text& programFolder, const Text& languageName, void (*check)(Dialog&)) {
+  World world(programFolder);
+  RecordingDesktop desktop;
+  Launching launching(world.paths, desktop);
+  Search::State search;
+  IniOps::Snapshot files(world.cache);
+  world.language.Start(files, languageName);
+  world.language.CacheTranslationTable(files);
+  const Printout printout{[] { return Twips2Pixel_Module::Twips{9000, 6000}; }, [](QPainter&) {}};
+  frmLang languages(nullptr, world, launching, {});
+  frmFind find(nullptr, world, search);
+  frmAbout about(nullptr, world, desktop, launching);
+  frmPrint print(nullptr, world, desktop, printout);
+  frmInfo info(nullptr, world, u"Wolf");
+  frmExtras extras(nullptr, world, launching);
+  frmPerks perks(nullptr, world.paths.regions[0].data, world);
+  for (Dialog* window :
+       std::initializer_list<Dialog*>{&languages, &find, &about, &print, &info, &extras, &perks}) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__, window->objectName().toStdString());
+    check(*window);
+    window->hide();
   }
-
-  void Check(void (*check)(Dialog&)) {
-    const Printout printout{[] { return Twips2Pixel_Module::Twips{9000, 6000}; }, [](QPainter&) {}};
-    std::vector<std::unique_ptr<Dialog>> windows;
-    windows.push_back(
-        std::make_unique<frmLang>(nullptr, world_, launching_, std::span<const TextRow>()));
-    windows.push_back(std::make_unique<frmFind>(nullptr, world_, search_));
-    windows.push_back(std::make_unique<frmAbout>(nullptr, world_, desktop_, launching_));
-    windows.push_back(std::make_unique<frmPrint>(nullptr, world_, desktop_, printout));
-    windows.push_back(std::make_unique<frmInfo>(nullptr, world_, u"Wolf"));
-    windows.push_back(std::make_unique<frmExtras>(nullptr, world_, launching_));
-    windows.push_back(std::make_unique<frmPerks>(nullptr, world_.paths.regions[0].data, world_));
-    for (const auto& window : windows) {
-      const testing::ScopedTrace trace(__FILE__, __LINE__, window->objectName().toStdString());
-      check(*window);
-      window->hide();
-    }
-  }
-
- private:
-  World world_;
-  RecordingDesktop desktop_;
-  Launching launching_{world_.paths, desktop_};
-  Search::State search_;
-};
+}
 
 Text ShippedWorld() {
   return NativePath::FromBytes(ORVALIS_SOURCES "/world");
@@ -97,24 +86,24 @@ Text ShippedWorld() {
 class ShippedTexts : public testing::TestWithParam<const char16_t*> {};
 
 TEST_P(ShippedTexts, MoveNothing) {
-  Windows(ShippedWorld(), GetParam()).Check(CheckDialog);
+  CheckAll(ShippedWorld(), GetParam(), CheckDialog);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, ShippedTexts, testing::Values(u"Deutsch", u"English"));
 
 TEST(DialogTexts, FrenchOnesAreSeenWhole) {
-  Windows(ShippedWorld(), u"Français").Check(CheckTexts);
+  CheckAll(ShippedWorld(), u"Français", CheckTexts);
 }
 
 TEST(DialogTexts, TheEnglishDefaultsMoveNothing) {
   const TemporaryFolder folder;
   folder.Write("LANG/English/English.lng",
                "[general]\r\nlanguage=English\r\n[frmAbout]\r\ncaption=About\r\n");
-  Windows(folder.Folder(), u"English").Check(CheckDialog);
+  CheckAll(folder.Folder(), u"English", CheckDialog);
 }
 
 TEST(DialogTexts, LongOnesAreSeenWhole) {
   const TemporaryFolder folder;
   folder.Write("LANG/Lungo/Lungo.lng", Windows1252::Encode(Lungo).value());
-  Windows(folder.Folder(), u"Lungo").Check(CheckTexts);
+  CheckAll(folder.Folder(), u"Lungo", CheckTexts);
 }

@@ -1,53 +1,46 @@
 #include "auxwin/windows/frmExtras.h"
 
-#include "auxwin/windows/WindowFixture.h"
 #include "controls/windows/GridListbox.h"
-#include "support/DialogCheck.h"
-
-#include <QPushButton>
-#include <QTest>
+#include "support/TestWorld.h"
+#include "support/Windows.h"
 
 namespace {
 
-constexpr auto HelpFiles = "application/vnd.ms-htmlhelp";
-
-class Extras : public WindowFixture {
+class Extras : public testing::Test, protected TestWorld {
  protected:
   std::unique_ptr<frmExtras> Open() {
     return std::make_unique<frmExtras>(nullptr, world, launching);
   }
 
-  static GridListbox& List(const frmExtras& window) {
-    return *window.findChild<GridListbox*>(QStringLiteral("glbExtras"));
-  }
-
   static std::vector<Text> Names(const frmExtras& window) {
+    const auto& list = Part<GridListbox>(window);
     std::vector<Text> names;
-    for (int i = 1; i <= List(window).ListCount(); ++i)
-      names.push_back(List(window).List(i));
+    for (int i = 1; i <= list.ListCount(); ++i)
+      names.push_back(list.List(i));
     return names;
   }
 
-  static void Select(frmExtras& window, TextView name) {
-    List(window).SetText(name);
-    window.findChild<QPushButton*>(QStringLiteral("btnSelect"))->click();
+  // Opens the documents of these names in a window of the moment's language.
+  void Choose(std::initializer_list<TextView> documents) {
+    const auto window = Open();
+    for (const TextView document : documents) {
+      Part<GridListbox>(*window).SetText(document);
+      Press(*window, "btnSelect");
+    }
   }
 };
 
 }  // namespace
 
 TEST_F(Extras, ListsItsDocumentsInTheOrderOfTheirNames) {
-  const auto german = Open();
-  EXPECT_EQ(Names(*german),
+  EXPECT_EQ(Names(*Open()),
             (std::vector<Text>{u"Cheatliste", u"Perk-Übersicht", u"Pflanzen und Kräuter",
                                u"Rufliste", u"Rüstungsliste", u"Teleportsteine", u"Zauberbuch"}));
-  UseEnglish(u"[frmExtras]\r\nSpellbook=A spellbook\r\nbtnSelect=&Open\r\n");
-  const auto english = Open();
-  EXPECT_EQ(Names(*english),
+  SpeakEnglish(u"[frmExtras]\r\nSpellbook=A spellbook\r\nbtnSelect=&Open\r\n");
+  EXPECT_EQ(TextOf(*Open(), "btnSelect"), "&Open");
+  EXPECT_EQ(Names(*Open()),
             (std::vector<Text>{u"A spellbook", u"Armor list", u"Cheat list", u"Perklist",
                                u"Plant list", u"Reputation list", u"Teleporter stones"}));
-  EXPECT_EQ(english->findChild<QPushButton*>(QStringLiteral("btnSelect"))->text(),
-            QStringLiteral("&Open"));
 }
 
 TEST_F(Extras, PrefersTheLanguagesOwnCopyButNeverInGerman) {
@@ -55,16 +48,12 @@ TEST_F(Extras, PrefersTheLanguagesOwnCopyButNeverInGerman) {
   folder.Write("EXTRAS/spellbook.chm", "de");
   folder.Write("LANG/English/cheatlist.html", "<p>en");
   folder.Write("LANG/Deutsch/cheatlist.html", "<p>nie");
-  desktop.viewers.insert(HelpFiles);
-  const auto german = Open();
-  Select(*german, u"Cheatliste");
-  Select(*german, u"Zauberbuch");
+  desktop.viewers.insert("application/vnd.ms-htmlhelp");
+  Choose({u"Cheatliste", u"Zauberbuch"});
   ExpectCalls({"open " + folder.Native("EXTRAS/cheatlist.html"),
                "open " + folder.Native("EXTRAS/spellbook.chm")});
-  UseEnglish(u"");
-  const auto english = Open();
-  Select(*english, u"Cheat list");
-  Select(*english, u"Spellbook");
+  SpeakEnglish(u"");
+  Choose({u"Cheat list", u"Spellbook"});
   ExpectCalls({"open " + folder.Native("LANG/English/cheatlist.html"),
                "open " + folder.Native("EXTRAS/spellbook.chm")});
 }
@@ -72,12 +61,9 @@ TEST_F(Extras, PrefersTheLanguagesOwnCopyButNeverInGerman) {
 TEST_F(Extras, HelpFilesAreTheirPagesOnAPlainDesktop) {
   folder.Write("EXTRAS/armorlist.html", "<p>de");
   folder.Write("LANG/English/plantlist.html", "<p>en");
-  UseEnglish(u"");
+  SpeakEnglish(u"");
   desktop.viewers.clear();
-  const auto window = Open();
-  Select(*window, u"Armor list");
-  Select(*window, u"Plant list");
-  Select(*window, u"Perklist");
+  Choose({u"Armor list", u"Plant list", u"Perklist"});
   ExpectCalls({"page " + folder.Native("EXTRAS/armorlist.html"),
                "page " + folder.Native("LANG/English/plantlist.html")});
 }
@@ -85,21 +71,14 @@ TEST_F(Extras, HelpFilesAreTheirPagesOnAPlainDesktop) {
 TEST_F(Extras, OpensByDoubleClickAndEnterAndStaysOpen) {
   folder.Write("EXTRAS/cheatlist.html", "<p>de");
   const auto window = Open();
-  window->show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  window->findChild<QPushButton*>(QStringLiteral("btnSelect"))->click();
+  ShowActive(*window);
+  Press(*window, "btnSelect");
   ExpectCalls({});
-  List(*window).Select(1);
-  Q_EMIT List(*window).DblClick();
+  auto& list = Part<GridListbox>(*window);
+  list.Select(1);
+  Q_EMIT list.DblClick();
   QTest::keyClick(window->focusWidget(), Qt::Key_Return);
   ExpectCalls({"open " + folder.Native("EXTRAS/cheatlist.html"),
                "open " + folder.Native("EXTRAS/cheatlist.html")});
   EXPECT_TRUE(window->isVisible());
-}
-
-TEST_F(Extras, KeepsWhatEveryDialogPromises) {
-  CheckDialog(*Open());
-  UseEnglish(
-      u"[frmExtras]\r\ncaption=Suppléments\r\nbtnSelect=&Sélectionner\r\nbtnCancel=&Annuler\r\n");
-  CheckDialog(*Open());
 }

@@ -1,25 +1,26 @@
 #include "auxwin/windows/frmPrint.h"
 
-#include "auxwin/windows/WindowFixture.h"
 #include "controls/windows/PrintableWidget.h"
 #include "controls/windows/WidgetTwips.h"
-#include "support/DialogCheck.h"
+#include "support/TestWorld.h"
+#include "support/Windows.h"
 
 #include <QComboBox>
-#include <QImage>
 #include <QLabel>
 #include <QPainter>
 #include <QProcess>
-#include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 
 namespace {
 
 constexpr int DotsPerInch = 96;
 constexpr double TwipsPerDot = 1440.0 / DotsPerInch;
 
-class Print : public WindowFixture {
+class Print : public testing::Test, protected TestWorld {
  protected:
+  Print() { desktop.fileToWrite = folder.Native("map.pdf"); }
+
   std::unique_ptr<frmPrint> Open(const Twips2Pixel_Module::Twips& size = {9000, 6000}) {
     return std::make_unique<frmPrint>(nullptr, world, desktop,
                                       Printout{[size] { return size; },
@@ -43,25 +44,24 @@ class Print : public WindowFixture {
     }
   }
 
-  void Press(frmPrint& window, const char* button) {
-    window.findChild<QPushButton*>(QString::fromLatin1(button))->click();
+  // What a program of the PDF tools writes.
+  static QString Output(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
   }
 
-  // The first page of the printed file at 96 dots per inch; a null image if there is none.
-  [[nodiscard]] QImage Page() const {
-    QProcess::execute(QStringLiteral("pdftoppm"),
-                      {QStringLiteral("-r"), QString::number(DotsPerInch), QStringLiteral("-png"),
-                       QStringLiteral("-singlefile"), QString::fromStdString(desktop.fileToWrite),
-                       QString::fromStdString(folder.Native("page"))});
-    return QImage(QString::fromStdString(folder.Native("page.png")));
-  }
+  [[nodiscard]] QString File() const { return QString::fromStdString(desktop.fileToWrite); }
 
-  [[nodiscard]] int Pages() const {
-    QProcess info;
-    info.start(QStringLiteral("pdfinfo"), {QString::fromStdString(desktop.fileToWrite)});
-    info.waitForFinished();
-    const QString text = QString::fromUtf8(info.readAllStandardOutput());
-    return text.mid(text.indexOf(QStringLiteral("Pages:")) + 6, 20).section(u'\n', 0, 0).toInt();
+  // The printed page at 96 dots per inch.
+  [[nodiscard]] QImage OnlyPage() const {
+    EXPECT_TRUE(
+        QRegularExpression(u"Pages: +1\n"_s).match(Output(u"pdfinfo"_s, {File()})).hasMatch());
+    const QString page = QString::fromStdString(folder.Native("page"));
+    Output(u"pdftoppm"_s,
+           {u"-r"_s, QString::number(DotsPerInch), u"-png"_s, u"-singlefile"_s, File(), page});
+    return QImage(page + u".png"_s);
   }
 
   static constexpr int Corner = 600;
@@ -83,16 +83,14 @@ QRect Inked(const QImage& page) {
 }  // namespace
 
 TEST_F(Print, PutsTheWholeMapInItsSizeOnOneLandscapePage) {
-  desktop.fileToWrite = folder.Native("map.pdf");
   const auto window = Open();
-  EXPECT_EQ(window->findChild<QComboBox*>()->currentText(), QStringLiteral("PDF"));
-  EXPECT_TRUE(window->findChild<QRadioButton*>(QStringLiteral("rbQuerformat"))->isChecked());
+  EXPECT_EQ(Part<QComboBox>(*window).currentText(), u"PDF"_s);
+  EXPECT_TRUE(Part<QRadioButton>(*window, "rbQuerformat").isChecked());
   window->show();
   Press(*window, "btnPrint");
   EXPECT_FALSE(window->isVisible());
-  const QImage page = Page();
+  const QImage page = OnlyPage();
   ASSERT_FALSE(page.isNull());
-  EXPECT_EQ(Pages(), 1);
   EXPECT_GT(page.width(), page.height());
   const QRect map = Inked(page);
   EXPECT_NEAR(map.width(), 9000 / TwipsPerDot, 2);
@@ -106,10 +104,9 @@ TEST_F(Print, PutsTheWholeMapInItsSizeOnOneLandscapePage) {
 }
 
 TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
-  desktop.fileToWrite = folder.Native("map.pdf");
   QWidget map;
   map.resize(600, 400);
-  QLabel name(QStringLiteral("Fischmarkt"), &map);
+  QLabel name(u"Fischmarkt"_s, &map);
   name.setFont(WidgetTwips::Font(9.75, true));
   name.move(300, 200);
   Twips2Pixel_Module::Twips size;
@@ -119,29 +116,21 @@ TEST_F(Print, NamesArePrintedAsTextWhereTheyStandOnScreen) {
   // What is printed is as large as it is when Print is pressed.
   size = {9000, 6000};
   Press(window, "btnPrint");
-  QProcess words;
-  words.start(
-      QStringLiteral("pdftotext"),
-      {QStringLiteral("-bbox"), QString::fromStdString(desktop.fileToWrite), QStringLiteral("-")});
-  words.waitForFinished();
-  const QString found = QString::fromUtf8(words.readAllStandardOutput());
-  ASSERT_TRUE(found.contains(QStringLiteral(">Fischmarkt<"))) << found.toStdString();
+  const QString found = Output(u"pdftotext"_s, {u"-bbox"_s, File(), u"-"_s});
+  ASSERT_TRUE(found.contains(u">Fischmarkt<"_s)) << found.toStdString();
   const auto number = [&found](const QString& attribute) {
-    return found.section(attribute + QStringLiteral("=\""), -1).section(u'"', 0, 0).toDouble();
+    return found.section(attribute + u"=\""_s, -1).section(u'"', 0, 0).toDouble();
   };
   const double pointsPerPixel = 72 / (1440 / WidgetTwips::ScreenOf(map).twipsPerPixelX);
-  EXPECT_NEAR(number(QStringLiteral("xMax")) - number(QStringLiteral("xMin")),
-              name.sizeHint().width() * pointsPerPixel, 3);
+  EXPECT_NEAR(number(u"xMax"_s) - number(u"xMin"_s), name.sizeHint().width() * pointsPerPixel, 3);
 }
 
 TEST_F(Print, AMapLargerThanThePageGetsSmaller) {
-  desktop.fileToWrite = folder.Native("map.pdf");
   const auto window = Open({30000, 20000});
-  window->findChild<QRadioButton*>(QStringLiteral("rbHochformat"))->setChecked(true);
+  Part<QRadioButton>(*window, "rbHochformat").setChecked(true);
   Press(*window, "btnPrint");
-  const QImage page = Page();
+  const QImage page = OnlyPage();
   ASSERT_FALSE(page.isNull());
-  EXPECT_EQ(Pages(), 1);
   EXPECT_LT(page.width(), page.height());
   const QRect map = Inked(page);
   EXPECT_GT(map.width(), page.width() * 8 / 10);
@@ -151,6 +140,7 @@ TEST_F(Print, AMapLargerThanThePageGetsSmaller) {
 }
 
 TEST_F(Print, NothingIsPrintedWithoutFileOrPrinter) {
+  desktop.fileToWrite.clear();
   auto window = Open();
   window->show();
   Press(*window, "btnPrint");
@@ -170,22 +160,10 @@ TEST_F(Print, NothingIsPrintedWithoutFileOrPrinter) {
 TEST_F(Print, OffersTheInstalledPrintersInTheSystemsOrder) {
   desktop.printers = {u"Zweiter Stock", u"Archiv"};
   const auto window = Open();
-  const auto* cboPrinters = window->findChild<QComboBox*>(QStringLiteral("cboPrinters"));
-  ASSERT_EQ(cboPrinters->count(), 2);
-  EXPECT_EQ(cboPrinters->itemText(0), QStringLiteral("Zweiter Stock"));
-  EXPECT_EQ(cboPrinters->currentIndex(), 0);
-}
-
-TEST_F(Print, KeepsWhatEveryDialogPromises) {
-  CheckDialog(*Open());
-  UseEnglish(u"");
-  const auto english = Open();
-  EXPECT_EQ(english->windowTitle(), QStringLiteral("Print"));
-  EXPECT_EQ(english->findChild<QRadioButton*>(QStringLiteral("rbQuerformat"))->text(),
-            QStringLiteral("Landscape"));
-  CheckDialog(*english);
-  UseEnglish(
-      u"[frmPrint]\r\ncaption=Imprimer\r\nlabel=Imprimantes\r\noptionlandscape=Pa&ysage\r\n"
-      u"buttonprint=&Imprimer la carte\r\nbuttoncancel=&Annuler\r\n");
-  CheckTexts(*Open());
+  const auto& cboPrinters = Part<QComboBox>(*window, "cboPrinters");
+  ASSERT_EQ(cboPrinters.count(), 2);
+  EXPECT_EQ(cboPrinters.itemText(0), u"Zweiter Stock"_s);
+  EXPECT_EQ(cboPrinters.currentIndex(), 0);
+  SpeakEnglish(u"");
+  EXPECT_EQ(TextOf(*Open(), "rbQuerformat"), "Landscape");
 }

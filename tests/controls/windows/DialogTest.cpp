@@ -3,59 +3,50 @@
 #include "controls/windows/TextFit.h"
 #include "controls/windows/WidgetTwips.h"
 #include "support/DialogCheck.h"
+#include "support/Windows.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
 namespace {
 
+using Kind = ControlKind;
+
 constexpr ControlDesign Controls[] = {
     {.name = u"lblTop", .place = {120, 120, 900, 240}, .text = u"Oben"},
     {.name = u"lblBeside", .place = {2400, 120, 900, 240}, .text = u"Daneben"},
     {.name = u"txtNote",
-     .kind = ControlKind::TextBox,
+     .kind = Kind::TextBox,
      .place = {120, 900, 4000, 900},
      .namedBy = u"lblTop"},
-    {.name = u"fraBox",
-     .kind = ControlKind::Frame,
-     .place = {120, 1900, 4000, 1000},
-     .text = u"Rahmen"},
+    {.name = u"fraBox", .kind = Kind::Frame, .place = {120, 1900, 4000, 1000}, .text = u"Rahmen"},
     {.name = u"lblInside", .place = {120, 300, 600, 240}, .text = u"Innen", .frame = u"fraBox"},
     {.name = u"btnSelect",
-     .kind = ControlKind::Button,
+     .kind = Kind::Button,
      .place = {1200, 3000, 1095, 375},
      .text = u"A&uswählen"},
     {.name = u"btnAbort",
-     .kind = ControlKind::Button,
+     .kind = Kind::Button,
      .place = {2700, 3000, 1095, 375},
      .text = u"&Abbrechen"},
 };
 
-constexpr DialogDesign Design = {.name = u"frmSample",
-                                 .width = 4335,
-                                 .height = 3500,
-                                 .defaultButton = u"btnSelect",
-                                 .cancelButton = u"btnAbort",
-                                 .controls = Controls};
-
-constexpr DialogDesign WithoutDefault = {.name = u"frmSample",
-                                         .width = 4335,
-                                         .height = 3500,
-                                         .defaultButton = {},
-                                         .cancelButton = u"btnAbort",
-                                         .controls = Controls};
-
-template <typename Type>
-Type* Find(const Dialog& dialog, const char* name) {
-  return dialog.findChild<Type*>(QString::fromLatin1(name));
+constexpr DialogDesign WithDefault(TextView button) {
+  return {.name = u"frmSample",
+          .width = 4335,
+          .height = 3500,
+          .defaultButton = button,
+          .cancelButton = u"btnAbort",
+          .controls = Controls};
 }
 
+constexpr DialogDesign Design = WithDefault(u"btnSelect");
+constexpr DialogDesign WithoutDefault = WithDefault({});
+
 QString Words(int count) {
-  return QStringLiteral("Wegweiser ").repeated(count).trimmed();
+  return u"Wegweiser "_s.repeated(count).trimmed();
 }
 
 // A dialog whose captions a test sets.
@@ -70,90 +61,103 @@ bool Fits(const QWidget& control) {
   return needed.width() <= control.width() && needed.height() <= control.height();
 }
 
+void ExpectToFit(const QWidget& control) {
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(control); })) << control.objectName().toStdString();
+}
+
+// Whether the dialog is still open after Enter in the control of that name.
+bool StaysAfterEnter(Dialog& dialog, const char* control) {
+  Part(dialog, control).setFocus();
+  QTest::keyClick(&Part(dialog, control), Qt::Key_Return);
+  return dialog.isVisible();
+}
+
 }  // namespace
 
 TEST(Dialog, PassesItsOwnChecks) {
   Dialog dialog(nullptr, Design);
-  dialog.setWindowTitle(QStringLiteral("Beispiel"));
+  dialog.setWindowTitle(u"Beispiel"_s);
   EXPECT_TRUE(dialog.isModal());
   EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMinMaxButtonsHint);
+  EXPECT_EQ(Part<QLabel>(dialog, "lblTop").textFormat(), Qt::PlainText);
   CheckDialog(dialog);
 }
 
 TEST(Dialog, ALongTextGrowsRightThenDownOverFreeSpaceOnly) {
   Dialog dialog(nullptr, Design);
   dialog.show();
-  auto* label = Find<QLabel>(dialog, "lblTop");
-  const auto* beside = Find<QLabel>(dialog, "lblBeside");
-  const auto* below = Find<QPlainTextEdit>(dialog, "txtNote");
-  const QRect designed = label->geometry();
-  const QRect besideDesigned = beside->geometry();
+  auto& label = Part<QLabel>(dialog, "lblTop");
+  const QWidget& beside = Part(dialog, "lblBeside");
+  const QRect designed = label.geometry();
+  const QRect besideDesigned = beside.geometry();
 
-  label->setText(Words(2));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*label); }));
-  EXPECT_GT(label->width(), designed.width());
-  EXPECT_EQ(label->height(), designed.height());
+  label.setText(Words(2));
+  ExpectToFit(label);
+  EXPECT_GT(label.width(), designed.width());
+  EXPECT_EQ(label.height(), designed.height());
 
-  label->setText(Words(5));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*label); }));
-  EXPECT_GT(label->height(), designed.height());
-  EXPECT_EQ(label->pos(), designed.topLeft());
-  EXPECT_LT(label->geometry().right(), beside->x());
-  EXPECT_LE(label->geometry().bottom(), below->y());
-  EXPECT_EQ(beside->geometry(), besideDesigned);
+  label.setText(Words(5));
+  ExpectToFit(label);
+  EXPECT_GT(label.height(), designed.height());
+  EXPECT_EQ(label.pos(), designed.topLeft());
+  EXPECT_LT(label.geometry().right(), beside.x());
+  EXPECT_LE(label.geometry().bottom(), Part(dialog, "txtNote").y());
+  EXPECT_EQ(beside.geometry(), besideDesigned);
 
-  label->setText(QStringLiteral("Kurz"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return label->geometry() == designed; }));
+  label.setText(u"Kurz"_s);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return label.geometry() == designed; }));
+  auto& inside = Part<QLabel>(dialog, "lblInside");
+  inside.setText(Words(3));
+  ExpectToFit(inside);
+  EXPECT_TRUE(inside.parentWidget()->rect().contains(inside.geometry()));
 }
 
 TEST(Dialog, ALabelThatNamesAControlHasItsAccessKeyOthersHaveNone) {
   Captioned dialog(nullptr, Design);
   dialog.SetCaption(u"lblTop", u"&Notiz && mehr");
   dialog.SetCaption(u"lblBeside", u"&Daneben && mehr");
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  const auto* named = Find<QLabel>(dialog, "lblTop");
-  EXPECT_EQ(named->buddy(), Find<QPlainTextEdit>(dialog, "txtNote"));
-  EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtNote")->accessibleName(),
-            QStringLiteral("Notiz & mehr"));
-  EXPECT_EQ(Find<QLabel>(dialog, "lblBeside")->text(), QStringLiteral("Daneben & mehr"));
-  Find<QPushButton>(dialog, "btnSelect")->setFocus();
+  ShowActive(dialog);
+  auto& note = Part<QPlainTextEdit>(dialog, "txtNote");
+  EXPECT_EQ(Part<QLabel>(dialog, "lblTop").buddy(), &note);
+  EXPECT_EQ(note.accessibleName(), u"Notiz & mehr"_s);
+  EXPECT_EQ(TextOf(dialog, "lblBeside"), "Daneben & mehr");
+  Part(dialog, "btnSelect").setFocus();
   QTest::keyClick(&dialog, Qt::Key_N, Qt::AltModifier);
-  EXPECT_TRUE(named->buddy()->hasFocus());
+  EXPECT_TRUE(note.hasFocus());
 }
 
 TEST(Dialog, ValuesKeepTheirSigns) {
   Dialog dialog(nullptr, Design);
-  Find<QLabel>(dialog, "lblTop")->setText(QStringLiteral("A & B && C"));
+  Part<QLabel>(dialog, "lblTop").setText(u"A & B && C"_s);
   dialog.show();
-  EXPECT_EQ(Find<QLabel>(dialog, "lblTop")->text(), QStringLiteral("A & B && C"));
-  EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtNote")->accessibleName(),
-            QStringLiteral("A & B && C"));
+  EXPECT_EQ(TextOf(dialog, "lblTop"), "A & B && C");
+  EXPECT_EQ(Part(dialog, "txtNote").accessibleName(), u"A & B && C"_s);
 }
 
 TEST(Dialog, ARowOfButtonsTakesItsFreeSpaceBeforeTheTypeGetsSmaller) {
   Dialog dialog(nullptr, Design);
   dialog.show();
-  auto* select = Find<QPushButton>(dialog, "btnSelect");
-  auto* abort = Find<QPushButton>(dialog, "btnAbort");
-  const QRect designed = abort->geometry();
-  const double points = select->font().pointSizeF();
-  select->setText(QStringLiteral("Choose this language now"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*select); }));
-  EXPECT_DOUBLE_EQ(select->font().pointSizeF(), points);
-  EXPECT_LT(select->geometry().right(), abort->x());
-  EXPECT_EQ(abort->geometry(), designed);
-  abort->setText(QStringLiteral("Leave everything as it was before"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*abort) && Fits(*select); }));
-  EXPECT_LT(select->geometry().right(), abort->x());
-  EXPECT_EQ(select->font(), abort->font());
+  auto& select = Part<QPushButton>(dialog, "btnSelect");
+  auto& abort = Part<QPushButton>(dialog, "btnAbort");
+  const QRect designed = abort.geometry();
+  const double points = select.font().pointSizeF();
+  select.setText(u"Choose this language now"_s);
+  ExpectToFit(select);
+  EXPECT_DOUBLE_EQ(select.font().pointSizeF(), points);
+  EXPECT_LT(select.geometry().right(), abort.x());
+  EXPECT_EQ(abort.geometry(), designed);
+  abort.setText(u"Leave everything as it was before"_s);
+  ExpectToFit(abort);
+  ExpectToFit(select);
+  EXPECT_LT(select.geometry().right(), abort.x());
+  EXPECT_EQ(select.font(), abort.font());
 }
 
 TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
   static constexpr ControlDesign controls[] = {
       {.name = u"lblName", .place = {120, 120, 600, 240}},
       {.name = u"txtName",
-       .kind = ControlKind::TextField,
+       .kind = Kind::TextField,
        .place = {800, 120, 2000, 240},
        .namedBy = u"lblName"},
       {.name = u"lblPlace", .place = {120, 400, 600, 240}},
@@ -165,21 +169,22 @@ TEST(Dialog, AColumnOfLabelsMovesWhatStandsBesideIt) {
   Captioned dialog(nullptr, design);
   dialog.SetCaption(u"lblName", u"Name:");
   dialog.SetCaption(u"lblPlace", u"Wohnort:");
-  Find<QLabel>(dialog, "lblValue")->setText(QStringLiteral("Tir Anath"));
+  auto& value = Part<QLabel>(dialog, "lblValue");
+  value.setText(u"Tir Anath"_s);
   dialog.show();
-  auto* field = Find<QWidget>(dialog, "txtName");
-  auto* value = Find<QLabel>(dialog, "lblValue");
-  const QPoint fieldAt = field->pos();
-  const QPoint valueAt = value->pos();
+  const QWidget& field = Part(dialog, "txtName");
+  const QWidget& place = Part(dialog, "lblPlace");
+  const QPoint fieldAt = field.pos();
+  const QPoint valueAt = value.pos();
   dialog.SetCaption(u"lblPlace", u"Heimatlicher Wohnort:");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return value->x() > valueAt.x(); }));
-  EXPECT_EQ(field->x() - fieldAt.x(), value->x() - valueAt.x()) << "one column";
-  EXPECT_EQ(value->y(), valueAt.y());
-  EXPECT_DOUBLE_EQ(Find<QLabel>(dialog, "lblPlace")->font().pointSizeF(), 8.25);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return value.x() > valueAt.x(); }));
+  EXPECT_EQ(field.x() - fieldAt.x(), value.x() - valueAt.x()) << "one column";
+  EXPECT_EQ(value.y(), valueAt.y());
+  EXPECT_DOUBLE_EQ(place.font().pointSizeF(), 8.25);
   CheckTexts(dialog);
   dialog.SetCaption(u"lblPlace", u"Ein Wohnort, für den auch der Rest des Fensters nicht reicht:");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*Find<QLabel>(dialog, "lblPlace")); }));
-  EXPECT_EQ(Find<QLabel>(dialog, "lblName")->font(), Find<QLabel>(dialog, "lblPlace")->font());
+  ExpectToFit(place);
+  EXPECT_EQ(Part(dialog, "lblName").font(), place.font());
   CheckTexts(dialog);
 }
 
@@ -191,58 +196,22 @@ TEST(Dialog, AWordThatFitsNoLineIsBroken) {
   static constexpr DialogDesign design = {
       .name = u"frmWords", .width = 2500, .height = 900, .controls = controls};
   Dialog dialog(nullptr, design);
-  Find<QLabel>(dialog, "lblMail")
-      ->setText(QStringLiteral("a.very.long.name.of.somebody@%1.example")
-                    .arg(QStringLiteral("hosting").repeated(2)));
-  Find<QLabel>(dialog, "lblSite")->setText(QStringLiteral("www.a.example"));
+  Part<QLabel>(dialog, "lblMail").setText(u"a.very.long.name.of.somebody@hostinghosting.example"_s);
+  Part<QLabel>(dialog, "lblSite").setText(u"www.a.example"_s);
   CheckTexts(dialog);
-  EXPECT_GT(Find<QLabel>(dialog, "lblSite")->width(), 0);
+  EXPECT_GT(Part(dialog, "lblSite").width(), 0);
 }
 
-TEST(Dialog, GrowsInsideFramesToo) {
-  Dialog dialog(nullptr, Design);
-  dialog.show();
-  auto* label = Find<QLabel>(dialog, "lblInside");
-  label->setText(Words(3));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Fits(*label); }));
-  EXPECT_TRUE(label->parentWidget()->rect().contains(label->geometry()));
-}
-
-TEST(Dialog, MarkupIsShownAsItStands) {
-  Dialog dialog(nullptr, Design);
-  EXPECT_EQ(Find<QLabel>(dialog, "lblTop")->textFormat(), Qt::PlainText);
-}
-
-TEST(Dialog, ControlsWithoutTextAreNamedByAnother) {
-  Dialog dialog(nullptr, Design);
-  dialog.show();
-  EXPECT_EQ(Find<QPlainTextEdit>(dialog, "txtNote")->accessibleName(), QStringLiteral("Oben"));
-}
-
-TEST(Dialog, EnterPressesTheDefaultButtonOrTheFocusedOne) {
-  Dialog dialog(nullptr, Design);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  int selected = 0;
-  QObject::connect(Find<QPushButton>(dialog, "btnSelect"), &QPushButton::clicked,
-                   [&selected] { ++selected; });
-  Find<QPlainTextEdit>(dialog, "txtNote")->setReadOnly(true);
-  QTest::keyClick(Find<QPlainTextEdit>(dialog, "txtNote"), Qt::Key_Return);
-  EXPECT_EQ(selected, 1);
-  Find<QPushButton>(dialog, "btnAbort")->setFocus();
-  QTest::keyClick(Find<QPushButton>(dialog, "btnAbort"), Qt::Key_Return);
-  EXPECT_EQ(selected, 1);
-  EXPECT_FALSE(dialog.isVisible());
-}
-
-TEST(Dialog, WithoutDefaultButtonEnterPressesOnlyAFocusedOne) {
-  Dialog dialog(nullptr, WithoutDefault);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  Find<QPlainTextEdit>(dialog, "txtNote")->setReadOnly(true);
-  QTest::keyClick(Find<QPlainTextEdit>(dialog, "txtNote"), Qt::Key_Return);
-  EXPECT_TRUE(dialog.isVisible());
-  Find<QPushButton>(dialog, "btnAbort")->setFocus();
-  QTest::keyClick(Find<QPushButton>(dialog, "btnAbort"), Qt::Key_Return);
-  EXPECT_FALSE(dialog.isVisible());
+TEST(Dialog, EnterPressesTheFocusedButtonOrElseTheDefaultOne) {
+  for (const DialogDesign& design : {Design, WithoutDefault}) {
+    Dialog dialog(nullptr, design);
+    ShowActive(dialog);
+    int selected = 0;
+    QObject::connect(&Part<QPushButton>(dialog, "btnSelect"), &QPushButton::clicked,
+                     [&selected] { ++selected; });
+    Part<QPlainTextEdit>(dialog, "txtNote").setReadOnly(true);
+    EXPECT_TRUE(StaysAfterEnter(dialog, "txtNote"));
+    EXPECT_FALSE(StaysAfterEnter(dialog, "btnAbort"));
+    EXPECT_EQ(selected, design.defaultButton.empty() ? 0 : 1);
+  }
 }

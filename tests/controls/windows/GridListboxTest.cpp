@@ -1,9 +1,10 @@
 #include "controls/windows/GridListbox.h"
 
+#include "support/Windows.h"
+
 #include <QHeaderView>
 #include <QMetaProperty>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
@@ -11,11 +12,11 @@
 namespace {
 
 QTreeWidget& View(const GridListbox& list) {
-  return *list.findChild<QTreeWidget*>(QStringLiteral("lvListView"));
+  return Part<QTreeWidget>(list, "lvListView");
 }
 
-QPixmap Picture() {
-  QPixmap picture(16, 16);
+QPixmap Picture(int width = 16, int height = 16) {
+  QPixmap picture(width, height);
   picture.fill(Qt::green);
   return picture;
 }
@@ -27,34 +28,35 @@ std::vector<Text> AllTexts(const GridListbox& list) {
   return texts;
 }
 
-void Fill(GridListbox& list) {
-  for (const TextView text : {u" Français", u" English", u" Deutsch", u" ölig", u" Zulu", u" ?"})
-    list.AddItem(text, {}, text.substr(1));
-}
+// Languages as their dialog lists them, on the screen.
+class Languages : public GridListbox {
+ public:
+  Languages() {
+    for (const TextView text : {u" Français", u" English", u" Deutsch", u" ölig", u" Zulu", u" ?"})
+      AddItem(text, {}, text.substr(1));
+    resize(300, 300);
+    show();
+  }
+};
 
 }  // namespace
 
 TEST(GridListbox, SortsLikeAGermanDictionaryWithoutRegardToCase) {
   const std::vector<Text> sorted = {u" ?",        u" Deutsch", u" English",
                                     u" Français", u" ölig",    u" Zulu"};
-  GridListbox before;
-  before.SetSorted(true);
-  Fill(before);
-  EXPECT_EQ(AllTexts(before), sorted);
-
-  GridListbox after;
-  Fill(after);
-  EXPECT_EQ(after.List(1), u" Français");
-  after.Select(3);
-  after.SetSorted(true);
-  EXPECT_EQ(AllTexts(after), sorted);
-  EXPECT_EQ(after.Text(), u" Deutsch");
+  Languages list;
+  EXPECT_EQ(list.List(1), u" Français");
+  list.Select(3);
+  list.SetSorted(true);
+  EXPECT_EQ(AllTexts(list), sorted);
+  EXPECT_EQ(list.Text(), u" Deutsch");
+  list.RemoveItem(2);
+  list.AddItem(u" Deutsch");
+  EXPECT_EQ(AllTexts(list), sorted);
 }
 
 TEST(GridListbox, SortingSelectsNothing) {
-  GridListbox list;
-  Fill(list);
-  list.show();
+  Languages list;
   View(list).selectionModel()->setCurrentIndex(View(list).model()->index(1, 0),
                                                QItemSelectionModel::NoUpdate);
   list.SetSorted(true);
@@ -62,8 +64,7 @@ TEST(GridListbox, SortingSelectsNothing) {
 }
 
 TEST(GridListbox, ItsStateIsItsPropertiesAndTwoCantBeSet) {
-  GridListbox list;
-  Fill(list);
+  Languages list;
   list.Select(2);
   EXPECT_EQ(GridListbox::SetListCount(0), 382);
   EXPECT_EQ(GridListbox::SetListIndex(1), 382);
@@ -76,12 +77,9 @@ TEST(GridListbox, ItsStateIsItsPropertiesAndTwoCantBeSet) {
     const char* name;
     QVariant standard;
     QVariant other;
-  } table[] = {{"ForeColor", 0x80000008U, 0xFFU},
-               {"BackColor", 0x80000005U, 0xFF00U},
-               {"Sorted", false, true},
-               {"Enabled", true, false},
-               {"NoHeader", true, false},
-               {"Caption", QStringLiteral("<caption>"), QStringLiteral("Sprachen")}};
+  } table[] = {{"ForeColor", 0x80000008U, 0xFFU}, {"BackColor", 0x80000005U, 0xFF00U},
+               {"Sorted", false, true},           {"Enabled", true, false},
+               {"NoHeader", true, false},         {"Caption", u"<caption>"_s, u"Sprachen"_s}};
 
   for (const auto& row : table) {
     EXPECT_EQ(list.property(row.name), row.standard) << row.name;
@@ -93,10 +91,10 @@ TEST(GridListbox, ItsStateIsItsPropertiesAndTwoCantBeSet) {
   }
 }
 
-TEST(GridListbox, PicturesCountOnAcrossClear) {
+TEST(GridListbox, PicturesCountOnAcrossClearAndHaveOneSize) {
   GridListbox list;
   list.AddItem(u"a");
-  list.AddItem(u"b", Picture());
+  list.AddItem(u"b", Picture(64, 48));
   list.AddItem(u"c");
   EXPECT_EQ(list.Rows(1)->SmallIcon, 0);
   EXPECT_EQ(list.Rows(2)->SmallIcon, 1);
@@ -108,14 +106,6 @@ TEST(GridListbox, PicturesCountOnAcrossClear) {
   EXPECT_FALSE(GridListbox::GetImage(list.Pictures(), 2).isNull());
   EXPECT_TRUE(GridListbox::GetImage(list.Pictures(), 0).isNull());
   EXPECT_TRUE(GridListbox::GetImage(list.Pictures(), 3).isNull());
-}
-
-TEST(GridListbox, PicturesOfAnySizeAreMadeOneSizeAndNamed) {
-  GridListbox list;
-  QPixmap large(64, 48);
-  large.fill(Qt::red);
-  list.AddItem(u"a", large);
-  list.AddItem(u"b", Picture());
   ASSERT_EQ(list.Pictures().size(), 2U);
   EXPECT_EQ(list.Pictures()[0].Key, u"Key 1");
   EXPECT_EQ(list.Pictures()[1].Key, u"Key 2");
@@ -163,9 +153,9 @@ TEST(GridListbox, HeaderIsHiddenUntilAskedForAndFollowsItsCaption) {
   EXPECT_FALSE(View(list).header()->isVisible());
   list.SetNoHeader(false);
   EXPECT_TRUE(View(list).header()->isVisible());
-  EXPECT_EQ(View(list).headerItem()->text(0), QStringLiteral("<caption>"));
+  EXPECT_EQ(View(list).headerItem()->text(0), u"<caption>"_s);
   list.SetCaption(u"Vorhandene Sprachen");
-  EXPECT_EQ(View(list).headerItem()->text(0), QStringLiteral("Vorhandene Sprachen"));
+  EXPECT_EQ(View(list).headerItem()->text(0), u"Vorhandene Sprachen"_s);
   EXPECT_EQ(View(list).geometry(), list.rect());
   EXPECT_LT(View(list).columnWidth(0), list.width());
 }
@@ -185,25 +175,24 @@ TEST(GridListbox, GreysAndRestoresTheColoursOfTheLastShowing) {
   list.SetEnabled(true);
   EXPECT_EQ(list.ForeColor(), 0x0000FFU);
   EXPECT_EQ(View(list).palette().color(QPalette::Text), QColor(Qt::red));
+  list.SetBackColor(0x8000000D);
+  EXPECT_EQ(View(list).palette().color(QPalette::Base), QPalette().color(QPalette::Highlight))
+      << "the desktop's own";
 }
 
 TEST(GridListbox, WhateverSelectsARowTellsOfIt) {
-  GridListbox list;
-  Fill(list);
-  list.resize(300, 300);
-  list.show();
-  QSignalSpy rowClicks(&list, &GridListbox::RowClick);
+  Languages list;
   int reached = 0;
   QObject::connect(&list, &GridListbox::RowClick,
                    [&reached](const GridListbox::Row& Item) { reached = Item.Index; });
+  QSignalSpy rowClicks(&list, &GridListbox::RowClick);
   QSignalSpy clicks(&list, &GridListbox::Click);
   QSignalSpy doubleClicks(&list, &GridListbox::DblClick);
-  int moves = 0;
-  QObject::connect(&list, &GridListbox::MouseMove, [&moves] { ++moves; });
+  QSignalSpy moves(&list, &GridListbox::MouseMove);
   list.Select(1);
   EXPECT_EQ(rowClicks.count(), 0);
   QTest::keyClick(&View(list), Qt::Key_Down);
-  ASSERT_EQ(rowClicks.count(), 1);
+  EXPECT_EQ(rowClicks.count(), 1);
   EXPECT_EQ(reached, 2);
   const auto middleOf = [&](int row) {
     return View(list).visualItemRect(View(list).topLevelItem(row - 1)).center();
@@ -234,27 +223,24 @@ TEST(GridListbox, WhateverSelectsARowTellsOfIt) {
   EXPECT_EQ(rowClicks.count(), told);
   EXPECT_GT(clicks.count(), clicked);
   EXPECT_EQ(doubleClicks.count(), 2);
+  moves.clear();
   QTest::mouseMove(rows, below + QPoint(5, 5));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return moves > 0; })) << "without a button held";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return moves.count() > 0; })) << "without a button held";
 }
 
 TEST(GridListbox, TypedLettersFindRowsThatBeginWithABlank) {
-  GridListbox list;
-  Fill(list);
-  list.show();
-  QTest::keyClicks(&View(list), QStringLiteral("z"));
+  Languages list;
+  QTest::keyClicks(&View(list), u"z"_s);
   EXPECT_EQ(list.Text(), u" Zulu");
   QTest::qWait(QApplication::keyboardInputInterval() + 50);
-  QTest::keyClicks(&View(list), QStringLiteral("en"));
+  QTest::keyClicks(&View(list), u"en"_s);
   EXPECT_EQ(list.Text(), u" English");
 }
 
 TEST(GridListbox, TheHostMayChangeOrSwallowKeys) {
   constexpr int16_t up = 38;
   constexpr int16_t down = 40;
-  GridListbox list;
-  Fill(list);
-  list.show();
+  Languages list;
   list.Select(1);
   const auto turnAround = QObject::connect(
       &list, &GridListbox::KeyDown,
@@ -265,7 +251,7 @@ TEST(GridListbox, TheHostMayChangeOrSwallowKeys) {
   EXPECT_EQ(list.ListIndex(), 2);
   QObject::disconnect(turnAround);
   QObject::connect(&list, &GridListbox::KeyPress, [](int16_t& KeyAscii) { KeyAscii = u'z'; });
-  QTest::keyClicks(&View(list), QStringLiteral("e"));
+  QTest::keyClicks(&View(list), u"e"_s);
   EXPECT_EQ(list.Text(), u" Zulu");
 }
 
@@ -295,10 +281,4 @@ TEST(GridListbox, MouseEventsTellTwips) {
                    [&twips](int16_t&, int16_t&, float& X, float&) { twips = X; });
   QTest::mouseClick(View(list).viewport(), Qt::LeftButton, {}, QPoint(100, 50));
   EXPECT_FLOAT_EQ(twips, static_cast<float>(100 * 1440.0 / list.logicalDpiX()));
-}
-
-TEST(GridListbox, SystemColoursAreTheDesktops) {
-  GridListbox list;
-  list.SetBackColor(0x8000000D);
-  EXPECT_EQ(View(list).palette().color(QPalette::Base), QPalette().color(QPalette::Highlight));
 }

@@ -1,9 +1,10 @@
 #include "controls/windows/PlainToolTips.h"
 
+#include "support/Windows.h"
+
 #include <QApplication>
 #include <QHelpEvent>
 #include <QLabel>
-#include <QTest>
 #include <QToolTip>
 
 #include <gtest/gtest.h>
@@ -11,7 +12,7 @@
 TEST(PlainToolTips, ShowMarkupAsItStands) {
   PlainToolTips toolTips;
   qApp->installEventFilter(&toolTips);
-  QLabel name(QStringLiteral("Name"));
+  QLabel name(u"Name"_s);
   name.show();
   const auto shown = [&name](const QString& text) {
     name.setToolTip(text);
@@ -19,9 +20,8 @@ TEST(PlainToolTips, ShowMarkupAsItStands) {
     QApplication::sendEvent(&name, &event);
     return QToolTip::text();
   };
-  EXPECT_EQ(shown(QStringLiteral("<b>Wolf</b>")), QStringLiteral("<p>&lt;b&gt;Wolf&lt;/b&gt;</p>"));
-  EXPECT_EQ(shown(QStringLiteral("a < b und c > d")),
-            QStringLiteral("<p>a &lt; b und c &gt; d</p>"));
-  EXPECT_EQ(shown(QStringLiteral("Wolf & Bär")), QStringLiteral("Wolf & Bär"));
+  EXPECT_EQ(shown(u"<b>Wolf</b>"_s), u"<p>&lt;b&gt;Wolf&lt;/b&gt;</p>"_s);
+  EXPECT_EQ(shown(u"a < b und c > d"_s), u"<p>a &lt; b und c &gt; d</p>"_s);
+  EXPECT_EQ(shown(u"Wolf & Bär"_s), u"Wolf & Bär"_s);
   QToolTip::hideText();
 }

@@ -1,124 +1,83 @@
 #include "mapdata/windows/frmInfo.h"
 
-#include "platform/Windows1252.h"
 #include "support/DialogCheck.h"
-#include "support/English.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestWorld.h"
+#include "support/Windows.h"
 
-#include <QBuffer>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-using QtText::ToQt;
 
 namespace {
 
-std::string Picture(const QSize& size) {
-  QImage image(size, QImage::Format_RGB32);
-  image.fill(Qt::darkRed);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  image.save(&buffer, "bmp");
-  return bytes.toStdString();
-}
-
-class InfoWindow : public testing::Test {
+class InfoWindow : public testing::Test, protected TestWorld {
  protected:
   InfoWindow() {
     Write("info.data",
           u"[info]\r\nHändler Mara=Eine Händlerin.\\n\\nSie <b>feilscht</b> & lacht.\r\n"
           u"Mara=# Händler Mara \r\nRing=#Kreis\r\nKreis=#Ring\r\n");
-    folder.Write("PICS/klein.bmp", Picture({20, 10}));
-    folder.Write("PICS/riesig.bmp", Picture({600, 700}));
-    folder.Write("oben.bmp", Picture({7, 7}));
     Write("PICS/pic.ini",
           u"[pics]\r\nHändler Mara=KLEIN.BMP\r\nRiese=riesig.bmp\r\nFehlt=none.bmp\r\n"
           u"Ordner=.\r\nOben=..\\oben.bmp\r\n");
+    Paint(folder, "PICS/klein.bmp", Qt::darkRed, {20, 10});
+    Paint(folder, "PICS/riesig.bmp", Qt::darkRed, {600, 700});
+    Paint(folder, "oben.bmp", Qt::darkRed, {7, 7});
   }
 
-  void Write(const std::string& name, TextView text) const {
-    folder.Write(name, *Windows1252::Encode(text));
+  std::string Description(const Text& name) {
+    return Part<QPlainTextEdit>(frmInfo(nullptr, world, name), "txtInfo")
+        .toPlainText()
+        .toStdString();
   }
 
-  void UseEnglish() {
-    SpeakEnglish(folder, world.language,
-                 u"[entities]\r\nHändler=Merchant\r\n[frmInfo]\r\nbuttonclose=&Done\r\n");
-    IniOps::Snapshot files(world.cache);
-    world.language.CacheTranslationTable(files);
+  // The size of a picture in the window about the name.
+  QSize Picture(const Text& name, const char* label = "picPortrait") {
+    return Part<QLabel>(frmInfo(nullptr, world, name), label).pixmap().size();
   }
-
-  [[nodiscard]] QString Description(const Text& name) {
-    const frmInfo window(nullptr, world, name);
-    return window.findChild<QPlainTextEdit*>(QStringLiteral("txtInfo"))->toPlainText();
-  }
-
-  [[nodiscard]] QSize Portrait(const Text& name) {
-    const frmInfo window(nullptr, world, name);
-    return window.findChild<QLabel*>(QStringLiteral("picPortrait"))->pixmap().size();
-  }
-
-  [[nodiscard]] QSize Fallback() {
-    const frmInfo window(nullptr, world, u"x");
-    return window.findChild<QLabel*>(QStringLiteral("imgBackup"))->pixmap().size();
-  }
-
-  TemporaryFolder folder;
-  World world{folder.Folder()};
 };
 
 }  // namespace
 
 TEST_F(InfoWindow, ShowsNameDescriptionAndLineBreaks) {
   frmInfo window(nullptr, world, u" Händler Mara ");
-  EXPECT_EQ(window.windowTitle(), QStringLiteral("Händler Mara"));
-  EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("lblName"))->text(),
-            QStringLiteral(" Händler Mara "));
-  auto* txtInfo = window.findChild<QPlainTextEdit*>(QStringLiteral("txtInfo"));
-  EXPECT_EQ(txtInfo->toPlainText(),
-            QStringLiteral("Eine Händlerin.\n\nSie <b>feilscht</b> & lacht."));
-  EXPECT_TRUE(txtInfo->isReadOnly());
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  EXPECT_TRUE(txtInfo->hasFocus());
-  QTest::keyClick(txtInfo, Qt::Key_Return);
+  EXPECT_EQ(TitleOf(window), "Händler Mara");
+  EXPECT_EQ(TextOf(window, "lblName"), " Händler Mara ");
+  auto& txtInfo = Part<QPlainTextEdit>(window, "txtInfo");
+  EXPECT_EQ(txtInfo.toPlainText(), u"Eine Händlerin.\n\nSie <b>feilscht</b> & lacht."_s);
+  EXPECT_TRUE(txtInfo.isReadOnly());
+  ShowActive(window);
+  EXPECT_TRUE(txtInfo.hasFocus());
+  QTest::keyClick(&txtInfo, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(InfoWindow, FollowsOneRedirectOnly) {
-  EXPECT_TRUE(Description(u"Mara").startsWith(QStringLiteral("Eine Händlerin.")));
-  EXPECT_EQ(Description(u"Ring"), QStringLiteral("#Ring"));
-  EXPECT_EQ(Description(u"Niemand"), QString());
+  EXPECT_TRUE(Description(u"Mara").starts_with("Eine Händlerin."));
+  EXPECT_EQ(Description(u"Ring"), "#Ring");
+  EXPECT_EQ(Description(u"Niemand"), "");
 }
 
 TEST_F(InfoWindow, PortraitsKeepTheirSizeAndTheirBox) {
-  EXPECT_EQ(Portrait(u"händler mara"), QSize(20, 10));
-  EXPECT_EQ(Portrait(u"Oben"), QSize(7, 7));
+  EXPECT_EQ(Picture(u"händler mara"), QSize(20, 10));
+  EXPECT_EQ(Picture(u"Oben"), QSize(7, 7));
   for (const TextView name : {u"Fehlt", u"Ordner", u"Niemand"})
-    EXPECT_EQ(Portrait(Text(name)), Fallback()) << ToQt(name).toStdString();
+    EXPECT_EQ(Picture(Text(name)), Picture(u"x", "imgBackup")) << NativePath::ToBytes(name);
   frmInfo window(nullptr, world, u"Riese");
   window.show();
-  const auto* box = window.findChild<QLabel*>(QStringLiteral("picPortrait"));
-  EXPECT_EQ(box->pixmap().size(), QSize(600, 700));
-  EXPECT_FALSE(box->hasScaledContents());
-  EXPECT_LT(box->geometry().right(),
-            window.findChild<QPlainTextEdit*>(QStringLiteral("txtInfo"))->x());
+  const auto& box = Part<QLabel>(window, "picPortrait");
+  EXPECT_EQ(box.pixmap().size(), QSize(600, 700));
+  EXPECT_FALSE(box.hasScaledContents());
+  EXPECT_LT(box.geometry().right(), Part(window, "txtInfo").x());
 }
 
 TEST_F(InfoWindow, ReadsTheLanguagesOwnFileUnderTheGermanKey) {
-  UseEnglish();
-  EXPECT_TRUE(Description(u"Merchant Mara").startsWith(QStringLiteral("Eine Händlerin.")));
-  EXPECT_EQ(Portrait(u"Merchant Mara"), QSize(20, 10));
+  SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\n[frmInfo]\r\nbuttonclose=&Done\r\n");
+  EXPECT_TRUE(Description(u"Merchant Mara").starts_with("Eine Händlerin."));
+  EXPECT_EQ(Picture(u"Merchant Mara"), QSize(20, 10));
   Write("LANG/English/info.data", u"[info]\r\nHändler Mara=A merchant.\r\nMara=#Merchant Mara\r\n");
-  EXPECT_EQ(Description(u"Merchant Mara"), QStringLiteral("A merchant."));
-  EXPECT_EQ(Description(u"Mara"), QStringLiteral("A merchant."));
-  EXPECT_EQ(Description(u"Ring"), QString());
-  const frmInfo window(nullptr, world, u"Merchant Mara");
-  EXPECT_EQ(window.findChild<QPushButton*>(QStringLiteral("btnClose"))->text(),
-            QStringLiteral("&Done"));
+  EXPECT_EQ(Description(u"Merchant Mara"), "A merchant.");
+  EXPECT_EQ(Description(u"Mara"), "A merchant.");
+  EXPECT_EQ(Description(u"Ring"), "");
+  EXPECT_EQ(TextOf(frmInfo(nullptr, world, u"Merchant Mara"), "btnClose"), "&Done");
 }
 
 TEST_F(InfoWindow, KeepsWhatEveryDialogPromises) {

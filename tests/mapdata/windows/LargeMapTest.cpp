@@ -1,14 +1,9 @@
-#include "mapdata/windows/MapView.h"
-
 #include "mapdata/windows/ctlLocation.h"
-#include "support/GermanNames.h"
-#include "support/TemporaryFolder.h"
+#include "support/MapFixture.h"
 
 #include <QPainter>
 
 #include <cmath>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -22,50 +17,36 @@ int MarkerEdge(int coordinate, int frame, int length, double twipsPerPixel) {
   return static_cast<int>(std::nearbyint(twips / twipsPerPixel));
 }
 
-// Lines of one device pixel: they stay black and white only if no pixel is scaled.
-QImage Stripes(const QSize& size) {
-  QImage stripes(size, QImage::Format_RGB32);
-  stripes.fill(Qt::white);
-  QPainter painter(&stripes);
-  for (int x = 0; x < size.width(); x += 2)
-    painter.fillRect(x, 0, 1, size.height(), Qt::black);
-  return stripes;
-}
+class LargeMap : public MapFixture {
+ protected:
+  LargeMap() : MapFixture("[t]\r\na=1,1\r\nb=600,400\r\nc=1020,760\r\n") {}
+};
 
 }  // namespace
 
-TEST(LargeMap, KeepsMarkersOnTheirSpots) {
-  const TemporaryFolder folder;
-  Stripes({64, 48}).save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
-  folder.Write("a.data", "[t]\r\na=1,1\r\nb=600,400\r\nc=1020,760\r\n");
-  IniOps::Cache cache;
-  GermanNames names;
-  MapView view(cache, names);
+TEST_F(LargeMap, KeepsMarkersOnTheirSpots) {
   view.resize(Large);
-  view.show();
-  view.ChangeMulti(folder.Path(u"a.jpg"), folder.Path(u"a.data"), u"t", u"", false);
+  Multi();
   const double twips = 1440.0 / view.logicalDpiX();
   int slot = 0;
   for (const QPoint& at : {QPoint(1, 1), QPoint(600, 400), QPoint(1020, 760)}) {
-    const auto* dot = view.findChild<ctlLocation*>(QStringLiteral("DOT(%1)").arg(slot++));
-    EXPECT_EQ(dot->pos(), QPoint(MarkerEdge(at.x(), 1024, view.width(), twips),
-                                 MarkerEdge(at.y(), 768, view.height(), twips)));
-    EXPECT_TRUE(view.rect().intersects(dot->geometry()));
+    const auto& dot = Part<ctlLocation>(view, ("DOT(" + std::to_string(slot++) + ")").c_str());
+    EXPECT_EQ(dot.pos(), QPoint(MarkerEdge(at.x(), 1024, view.width(), twips),
+                                MarkerEdge(at.y(), 768, view.height(), twips)));
+    EXPECT_TRUE(view.rect().intersects(dot.geometry()));
   }
 }
 
-TEST(LargeMap, ShowsAPictureOfItsOwnSizePixelForPixel) {
-  const TemporaryFolder folder;
-  const QSize map(900, 600);
-  IniOps::Cache cache;
-  GermanNames names;
-  MapView view(cache, names);
-  view.resize(map);
-  view.show();
-  const QSize devicePixels = (QSizeF(map) * view.devicePixelRatioF()).toSize();
-  const QImage stripes = Stripes(devicePixels);
+TEST_F(LargeMap, ShowsAPictureOfItsOwnSizePixelForPixel) {
+  view.resize(900, 600);
+  const QSize devicePixels = (QSizeF(view.size()) * view.devicePixelRatioF()).toSize();
+  // Lines of one device pixel: they stay black and white only if no pixel is scaled.
+  QImage stripes(devicePixels, QImage::Format_RGB32);
+  stripes.fill(Qt::white);
+  for (int x = 0; x < stripes.width(); x += 2)
+    QPainter(&stripes).fillRect(x, 0, 1, stripes.height(), Qt::black);
   stripes.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
-  view.Change(folder.Path(u"a.jpg"), folder.Path(u"none.data"), u"t");
+  List(u"none");
   QImage shown = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
   ASSERT_EQ(shown.size(), devicePixels);
   shown.setDevicePixelRatio(1);

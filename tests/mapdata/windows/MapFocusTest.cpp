@@ -1,42 +1,24 @@
 #include "mapdata/windows/MapFocus.h"
 
 #include "mapdata/windows/FocusRing.h"
-#include "mapdata/windows/MapView.h"
 #include "mapdata/windows/ctlLocation.h"
-#include "support/GermanNames.h"
-#include "support/TemporaryFolder.h"
+#include "support/MapFixture.h"
 
 #include <QAccessible>
 #include <QComboBox>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QToolTip>
-
-#include <gtest/gtest.h>
 
 namespace {
 
 // A map of one row of markers, with a disabled slot between them and one marker below.
-class MapFocusTest : public testing::Test {
+class MapFocusTest : public MapFixture {
  protected:
-  MapFocusTest() {
-    QImage picture(64, 48, QImage::Format_RGB32);
-    picture.fill(Qt::darkGreen);
-    picture.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
-    folder.Write("a.data",
-                 "[t]\r\nWolf=200,300,*\r\n;Beta=300,300\r\nAmsel=400,300\r\nGrab=400,500\r\n");
-    folder.Write("info.data", "[info]\r\nwolf=Heult.\r\n");
-    view.SetTexts(u"  -- Bitte --", u"Tip", u"hervorgehoben", u"Bitte");
-    view.resize(1000, 700);
-    view.show();
-    QApplication::setActiveWindow(&view);
-  }
-
-  void Multi(bool onHover = false) { view.ChangeMulti(map, data, u"t", u"H", onHover); }
+  MapFocusTest()
+      : MapFixture("[t]\r\nWolf=200,300,*\r\n;Beta=300,300\r\nAmsel=400,300\r\nGrab=400,500\r\n") {}
 
   void EnterMap() { QTest::keyClick(&view, Qt::Key_Tab); }
 
@@ -47,18 +29,9 @@ class MapFocusTest : public testing::Test {
     return focus ? focus->objectName().toStdString() : "nothing";
   }
 
-  [[nodiscard]] bool IsShown(const char* name) {
-    return view.findChild<QWidget*>(QLatin1String(name))->isVisible();
-  }
+  bool IsShown(const char* name) { return At(name).isVisible(); }
 
-  [[nodiscard]] FocusRing& Ring() { return *view.findChild<FocusRing*>(); }
-
-  TemporaryFolder folder;
-  Text map = folder.Path(u"a.jpg");
-  Text data = folder.Path(u"a.data");
-  IniOps::Cache cache;
-  GermanNames names{folder.Path(u"info.data")};
-  MapView view{cache, names};
+  FocusRing& Ring() { return Part<FocusRing>(view); }
 };
 
 }  // namespace
@@ -87,9 +60,8 @@ TEST_F(MapFocusTest, DoesWhatRestingThePointerDoes) {
   Multi(true);
   EnterMap();
   EXPECT_TRUE(IsShown("lblDOT(0)"));
-  auto* const name = view.findChild<QLabel*>(QStringLiteral("lblDOT(0)"));
-  EXPECT_EQ(name->toolTip(), u"Heult....");
-  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == u"Heult...."; }));
+  EXPECT_EQ(At("lblDOT(0)").toolTip(), u"a < b und c > d...");
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text() == u"a < b und c > d..."; }));
   Press(Qt::Key_Right);
   EXPECT_FALSE(IsShown("lblDOT(0)"));
   EXPECT_TRUE(IsShown("lblDOT(2)"));
@@ -115,7 +87,7 @@ TEST_F(MapFocusTest, ComingBackToTheWindowTakesNoMarkerThatHadNoFocus) {
   Press(Qt::Key_Escape);
   comeBack();
   EXPECT_EQ(Focus(), "nothing");
-  view.Change(map, data, u"t");
+  List();
   Multi();
   comeBack();
   EXPECT_FALSE(Ring().isVisible()) << "the list had the focus and is hidden";
@@ -135,12 +107,11 @@ TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {
   Multi();
   EXPECT_FALSE(Ring().isVisible());
   EnterMap();
-  auto* const first = view.findChild<QWidget*>(QStringLiteral("DOT(0)"));
   EXPECT_TRUE(Ring().isVisible());
-  EXPECT_EQ(Ring().geometry().center(), first->geometry().center());
+  EXPECT_EQ(Ring().geometry().center(), At("DOT(0)").geometry().center());
   view.resize(1200, 800);
   EXPECT_EQ(Focus(), "DOT(0)") << "a resize draws the markers anew";
-  EXPECT_EQ(Ring().geometry().center(), first->geometry().center());
+  EXPECT_EQ(Ring().geometry().center(), At("DOT(0)").geometry().center());
   view.Focus().SetRingLeftOut(true);
   EXPECT_FALSE(Ring().isVisible());
   view.Focus().SetRingLeftOut(false);
@@ -150,10 +121,9 @@ TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {
 }
 
 TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
-  view.Change(map, data, u"t");
+  List();
   Press(Qt::Key_A);
-  EXPECT_EQ(view.findChild<ctlLocation*>(QStringLiteral("ITEM"))->Desc(), u"Amsel")
-      << "typed letters pick";
+  EXPECT_EQ(Part<ctlLocation>(view, "ITEM").Desc(), u"Amsel") << "typed letters pick";
   std::string way;
   for (int i = 0; i < 3; ++i) {
     Press(Qt::Key_Tab);
@@ -172,16 +142,15 @@ TEST_F(MapFocusTest, EscapeGoesFromTheSingleMarkerToTheList) {
 
 TEST_F(MapFocusTest, AHiddenListHasNoKeyboardWhenAMenuCloses) {
   QMainWindow window;
-  QMenu menu(QStringLiteral("&Menu"));
+  QMenu menu(u"&Menu"_s);
   window.menuBar()->addMenu(&menu);
-  QAction* const list =
-      menu.addAction(QStringLiteral("&List"), [this] { view.Change(map, data, u"t"); });
-  menu.addAction(QStringLiteral("&Markers"), [this] { Multi(); });
-  menu.addAction(QStringLiteral("&Both"), [this, list] {
+  QAction* const list = menu.addAction(u"&List"_s, [this] { List(); });
+  menu.addAction(u"&Markers"_s, [this] { Multi(); });
+  menu.addAction(u"&Both"_s, [this, list] {
     list->trigger();
     Multi();
   });
-  auto* const items = view.findChild<QComboBox*>(QStringLiteral("cboItems"));
+  auto& items = Part<QComboBox>(view, "cboItems");
   window.setCentralWidget(&view);
   window.show();
   QApplication::setActiveWindow(&window);
@@ -193,8 +162,8 @@ TEST_F(MapFocusTest, AHiddenListHasNoKeyboardWhenAMenuCloses) {
     for (const Qt::Key key : way)
       choose(key);
     EXPECT_EQ(window.focusWidget(), nullptr);
-    items->setCurrentIndex(1);
-    Q_EMIT items->activated(1);
+    items.setCurrentIndex(1);
+    Q_EMIT items.activated(1);
     EXPECT_FALSE(IsShown("ITEM"));
   }
   view.setParent(nullptr);
@@ -203,16 +172,16 @@ TEST_F(MapFocusTest, AHiddenListHasNoKeyboardWhenAMenuCloses) {
 TEST_F(MapFocusTest, IsAListOfTheMarkersShown) {
   Multi();
   const auto of = [this](const char* name) {
-    return QAccessible::queryAccessibleInterface(view.findChild<QWidget*>(QLatin1String(name)));
+    return QAccessible::queryAccessibleInterface(&At(name));
   };
   QAccessibleInterface* const list = of("imgMap");
   EXPECT_EQ(list->role(), QAccessible::List);
-  EXPECT_EQ(list->text(QAccessible::Name), u"H");
+  EXPECT_EQ(list->text(QAccessible::Name), u"Arvenna: Lehrer");
   ASSERT_EQ(list->childCount(), 3);
   QAccessibleInterface* const wolf = list->child(0);
   EXPECT_EQ(wolf->role(), QAccessible::ListItem);
   EXPECT_EQ(wolf->text(QAccessible::Name), u"Wolf");
-  EXPECT_EQ(wolf->text(QAccessible::Description), u"hervorgehoben. Heult....");
+  EXPECT_EQ(wolf->text(QAccessible::Description), u"hervorgehoben. a < b und c > d...");
   EXPECT_EQ(wolf->parent(), list);
   EXPECT_EQ(list->indexOfChild(of("DOT(3)")), 2);
   EXPECT_EQ(list->indexOfChild(of("DOT(1)")), -1) << "disabled";

@@ -1,44 +1,31 @@
 #include "mapdata/windows/MapPicture.h"
 #include "platform/windows/PictureReader.h"
-#include "support/TemporaryFolder.h"
+#include "support/Windows.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <QPainter>
 
 #include <sys/stat.h>
 
 #include <gtest/gtest.h>
 
-namespace {
-
-std::string Encoded(const QSize& size, const char* format, Qt::GlobalColor color = Qt::darkGreen) {
-  QImage image(size, QImage::Format_RGB32);
-  image.fill(color);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  image.save(&buffer, format);
-  return bytes.toStdString();
-}
-
-}  // namespace
-
 TEST(PictureReader, ReadsWhatAPictureIsWhateverItsName) {
   const TemporaryFolder folder;
   for (const char* format : {"jpeg", "bmp", "png"}) {
-    folder.Write("picture.gif", Encoded({40, 30}, format));
+    Paint(folder, "picture.gif", Qt::green, {40, 30}, format);
     EXPECT_EQ(PictureReader::Read(folder.Path(u"PICTURE.GIF")).size(), QSize(40, 30)) << format;
   }
 }
 
 TEST(PictureReader, RefusesWhatIsNone) {
   const TemporaryFolder folder;
-  std::string huge = Encoded({8, 8}, "bmp");
+  Paint(folder, "small", Qt::green, {8, 8}, "bmp");
+  std::string huge = folder.Read("small");
   huge.replace(18, 8, std::string("\x20\x4E\0\0\x20\x4E\0\0", 8));
   folder.Write("huge", huge);
   folder.Write("empty", "");
   folder.Write("text", "no picture");
-  folder.Write("cut", Encoded({400, 300}, "png").substr(0, 60));
+  Paint(folder, "whole", Qt::green, {400, 300});
+  folder.Write("cut", folder.Read("whole").substr(0, 60));
   folder.Write("svg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
   folder.Write("folder/x", "");
   ASSERT_EQ(::mkfifo(folder.Native("fifo").c_str(), 0600), 0);
@@ -49,7 +36,7 @@ TEST(PictureReader, RefusesWhatIsNone) {
 
 TEST(PictureReader, ReadsOnlyAsManyPixelsAsTheScreenNeeds) {
   const TemporaryFolder folder;
-  folder.Write("a.jpg", Encoded({2001, 1501}, "jpeg"));
+  Paint(folder, "a.jpg", Qt::green, {2001, 1501}, "jpeg");
   const auto size = [&](const QSize& cover) {
     return PictureReader::Read(folder.Path(u"a.jpg"), cover).size();
   };
@@ -66,11 +53,11 @@ TEST(MapPicture, ReadsAnewWhatChangedAndKeepsWhatWorked) {
   MapPicture picture;
   EXPECT_FALSE(picture.Load(path, view, view));
   EXPECT_TRUE(picture.At(view).isNull());
-  folder.Write("a.jpg", Encoded({400, 300}, "png", Qt::red));
+  Paint(folder, "a.jpg", Qt::red, {400, 300});
   ASSERT_TRUE(picture.Load(path, view, view));
   EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::red));
   EXPECT_EQ(picture.At({300, 200}).size(), QSize(300, 200));
-  folder.Write("a.jpg", Encoded({400, 301}, "png", Qt::blue));
+  Paint(folder, "a.jpg", Qt::blue, {400, 301});
   ASSERT_TRUE(picture.Load(path, view, view));
   EXPECT_EQ(picture.At(view).pixelColor(50, 30), QColor(Qt::blue));
   folder.Write("a.jpg", "broken");
@@ -87,20 +74,17 @@ TEST(MapPicture, ReadsForACloserViewWhatItNeedsAndNoMore) {
   const QSize view(400, 300);
   const auto bytes = [](int width) { return qsizetype{width} * (width * 3 / 4) * 4; };
   const auto part = [](double scale) { return QRectF(0.5 / scale, 0, 1 / scale, 1 / scale); };
-  folder.Write("a.jpg", Encoded({3200, 2400}, "jpeg"));
+  Paint(folder, "a.jpg", Qt::green, {3200, 2400}, "jpeg");
   MapPicture picture;
   ASSERT_TRUE(picture.Load(folder.Path(u"a.jpg"), view, view));
 
-  struct {
-    double scale;
-    bool reads;
-    qsizetype level;
-  } const steps[] = {{1.25, true, 800}, {2, false, 800},  {4, true, 1600},
-                     {8, true, 3200},   {4, false, 3200}, {3, true, 1600}};
+  const std::tuple<double, bool, int> steps[] = {{1.25, true, 800}, {2, false, 800},
+                                                 {4, true, 1600},   {8, true, 3200},
+                                                 {4, false, 3200},  {3, true, 1600}};
 
-  for (const auto& step : steps) {
-    EXPECT_EQ(picture.Sharpen(view, part(step.scale)), step.reads) << step.scale;
-    EXPECT_EQ(picture.SizeInBytes(), bytes(400) + bytes(static_cast<int>(step.level)));
+  for (const auto& [scale, reads, level] : steps) {
+    EXPECT_EQ(picture.Sharpen(view, part(scale)), reads) << scale;
+    EXPECT_EQ(picture.SizeInBytes(), bytes(400) + bytes(level));
   }
   EXPECT_FALSE(picture.Sharpen(view, part(3))) << "it is there";
   static_cast<void>(picture.Sharpen(view, {0, 0, 1, 1}));
@@ -112,10 +96,12 @@ TEST(MapPicture, MixesNoOtherFilesPixelsIntoACloserView) {
   const QSize view(400, 300);
   const QRectF part(0.25, 0.25, 0.25, 0.25);
   for (const QSize& other : {QSize(100, 80), QSize(1600, 1200), QSize()}) {
-    folder.Write("a.jpg", Encoded({3200, 2400}, "jpeg", Qt::red));
+    Paint(folder, "a.jpg", Qt::red, {3200, 2400}, "jpeg");
     MapPicture picture;
     ASSERT_TRUE(picture.Load(folder.Path(u"a.jpg"), view, view));
-    folder.Write("a.jpg", other.isEmpty() ? "broken" : Encoded(other, "jpeg", Qt::blue));
+    folder.Write("a.jpg", "broken");
+    if (!other.isEmpty())
+      Paint(folder, "a.jpg", Qt::blue, other, "jpeg");
     EXPECT_FALSE(picture.Sharpen(view, part));
     QImage shown(view, QImage::Format_RGB32);
     QPainter painter(&shown);
@@ -127,8 +113,8 @@ TEST(MapPicture, MixesNoOtherFilesPixelsIntoACloserView) {
 TEST(MapPicture, GoesBackToAPictureWithoutReadingItFirst) {
   const TemporaryFolder folder;
   const QSize view(100, 75);
-  folder.Write("a.png", Encoded({400, 300}, "png", Qt::red));
-  folder.Write("b.png", Encoded({400, 300}, "png", Qt::blue));
+  Paint(folder, "a.png", Qt::red, {400, 300});
+  Paint(folder, "b.png", Qt::blue, {400, 300});
   MapPicture picture;
   ASSERT_TRUE(picture.Load(folder.Path(u"a.png"), view, view));
   static_cast<void>(picture.At(view));

@@ -4,11 +4,20 @@
 #include "mapdata/files/StringOps.h"
 #include "mapdata/world/InfoFile.h"
 #include "support/GermanNames.h"
-#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 using EntityFile::Position;
+
+namespace {
+
+std::vector<EntityFile::Marker> Markers(const ProfileFile& data) {
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  return EntityFile::ReadMarkers(data, u"t", files, GermanNames(), 81);
+}
+
+}  // namespace
 
 TEST(StringOps, SplitsInTwoWays) {
   using namespace StringOps;
@@ -26,32 +35,24 @@ TEST(StringOps, SplitsInTwoWays) {
 }
 
 TEST(StringOps, ReadsNumbersInTwoWays) {
-  struct {
+  constexpr auto none = std::nullopt;
+
+  const struct {
     std::string_view text;
     int leading;
     std::optional<int> whole;
-  } const cases[] = {
-      {"512", 512, 512},
-      {" 12abc", 12, std::nullopt},
-      {" 300 ", 300, 300},
-      {"", 0, std::nullopt},
-      {"2.5", 2, 2},
-      {"3.5", 4, 4},
-      {"-7", -7, -7},
-      {"+.6", 1, 1},
-      {"1e3", 1, std::nullopt},
-      {"inf", 0, std::nullopt},
-      {"-", 0, std::nullopt},
-      {".", 0, std::nullopt},
-      {"1.2.3", 1, std::nullopt},
-      {"99999", 32767, std::nullopt},
-      {"1,5", 1, std::nullopt},
-      {"0.50000000000000000000000000000000001", 0, 0},
-  };
+  } cases[] = {{"512", 512, 512},   {" 12abc", 12, none},
+               {" 300 ", 300, 300}, {"", 0, none},
+               {"2.5", 2, 2},       {"3.5", 4, 4},
+               {"-7", -7, -7},      {"+.6", 1, 1},
+               {"1e3", 1, none},    {"inf", 0, none},
+               {"-", 0, none},      {".", 0, none},
+               {"1.2.3", 1, none},  {"99999", 32767, none},
+               {"1,5", 1, none},    {"0.50000000000000000000000000000000001", 0, 0}};
 
   for (const auto& test : cases) {
-    EXPECT_EQ(StringOps::LeadingNumber(test.text), test.leading);
-    EXPECT_EQ(StringOps::WholeNumber(test.text), test.whole);
+    EXPECT_EQ(StringOps::LeadingNumber(test.text), test.leading) << test.text;
+    EXPECT_EQ(StringOps::WholeNumber(test.text), test.whole) << test.text;
   }
   const StringOps::Number number = StringOps::ReadNumber(" 40000 px");
   EXPECT_TRUE(number.read && number.clamped);
@@ -61,15 +62,12 @@ TEST(StringOps, ReadsNumbersInTwoWays) {
 }
 
 TEST(EntityFile, ThreeReadersOfOneValue) {
-  const TemporaryFolder folder;
-  const Text file = folder.Path(u"a.data");
-
-  struct {
+  const struct {
     std::string value;
     Position marker;
     std::optional<Position> picked;
     std::optional<Position> found;
-  } const cases[] = {
+  } cases[] = {
       {" 512 , 300 , * ", {512, 300}, Position{512, 300}, Position{512, 300}},
       {"640", {640, 640}, std::nullopt, Position{640, 640}},
       {"12abc,5", {12, 5}, std::nullopt, Position{0, 5}},
@@ -82,13 +80,8 @@ TEST(EntityFile, ThreeReadersOfOneValue) {
   };
 
   for (const auto& test : cases) {
-    folder.Write("a.data",
-                 "[smiths]\r\nTom=7,8,*\r\n[chain]\r\nTom=#,smiths\r\n[t]\r\nTom=" + test.value);
-    IniOps::Cache cache;
-    IniOps::Snapshot files(cache);
-    const ProfileFile& data = files.File(file);
-    const GermanNames names;
-    const auto markers = EntityFile::ReadMarkers(data, u"t", files, names, 81);
+    const ProfileFile data("[smiths]\nTom=7,8,*\n[chain]\nTom=#,smiths\n[t]\nTom=" + test.value);
+    const auto markers = Markers(data);
     ASSERT_EQ(markers.size(), 1U);
     EXPECT_EQ(markers[0].position, test.marker) << test.value;
     EXPECT_EQ(markers[0].highlighted, test.value.find('*') != std::string::npos) << test.value;
@@ -109,45 +102,37 @@ TEST(EntityFile, TellsWhereEachPartStands) {
 }
 
 TEST(EntityFile, DisabledLinesTakeTheirSlotAndOthersFollow) {
-  const TemporaryFolder folder;
   std::string lines = "[t]\r\nAlpha=1,2\r\n;Beta=3,4,*\r\n*Gamma=5,6\r\n";
   for (int i = 3; i < 100; ++i)
     lines += "K" + std::to_string(i) + "=1,1\r\n";
-  folder.Write("a.data", lines);
-  IniOps::Cache cache;
-  IniOps::Snapshot files(cache);
-  const ProfileFile& data = files.File(folder.Path(u"a.data"));
-  const GermanNames names;
-  const auto markers = EntityFile::ReadMarkers(data, u"t", files, names, 81);
+  const ProfileFile data(std::move(lines));
+  const auto markers = Markers(data);
   ASSERT_EQ(markers.size(), 81U);
   EXPECT_TRUE(markers[1].disabled);
   EXPECT_EQ(markers[1].position, Position());
   EXPECT_FALSE(markers[2].disabled);
   EXPECT_EQ(markers[2].name, u"*Gamma");
-  const auto listed = EntityFile::ReadNames(data, u"t", files, names);
+  IniOps::Cache cache;
+  IniOps::Snapshot files(cache);
+  const auto listed = EntityFile::ReadNames(data, u"t", files, GermanNames());
   ASSERT_EQ(listed.size(), 99U);
   EXPECT_EQ(listed[1], u"*Gamma");
 }
 
 TEST(InfoFile, RedirectsOnceAndCutsForTooltips) {
-  const TemporaryFolder folder;
-  folder.Write("info.data",
-               "[Info]\r\na=# B \r\nb=#c\r\nc=end\r\nbreaks=one\\ntwo\r\nblank=\\n\\n\r\nlong=" +
-                   std::string(200, 'x') + "\r\n");
-  IniOps::Cache cache;
-  IniOps::Snapshot files(cache);
+  const ProfileFile file(
+      "[Info]\r\na=# B \r\nb=#c\r\nc=end\r\nbreaks=one\\ntwo\r\nblank=\\n\\n\r\nlong=" +
+      std::string(200, 'x') + "\r\n");
   const auto same = [](TextView key) { return Text(key); };
-  const ProfileFile& file = files.File(folder.Path(u"info.data"));
   EXPECT_EQ(InfoFile::ReadRedirected(file, u"A", same), u"#c");
   EXPECT_EQ(InfoFile::ReadRedirected(file, u" b ", same), u"end");
-  const auto tip = [&](TextView key) {
-    return InfoFile::TooltipOf(InfoFile::ReadEntry(file, key));
-  };
-  EXPECT_EQ(tip(u"breaks"), u"one two...");
-  EXPECT_EQ(tip(u"blank"), u"");
-  EXPECT_EQ(tip(u"none"), u"");
-  EXPECT_EQ(tip(u"long"), Text(80, u'x') + u"...");
-  EXPECT_EQ(tip(u"a"), u"# B...");
+  const std::pair<TextView, Text> tips[] = {{u"breaks", u"one two..."},
+                                            {u"blank", u""},
+                                            {u"none", u""},
+                                            {u"long", Text(80, u'x') + u"..."},
+                                            {u"a", u"# B..."}};
+  for (const auto& [key, tip] : tips)
+    EXPECT_EQ(InfoFile::TooltipOf(InfoFile::ReadEntry(file, key)), tip);
 }
 
 TEST(Placement, KeepsNamesOnTheMap) {

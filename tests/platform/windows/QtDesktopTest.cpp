@@ -1,137 +1,105 @@
 #include "platform/windows/QtDesktop.h"
 
 #include "platform/windows/PageWindow.h"
-#include "support/TemporaryFolder.h"
+#include "support/Windows.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTextDocument>
-#include <QTimer>
-#include <QUrl>
 
 #include <gtest/gtest.h>
 
 namespace {
 
 // A program search path of two scripts that write down what they are given, one argument a line.
-class FakeTools {
- public:
+class FakeTools : public testing::Test {
+ protected:
   FakeTools() {
     const std::string log = folder.Native("log");
-    Script("xdg-open", "for a in \"$@\"; do echo \"<$a>\"; done >> " + log);
-    Script("xdg-mime", "echo \"$2 $3\" >> " + log + "; [ \"$3\" = text/html ] && echo b.desktop");
-    path_ = qgetenv("PATH");
+    Script("bin/xdg-open", "for a in \"$@\"; do echo \"<$a>\"; done >> " + log);
+    Script("bin/xdg-mime",
+           "echo \"$2 $3\" >> " + log + "; [ \"$3\" = text/html ] && echo b.desktop");
     qputenv("PATH", QByteArray::fromStdString(folder.Native("bin") + ":/usr/bin:/bin"));
+    qputenv("HOME", QByteArray::fromStdString(folder.Native("home")));
   }
 
-  ~FakeTools() { qputenv("PATH", path_); }
+  ~FakeTools() override {
+    qputenv("PATH", path_);
+    qputenv("HOME", home_);
+  }
 
-  [[nodiscard]] bool Logged(const std::string& lines) const {
-    return QTest::qWaitFor([&] { return folder.Read("log") == lines; });
+  void Script(const std::string& name, const std::string& body) const {
+    folder.Write(name, "#!/bin/sh\n" + body + "\n");
+    std::filesystem::permissions(folder.Native(name), std::filesystem::perms::owner_all);
+  }
+
+  void ExpectWritten(const std::string& name, const std::string& lines) const {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Read(name) == lines; })) << folder.Read(name);
   }
 
   TemporaryFolder folder;
+  QtDesktop desktop;
 
  private:
-  void Script(const std::string& name, const std::string& body) const {
-    folder.Write("bin/" + name, "#!/bin/sh\n" + body + "\n");
-    std::filesystem::permissions(folder.Native("bin/" + name), std::filesystem::perms::owner_all);
-  }
-
-  QByteArray path_;
+  const QByteArray path_ = qgetenv("PATH");
+  const QByteArray home_ = qgetenv("HOME");
 };
 
 }  // namespace
 
-TEST(QtDesktop, HandsOverOneArgumentAndNeverAnOption) {
-  const FakeTools tools;
-  QtDesktop desktop;
+TEST_F(FakeTools, GetOneArgumentAndNeverAnOption) {
   EXPECT_EQ(desktop.Open("--help"), Desktop::Refused);
   EXPECT_EQ(desktop.Open("http://a.example/$(touch x) 'b' \"c\";d"), Desktop::Started);
-  EXPECT_TRUE(tools.Logged("<http://a.example/$(touch x) 'b' \"c\";d>\n"))
-      << tools.folder.Read("log");
+  ExpectWritten("log", "<http://a.example/$(touch x) 'b' \"c\";d>\n");
 }
 
-TEST(QtDesktop, PathsThatAreNoTextAreHandedOverAsTheyStand) {
-  const FakeTools tools;
-  QtDesktop desktop;
-  const std::string folder = tools.folder.Native("W\xE4lder");
-  std::filesystem::create_directory(folder);
-  EXPECT_EQ(desktop.Open(folder + "/a.html"), Desktop::Started);
-  EXPECT_TRUE(tools.Logged('<' + folder + "/a.html>\n")) << tools.folder.Read("log");
-  tools.folder.Write("W\xE4lder/tool.exe", "#!/bin/sh\npwd > out\n");
-  std::filesystem::permissions(folder + "/tool.exe", std::filesystem::perms::owner_all);
-  EXPECT_EQ(desktop.StartProgram(folder + "/tool.exe", folder), Desktop::Started);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return tools.folder.Read("W\xE4lder/out") == folder + '\n'; }));
-  EXPECT_EQ(desktop.StartProgram(folder + "/none.exe", folder), Desktop::Refused);
+TEST_F(FakeTools, GetPathsThatAreNoTextAsTheyStand) {
+  const std::string place = folder.Native("W\xE4lder");
+  Script("W\xE4lder/tool.exe", "pwd > out");
+  EXPECT_EQ(desktop.Open(place + "/a.html"), Desktop::Started);
+  ExpectWritten("log", '<' + place + "/a.html>\n");
+  EXPECT_EQ(desktop.StartProgram(place + "/tool.exe", place), Desktop::Started);
+  ExpectWritten("W\xE4lder/out", place + '\n');
+  EXPECT_EQ(desktop.StartProgram(place + "/none.exe", place), Desktop::Refused);
 }
 
-TEST(QtDesktop, AsksTheDesktopForViewers) {
-  const FakeTools tools;
-  QtDesktop desktop;
-  EXPECT_TRUE(desktop.HasViewer("text/html"));
-  EXPECT_FALSE(desktop.HasViewer("application/vnd.ms-htmlhelp"));
-  const std::string asked = tools.folder.Read("log");
-  EXPECT_TRUE(desktop.HasViewer("text/html"));
-  EXPECT_FALSE(desktop.HasViewer("application/vnd.ms-htmlhelp"));
-  EXPECT_EQ(tools.folder.Read("log"), asked) << "asked once";
+TEST_F(FakeTools, AreAskedForViewersOnce) {
+  const auto hasViewers = [this] {
+    return std::pair(desktop.HasViewer("text/html"),
+                     desktop.HasViewer("application/vnd.ms-htmlhelp"));
+  };
+  EXPECT_EQ(hasViewers(), std::pair(true, false));
+  const std::string asked = folder.Read("log");
+  EXPECT_EQ(hasViewers(), std::pair(true, false));
+  EXPECT_EQ(folder.Read("log"), asked);
   qputenv("PATH", "/nonexistent");
   EXPECT_FALSE(QtDesktop().HasViewer("text/html"));
   EXPECT_EQ(desktop.Open("http://a.example"), Desktop::Refused);
 }
 
-namespace {
-
-// What the file dialog offers before it is answered with this name, and what comes of it.
-struct Asked {
-  QString folder;
-  QString name;
-  QStringList filters;
-  std::string result;
-};
-
-Asked AskForPdf(const QString& answer) {
-  Asked asked;
-  QTimer::singleShot(100, [&] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    auto* name = dialog->findChild<QLineEdit*>();
-    asked.folder = dialog->directory().path();
-    asked.name = name->text();
-    asked.filters = dialog->nameFilters();
-    name->setText(answer);
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  asked.result = QtDesktop().AskPdfToWrite(u"Print", u"Arvenna - Lehrer.pdf");
-  return asked;
-}
-
-}  // namespace
-
-TEST(QtDesktop, AsksForPdfFilesInTheDocumentsFolderOrElseAtHome) {
-  const TemporaryFolder folder;
-  folder.Write("Documents/x", "");
-  const QByteArray home = qgetenv("HOME");
-  qputenv("HOME", QByteArray::fromStdString(folder.Native("")).chopped(1));
-  const Asked documents = AskForPdf(QStringLiteral("Karte"));
-  EXPECT_EQ(documents.folder.toStdString(), folder.Native("Documents"));
-  EXPECT_EQ(documents.name, QStringLiteral("Arvenna - Lehrer.pdf"));
-  EXPECT_EQ(documents.filters, QStringList(QStringLiteral("PDF (*.pdf)")));
-  EXPECT_EQ(documents.result, folder.Native("Documents/Karte.pdf"));
-  std::filesystem::remove_all(folder.Native("Documents"));
-  const Asked atHome = AskForPdf(QStringLiteral("Karte 1.2"));
-  EXPECT_EQ(atHome.folder.toStdString() + '/', folder.Native(""));
-  EXPECT_EQ(atHome.result, folder.Native("Karte 1.2.pdf"));
-  qputenv("HOME", home);
+TEST_F(FakeTools, PdfFilesGoIntoTheDocumentsFolderOrElseHome) {
+  for (const std::string place : {"home/Documents", "home"}) {
+    std::filesystem::remove_all(folder.Native("home"));
+    folder.Write(place + "/x", "");
+    std::string chosen;
+    Opened([&] { chosen = desktop.AskPdfToWrite(u"Print", u"Arvenna - Lehrer.pdf"); },
+           [&](QWidget& window) {
+             const auto& dialog = dynamic_cast<QFileDialog&>(window);
+             auto& name = Part<QLineEdit>(dialog);
+             EXPECT_EQ(dialog.directory().path().toStdString(), folder.Native(place));
+             EXPECT_EQ(name.text(), u"Arvenna - Lehrer.pdf"_s);
+             EXPECT_EQ(dialog.nameFilters(), QStringList(u"PDF (*.pdf)"_s));
+             name.setText(u"Karte 1.2"_s);
+             QTest::keyClick(&name, Qt::Key_Return);
+           });
+    EXPECT_EQ(chosen, folder.Native(place + "/Karte 1.2.pdf"));
+  }
 }
 
 TEST(QtDesktop, EveryGermanIsDeu) {
-  QtDesktop desktop;
-  EXPECT_EQ(desktop.UserLanguage(), u"deu");
+  EXPECT_EQ(QtDesktop().UserLanguage(), u"deu");
 }
 
 TEST(QtDesktop, SoundThatCannotBePlayedTroublesNobody) {
@@ -149,65 +117,76 @@ TEST(QtDesktop, SoundThatCannotBePlayedTroublesNobody) {
   desktop.StopSound();
 }
 
-TEST(PageWindow, ShowsPagesOfBothEncodingsTitledByThemselves) {
-  const TemporaryFolder folder;
+namespace {
+
+class Pages : public testing::Test {
+ protected:
+  // The page of that name in a window.
+  PageWindow& Open(const std::string& name) {
+    return window_.emplace(nullptr, folder.Native(name));
+  }
+
+  QTextBrowser& Browser() { return Part<QTextBrowser>(*window_); }
+
+  std::string PlainText() { return Browser().toPlainText().toStdString(); }
+
+  TemporaryFolder folder;
+
+ private:
+  std::optional<PageWindow> window_;
+};
+
+}  // namespace
+
+TEST_F(Pages, OfBothEncodingsAreShownAndTitledByThemselves) {
   folder.Write("utf8.html", "<html><head><title>Hilfe für alle</title></head><p>Größe</p></html>");
   folder.Write("old.html",
                "<p>Gr\xF6\xDF"
                "e</p>");
-  const PageWindow page(nullptr, folder.Native("utf8.html"));
-  EXPECT_EQ(page.windowTitle(), QStringLiteral("Hilfe für alle"));
-  EXPECT_EQ(page.findChild<QTextBrowser*>()->toPlainText(), QStringLiteral("Größe"));
-  const PageWindow old(nullptr, folder.Native("old.html"));
-  EXPECT_EQ(old.windowTitle(), QStringLiteral("old.html"));
-  EXPECT_EQ(old.findChild<QTextBrowser*>()->toPlainText(), QStringLiteral("Größe"));
-  const PageWindow none(nullptr, folder.Native("none.html"));
-  EXPECT_EQ(none.findChild<QTextBrowser*>()->toPlainText(), QString());
+  EXPECT_EQ(TitleOf(Open("utf8.html")), "Hilfe für alle");
+  EXPECT_EQ(PlainText(), "Größe");
+  EXPECT_EQ(TitleOf(Open("old.html")), "old.html");
+  EXPECT_EQ(PlainText(), "Größe");
+  Open("none.html");
+  EXPECT_EQ(PlainText(), "");
 }
 
-TEST(PageWindow, APageBeyondTheLimitsIsPlainText) {
-  const TemporaryFolder folder;
+TEST_F(Pages, BeyondTheLimitsArePlainText) {
   std::string page = "<title>Seite</title>";
   for (int i = 0; i < 20'000; ++i)
     page += "<b>x ";
   folder.Write("page.html", page);
-  const PageWindow window(nullptr, folder.Native("page.html"));
-  EXPECT_EQ(window.findChild<QTextBrowser*>()->toPlainText().toStdString(), page);
-  EXPECT_EQ(window.windowTitle(), QStringLiteral("page.html"));
+  EXPECT_EQ(TitleOf(Open("page.html")), "page.html");
+  EXPECT_EQ(PlainText(), page);
 }
 
-TEST(PageWindow, ReadsOnlyWhatLiesBesideThePage) {
-  const TemporaryFolder folder;
+TEST_F(Pages, ReadOnlyWhatLiesBesideThem) {
   folder.Write("secret.txt", "x");
   folder.Write("docs/page.html", "<p>a");
   folder.Write("docs/pic.txt", "picture");
-  const PageWindow page(nullptr, folder.Native("docs/page.html"));
-  auto* browser = page.findChild<QTextBrowser*>();
-  const auto read = [browser](const QString& name) {
-    return browser->loadResource(QTextDocument::ImageResource, QUrl(name)).toByteArray();
+  Open("docs/page.html");
+  const auto read = [this](const QString& name) {
+    return Browser().loadResource(QTextDocument::ImageResource, QUrl(name)).toByteArray();
   };
-  EXPECT_EQ(read(QStringLiteral("pic.txt")), QByteArray("picture"));
-  EXPECT_EQ(read(QStringLiteral("PIC.txt")), QByteArray("picture"));
-  EXPECT_TRUE(read(QStringLiteral("../secret.txt")).isEmpty());
-  EXPECT_TRUE(read(QStringLiteral("/etc/hostname")).isEmpty());
-  EXPECT_TRUE(read(QStringLiteral("file:///etc/hostname")).isEmpty());
-  EXPECT_TRUE(read(QStringLiteral("http://a.example/x")).isEmpty());
+  for (const auto& name : {u"pic.txt"_s, u"PIC.txt"_s})
+    EXPECT_EQ(read(name), QByteArray("picture"));
+  for (const auto& name :
+       {u"../secret.txt"_s, u"/etc/hostname"_s, u"file:///etc/hostname"_s, u"http://a.example/x"_s})
+    EXPECT_TRUE(read(name).isEmpty());
 }
 
-TEST(PageWindow, LinksLeadToPlacesOfThePageOnly) {
-  const TemporaryFolder folder;
-  QByteArray page("<p><a href='#end'>x</a>");
-  page += QByteArray("<p>line").repeated(200) + "<p><a name='end'>end</a>";
-  folder.Write("page.html", page.toStdString());
-  PageWindow window(nullptr, folder.Native("page.html"));
+TEST_F(Pages, LinkToTheirOwnPlacesOnly) {
+  const QByteArray lines = QByteArray("<p>line").repeated(200);
+  folder.Write("page.html",
+               "<p><a href='#end'>x</a>" + lines.toStdString() + "<a name='end'>end</a>");
+  PageWindow& window = Open("page.html");
   window.show();
-  auto* browser = window.findChild<QTextBrowser*>();
-  const QString before = browser->toPlainText();
-  Q_EMIT browser->anchorClicked(QUrl(QStringLiteral("http://a.example/")));
-  EXPECT_EQ(browser->verticalScrollBar()->value(), 0);
-  Q_EMIT browser->anchorClicked(QUrl(QStringLiteral("#end")));
-  EXPECT_GT(browser->verticalScrollBar()->value(), 0);
-  EXPECT_EQ(browser->toPlainText(), before);
-  QTest::keyClick(browser, Qt::Key_Escape);
+  const std::string before = PlainText();
+  Q_EMIT Browser().anchorClicked(QUrl(u"http://a.example/"_s));
+  EXPECT_EQ(Browser().verticalScrollBar()->value(), 0);
+  Q_EMIT Browser().anchorClicked(QUrl(u"#end"_s));
+  EXPECT_GT(Browser().verticalScrollBar()->value(), 0);
+  EXPECT_EQ(PlainText(), before);
+  QTest::keyClick(&Browser(), Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());
 }

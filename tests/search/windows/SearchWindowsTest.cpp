@@ -1,46 +1,32 @@
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/display/Placement.h"
 #include "mapdata/windows/MapView.h"
-#include "mapdata/windows/NameLabel.h"
 #include "mapdata/windows/ctlLocation.h"
-#include "platform/windows/QtText.h"
-#include "search/SearchWorld.h"
 #include "search/windows/SearchCommands.h"
 #include "search/windows/frmFind.h"
-#include "support/DialogCheck.h"
+#include "support/TestWorld.h"
+#include "support/Windows.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
-using QtText::ToQt;
 
 namespace {
 
-constexpr TextView English =
-    u"[entities]\r\nHändler=Merchant\r\n[frmFind]\r\nSearchResult=Result for: %s\r\n"
-    u"searchindescriptions=Search in the descriptions of everybody\r\n";
+using Names = std::vector<std::string>;
 
-class SearchWindows : public testing::Test {
+class SearchWindows : public testing::Test, protected TestWorld {
  protected:
   SearchWindows() {
-    QImage picture(64, 48, QImage::Format_RGB32);
-    picture.fill(Qt::darkGreen);
     for (const char* name : {"arvenna.jpg", "skaldor.jpg"})
-      picture.save(QString::fromStdString(world_.folder.Native(name)), "PNG");
-    world_.Write("arvenna.data", u"[NPC]\r\nWolf=100,200\r\nHändler Mara=500,300\r\n");
-    world_.Write("skaldor.data", u"[NPC]\r\nWolf=900,700\r\nRand=1023,50\r\nUnklar=a,b\r\n");
-    world_.Write("sarrakh.data", u"[NPC]\r\nOhne Bild=1,1\r\n");
-    world_.Write("info.data", u"[info]\r\nWolf=Ein <b>Wolf</b>\\nallein\r\n");
+      Paint(folder, name, Qt::darkGreen);
+    Write("arvenna.data", u"[NPC]\r\nWolf=100,200\r\nHändler Mara=500,300\r\n");
+    Write("skaldor.data", u"[NPC]\r\nWolf=900,700\r\nRand=1023,50\r\nUnklar=a,b\r\n");
+    Write("sarrakh.data", u"[NPC]\r\nOhne Bild=1,1\r\n");
+    Write("info.data", u"[info]\r\nWolf=Ein <b>Wolf</b>\\nallein\r\n");
     map_.SetTexts(u"  --- Prompt ---", u"Tip", u"marked", u"Prompt");
     map_.resize(1000, 700);
     map_.show();
@@ -48,36 +34,21 @@ class SearchWindows : public testing::Test {
 
   // Types the term into the dialog of the find command and presses Enter.
   void Find(const QString& term) {
-    QTimer::singleShot(0, [term] {
-      auto* dialog = qobject_cast<frmFind*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(dialog);
-      auto* text = dialog->findChild<QLineEdit*>(QStringLiteral("txtFind"));
-      QTest::keyClicks(text, term);
-      QTest::keyClick(text, Qt::Key_Return);
-    });
-    search_.miFind_Click();
+    EXPECT_EQ(Opened([this] { search_.miFind_Click(); },
+                     [&term](QWidget& dialog) {
+                       QTest::keyClicks(&Part(dialog, "txtFind"), term);
+                       QTest::keyClick(&Part(dialog, "txtFind"), Qt::Key_Return);
+                     }),
+              Names{"frmFind"});
   }
 
-  // The message box that shows up during `action`; closed at once.
-  template <typename Action>
-  QString MessageDuring(Action action) {
-    QString message;
-    QTimer closer;
-    closer.callOnTimeout([&message] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (!box)
-        return;
-      message = box->windowTitle() + QStringLiteral("|") + box->text();
-      box->accept();
-    });
-    closer.start(10);
-    action();
-    return message;
-  }
+  // The text of the name or heading on the map.
+  std::string Label(const char* name) { return TextOf(map_, name); }
 
-  template <typename Widget>
-  Widget& Part(const char* name) {
-    return *map_.findChild<Widget*>(QLatin1String(name));
+  // The list of Arvenna's persons instead of an empty map.
+  void ShowList() {
+    const auto& region = world.paths.Of(Region::Arvenna);
+    map_.Change(region.picture, region.data, u"NPC");
   }
 
   // The pixel at which something stands whose left or top edge is so many twips from a position.
@@ -90,88 +61,73 @@ class SearchWindows : public testing::Test {
 
   static constexpr int ListShift = 65;
 
-  SearchWorld world_;
-  MapView map_{world_.world.cache, world_.world.language};
+  MapView map_{world.cache, world.language};
   Search::State state_;
-  SearchCommands search_{map_, world_.world, state_};
-  ctlLocation& item_ = Part<ctlLocation>("ITEM");
-  NameLabel& caption_ = Part<NameLabel>("lblCaption");
-  NameLabel& heading_ = Part<NameLabel>("lblMultiInfo");
+  SearchCommands search_{map_, world, state_};
+  ctlLocation& item_ = Part<ctlLocation>(map_, "ITEM");
+  QWidget& caption_ = Part(map_, "lblCaption");
+  QComboBox& items_ = Part<QComboBox>(map_, "cboItems");
 };
 
 }  // namespace
 
-TEST_F(SearchWindows, DialogStandsAsDesignedInEveryLanguage) {
-  Search::State state;
-  frmFind german(nullptr, world_.world, state);
-  EXPECT_EQ(german.windowTitle(), QStringLiteral("Suchen"));
-  CheckDialog(german);
-  world_.SpeakEnglish(English);
-  state.SearchTerm = u"Wolf";
-  frmFind english(nullptr, world_.world, state);
-  EXPECT_EQ(english.windowTitle(), QStringLiteral("Find"));
-  CheckDialog(english);
-}
-
 TEST_F(SearchWindows, DialogRemembersTermAndModeEvenWhenCancelled) {
-  Search::State state;
   {
-    frmFind dialog(nullptr, world_.world, state);
+    frmFind dialog(nullptr, world, state_);
     dialog.show();
-    auto* text = dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
-    const auto* find = dialog.findChild<QPushButton*>(QStringLiteral("btnFind"));
-    EXPECT_FALSE(find->isEnabled());
-    QTest::keyClicks(text, QStringLiteral("  "));
-    EXPECT_FALSE(find->isEnabled());
-    QTest::keyClick(text, Qt::Key_Return);
+    auto& text = Part(dialog, "txtFind");
+    const auto& find = Part(dialog, "btnFind");
+    EXPECT_FALSE(find.isEnabled());
+    QTest::keyClicks(&text, u"  "_s);
+    EXPECT_FALSE(find.isEnabled());
+    QTest::keyClick(&text, Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
-    QTest::keyClicks(text, QStringLiteral("W"));
-    EXPECT_TRUE(find->isEnabled());
-    dialog.findChild<QRadioButton*>(QStringLiteral("rbDescsOnly"))->click();
-    QTest::keyClick(text, Qt::Key_Escape);
+    QTest::keyClicks(&text, u"W"_s);
+    EXPECT_TRUE(find.isEnabled());
+    Part<QRadioButton>(dialog, "rbDescsOnly").click();
+    QTest::keyClick(&text, Qt::Key_Escape);
   }
-  EXPECT_EQ(state.SearchMode, Search::Mode::Descriptions);
-  EXPECT_EQ(state.SearchTerm, u"");
-  state.SearchTerm = u"Wolf ";
-  frmFind again(nullptr, world_.world, state);
+  EXPECT_EQ(state_.SearchMode, Search::Mode::Descriptions);
+  EXPECT_EQ(state_.SearchTerm, u"");
+  state_.SearchTerm = u"Wolf ";
+  frmFind again(nullptr, world, state_);
   again.show();
-  const auto* text = again.findChild<QLineEdit*>(QStringLiteral("txtFind"));
-  EXPECT_EQ(text->selectedText(), QStringLiteral("Wolf "));
-  EXPECT_EQ(again.focusWidget(), text);
-  EXPECT_TRUE(again.findChild<QPushButton*>(QStringLiteral("btnFind"))->isEnabled());
-  EXPECT_TRUE(again.findChild<QRadioButton*>(QStringLiteral("rbDescsOnly"))->isChecked());
+  const auto& text = Part<QLineEdit>(again, "txtFind");
+  EXPECT_EQ(text.selectedText(), u"Wolf "_s);
+  EXPECT_EQ(again.focusWidget(), &text);
+  EXPECT_TRUE(Part(again, "btnFind").isEnabled());
+  EXPECT_TRUE(Part<QRadioButton>(again, "rbDescsOnly").isChecked());
 }
 
 TEST_F(SearchWindows, ShowsTheEntityFoundAndThenTheNext) {
   QSignalSpy started(&search_, &SearchCommands::SearchStarted);
   QSignalSpy displayed(&map_, &MapView::Displayed);
-  Find(QStringLiteral("Wol"));
+  Find(u"Wol"_s);
   EXPECT_EQ(started.count(), 1);
   EXPECT_EQ(displayed.count(), 1);
   EXPECT_TRUE(item_.isVisible());
   EXPECT_EQ(item_.pos(), Pixel(100, 200, 0));
-  EXPECT_EQ(item_.Desc(), QStringLiteral("Wolf"));
-  EXPECT_EQ(caption_.text(), QStringLiteral(" Wolf "));
-  EXPECT_EQ(caption_.toolTip(), QStringLiteral("Ein <b>Wolf</b>\\nallein"));
-  EXPECT_EQ(heading_.text(), QStringLiteral(" Suchergebnis für: Wol "));
+  EXPECT_EQ(item_.Desc(), u"Wolf"_s);
+  EXPECT_EQ(Label("lblCaption"), " Wolf ");
+  EXPECT_EQ(caption_.toolTip(), u"Ein <b>Wolf</b>\\nallein"_s);
+  EXPECT_EQ(Label("lblMultiInfo"), " Suchergebnis für: Wol ");
   EXPECT_EQ(map_.InfoEntityName(), u"Wolf");
   search_.miFindAgain_Click();
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
-  EXPECT_EQ(MessageDuring([this] { search_.miFindAgain_Click(); }),
-            QStringLiteral("Suche beendet|Der Suchbegriff: \"Wol\" konnte nicht gefunden werden!"));
+  EXPECT_EQ(Opened([this] { search_.miFindAgain_Click(); }),
+            Names{"Suche beendet|Der Suchbegriff: \"Wol\" konnte nicht gefunden werden!"});
   EXPECT_EQ(item_.pos(), Pixel(900, 700, 0));
 }
 
 TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
-  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
-              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
-  Find(QStringLiteral("Wolf"));
+  ShowList();
+  Find(u"Wolf"_s);
   search_.miFindAgain_Click();
   // The list is Arvenna's, the entity Skaldor's.
-  EXPECT_EQ(Part<QComboBox>("cboItems").currentText(), QStringLiteral("Wolf"));
-  EXPECT_FALSE(Part<QComboBox>("cboItems").isVisible());
+  EXPECT_EQ(items_.currentText(), u"Wolf"_s);
+  EXPECT_FALSE(items_.isVisible());
   EXPECT_EQ(item_.pos(), Pixel(900, 700, ListShift));
-  EXPECT_EQ(caption_.text(), QStringLiteral("  Wolf  "));
+  EXPECT_EQ(Label("lblCaption"), "  Wolf  ");
   EXPECT_EQ(caption_.toolTip(), QString());
   map_.resize(800, 600);
   EXPECT_EQ(item_.pos(), Pixel(900, 700, ListShift));
@@ -179,42 +135,38 @@ TEST_F(SearchWindows, GoesByTheListWhereItHoldsTheName) {
 }
 
 TEST_F(SearchWindows, AResizePlacesTheEntityAgain) {
-  map_.Change(world_.world.paths.Of(Region::Arvenna).picture,
-              world_.world.paths.Of(Region::Arvenna).data, u"NPC");
-  Find(QStringLiteral("Rand"));
-  EXPECT_EQ(Part<QComboBox>("cboItems").currentIndex(), -1);
+  ShowList();
+  Find(u"Rand"_s);
+  EXPECT_EQ(items_.currentIndex(), -1);
   EXPECT_LT(caption_.geometry().right(), item_.x());
   map_.resize(800, 600);
   EXPECT_TRUE(item_.isVisible());
   EXPECT_EQ(item_.pos(), Pixel(1023, 50, ListShift));
-  EXPECT_EQ(caption_.text(), QStringLiteral(" Rand "));
+  EXPECT_EQ(Label("lblCaption"), " Rand ");
 }
 
 TEST_F(SearchWindows, SpeaksTheLanguageOfTheMoment) {
-  world_.SpeakEnglish(English);
-  Find(QStringLiteral("Merchant"));
-  EXPECT_EQ(item_.Desc(), QStringLiteral("Merchant Mara"));
-  EXPECT_EQ(heading_.text(), QStringLiteral("Result for: Merchant "));
+  SpeakEnglish(u"[entities]\r\nHändler=Merchant\r\n[frmFind]\r\nSearchResult=Result for: %s\r\n");
+  EXPECT_EQ(TitleOf(frmFind(nullptr, world, state_)), "Find");
+  Find(u"Merchant"_s);
+  EXPECT_EQ(item_.Desc(), u"Merchant Mara"_s);
+  EXPECT_EQ(Label("lblMultiInfo"), "Result for: Merchant ");
   EXPECT_EQ(map_.InfoEntityName(), u"Merchant Mara");
   map_.resize(800, 600);
   EXPECT_EQ(item_.pos(), Pixel(500, 300, ListShift));
-  EXPECT_TRUE(item_.isVisible());
 }
 
 TEST_F(SearchWindows, DownOffersNamesThatOnlyFillTheBox) {
-  world_.Write("ostrakh.data",
-               u"[NPC]\r\nÄrzte-Wolf=1,1\r\nwolf=3,3\r\n*Wolf X=1,1\r\n;Wolf Y=1,1\r\n");
-  Search::State state;
-  frmFind dialog(nullptr, world_.world, state);
-  dialog.show();
-  QApplication::setActiveWindow(&dialog);
-  auto& text = *dialog.findChild<QLineEdit*>(QStringLiteral("txtFind"));
-  const auto* list = dialog.findChild<QCompleter*>()->popup();
+  Write("ostrakh.data", u"[NPC]\r\nÄrzte-Wolf=1,1\r\nwolf=3,3\r\n*Wolf X=1,1\r\n;Wolf Y=1,1\r\n");
+  frmFind dialog(nullptr, world, state_);
+  ShowActive(dialog);
+  auto& text = Part<QLineEdit>(dialog, "txtFind");
+  const auto* list = Part<QCompleter>(dialog).popup();
   const auto press = [&](Qt::Key key) {
     QWidget* popup = QApplication::activePopupWidget();
-    QTest::keyClick(popup ? popup : static_cast<QWidget*>(&text), key);
+    QTest::keyClick(popup ? popup : &text, key);
   };
-  QTest::keyClicks(&text, QStringLiteral("WÔL"));
+  QTest::keyClicks(&text, u"WÔL"_s);
   EXPECT_FALSE(list->isVisible()) << "typing opens nothing";
   press(Qt::Key_Down);
   ASSERT_TRUE(list->isVisible());
@@ -225,30 +177,19 @@ TEST_F(SearchWindows, DownOffersNamesThatOnlyFillTheBox) {
   press(Qt::Key_Escape);
   EXPECT_FALSE(list->isVisible());
   EXPECT_TRUE(dialog.isVisible()) << "Escape closes the list alone";
-  EXPECT_EQ(text.text(), QStringLiteral("WÔL"));
-  press(Qt::Key_Down);
-  press(Qt::Key_Down);
-  press(Qt::Key_Return);
-  EXPECT_EQ(text.text(), QStringLiteral("Wolf"));
+  EXPECT_EQ(text.text(), u"WÔL"_s);
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+    press(key);
+  EXPECT_EQ(text.text(), u"Wolf"_s);
   EXPECT_FALSE(list->isVisible());
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_FALSE(dialog.Result()) << "no button is pressed";
 }
 
-TEST_F(SearchWindows, TellsOfAnInvalidLinkAndEnds) {
-  world_.Write("skaldor.data", u"[NPC]\r\nWolf=#,smiths\r\n");
-  QSignalSpy ended(&search_, &SearchCommands::EndRequested);
-  const QString message = MessageDuring([this] { Find(QStringLiteral("Wolf")); });
-  EXPECT_TRUE(message.startsWith(QStringLiteral("Link Error|DB: ")));
-  EXPECT_TRUE(message.endsWith(QStringLiteral("\r\n\r\nLink-Target invalid!")));
-  EXPECT_EQ(ended.count(), 1);
-  EXPECT_FALSE(item_.isVisible());
-}
-
 TEST_F(SearchWindows, APictureThatIsMissingLeavesTheMapEmpty) {
-  Find(QStringLiteral("Ohne"));
+  Find(u"Ohne"_s);
   EXPECT_FALSE(item_.isVisible());
-  EXPECT_FALSE(heading_.isVisible());
+  EXPECT_FALSE(Part(map_, "lblMultiInfo").isVisible());
   map_.resize(800, 600);
   EXPECT_FALSE(item_.isVisible());
 }
