@@ -6,6 +6,9 @@
 /// The checks by what they look at. Each goes once through it and adds what it finds.
 namespace Checks {
 
+/// Names with more letters than that leave the window.
+inline constexpr size_t LongestName = 120;
+
 /// Required files, pictures, folders, documents and settings.
 void World(Index& index, Findings& findings);
 

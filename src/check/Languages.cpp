@@ -332,10 +332,10 @@ class LanguageCheck {
 };
 
 void TellNoFile(const Index& index, Findings& findings, const Text& folder) {
-  const Text path = LOCAL::FileOfLanguage(index.paths.languageRoot, folder, u".lng");
+  const Text& root = index.paths.languageRoot;
+  const bool isFolder = FileSystem::Resolve(Join(root, folder, u"/.")).has_value();
+  const Text path = isFolder ? LOCAL::FileOfLanguage(root, folder, u".lng") : Join(root, folder);
   Finding& finding = findings.Add(Id::T01, path.substr(index.base.size()));
-  const bool isFolder =
-      FileSystem::Resolve(Join(index.paths.languageRoot, folder, u"/.")).has_value();
   finding.message = isFolder ? Join(u"folder ", Quoted(folder), u" has no language file")
                              : Join(Quoted(folder), u" is no folder of a language");
   if (!isFolder)

@@ -7,8 +7,10 @@
 
 #include <algorithm>
 
+using ProfileLines::LineKind;
 using Rules::Id;
 using Texts::Join;
+using Words::Count;
 using Words::Decoded;
 using Words::Encoded;
 using Words::Number;
@@ -223,6 +225,20 @@ void CheckSpellings(Index& index, Findings& findings) {
   }
 }
 
+// Names that no window is wide enough for, each once.
+void CheckLengths(Index& index, Findings& findings) {
+  std::unordered_set<std::string_view> told;
+  for (const Index::Entity& entity : index.entities) {
+    const EntityLine line(index, entity);
+    if (entity.name.size() <= Checks::LongestName || entity.IsDisabled() ||
+        line.Line().entry.kind != LineKind::KeyWithValue || !told.insert(entity.name).second)
+      continue;
+    line.Tell(findings, Id::T22, line.Line().entry.key,
+              Join(u"a name of ", Count(entity.name.size(), u"character", u"characters")))
+        .consequence = u"it leaves the window";
+  }
+}
+
 }  // namespace
 
 void Checks::Links(Index& index, Findings& findings) {
@@ -235,4 +251,5 @@ void Checks::Links(Index& index, Findings& findings) {
 void Checks::Names(Index& index, Findings& findings) {
   CheckPlaces(index, findings);
   CheckSpellings(index, findings);
+  CheckLengths(index, findings);
 }

@@ -20,7 +20,6 @@ using Words::Quoted;
 
 namespace {
 
-constexpr size_t LongestName = 120;
 constexpr std::string_view LineBlanks = "\t\v\f";
 
 // A name on its way into the language and back.
@@ -273,7 +272,7 @@ class TranslationCheck {
 
   void CheckLength() {
     for (const Translated& name : names_)
-      if (name.key && name.shown.size() > LongestName) {
+      if (name.key && name.shown.size() > Checks::LongestName) {
         Finding& finding =
             Tell(Id::T22, *name.key,
                  Join(u"a name of ", Count(name.shown.size(), u"character", u"characters")));

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 using EntityFile::Position;
 
@@ -46,7 +47,10 @@ class Reader {
         data_(files_.Shared(world.paths.Of(region.region).data)),
         nameFile_(world.language.NameFile(files)),
         info_(files_.Shared(world.language.InfoPath())),
-        portraits_(files_.Shared(Portraits::ListPath(world.paths.picturesFolder))) {}
+        portraits_(files_.Shared(Portraits::ListPath(world.paths.picturesFolder))) {
+    for (const ProfileFile::Section& section : data_->Sections())
+      left_.emplace(section.name);
+  }
 
   Share::RegionMap Read() {
     map_ = {region_.region, region_.stem, {}, world_.paths.Of(region_.region).picture, {}};
@@ -91,21 +95,13 @@ class Reader {
   // A section is what the first who shows it makes of it.
   void Add(TextView section, TextView caption, TextView group, PositionOf positionOf) {
     const auto name = Windows1252::Encode(section);
-    const bool known = std::ranges::find(map_.categories, section, &Share::Category::section) !=
-                       map_.categories.end();
-    if (known || !name || !HasSection(*name))
+    if (!name || left_.erase(*name) == 0)
       return;
     Share::Category& category = map_.categories.emplace_back(
         Share::Category{Text(section), Text(caption), Text(group), {}});
     for (const std::string_view key : data_->KeyNames(*name))
       if (!EntityFile::IsDisabled(key))
         category.entities.push_back(ReadEntity(*name, key, positionOf));
-  }
-
-  [[nodiscard]] bool HasSection(std::string_view name) const {
-    return std::ranges::any_of(data_->Sections(), [name](const ProfileFile::Section& section) {
-      return section.name == name;
-    });
   }
 
   Share::Entity ReadEntity(std::string_view section, std::string_view key, PositionOf positionOf) {
@@ -133,6 +129,8 @@ class Reader {
   std::shared_ptr<const ProfileFile> nameFile_;
   std::shared_ptr<const ProfileFile> info_;
   std::shared_ptr<const ProfileFile> portraits_;
+  // The sections that nothing has shown yet.
+  std::unordered_set<std::string> left_;
   Share::RegionMap map_{};
 };
 

@@ -22,6 +22,8 @@ class CheckedWorld {
           "[NPC]\nAlrik=512,300\n[smiths]\nBaldrun=10,20\n*Wolf=7,8\nTor nach Sarrakh=9,9\n"
           "B\xE4r im B\xE4rental=11,12\n");
     Write("info.data", "[info]\nBerta=She waits.\n");
+    Write("orvalis.html", "Help");
+    Write("readme.html", "Read");
     Write("orvalis.ini", "[special]\nNoExtras=yes\nPlayMusic=no\n");
   }
 

@@ -1,6 +1,7 @@
 """faults.py PROGRAM WORLD COUNT [FIRST]: runs the program, which drives itself, in COUNT worlds with
 broken files. It may neither crash nor hang nor lose a line of the settings, and may refuse to start
-only where a region's file is missing."""
+only where a region's file is missing. Then the companion, built beside it, reads each of these worlds:
+it may neither crash nor hang nor change anything."""
 
 import os
 import random
@@ -15,14 +16,15 @@ FILE_MISSING = 1
 SANITIZER = 99
 PATIENCE = 600
 STEPS = 400
+COMPANION = os.path.join(os.path.dirname(sys.argv[1]), "..", "..", "bin", "orvalis-world")
+# Of processor time: 3 are ample, but not where sanitizers make everything twenty times as slow.
+COMPANION_SECONDS = 60
+QUESTIONS = (("check",), ("find", "a"), ("export", "--format", "csv"))
+COMPANION_CODES = (0, 1, 2)
 
 
-def forbid_writing():
-    resource.setrlimit(resource.RLIMIT_FSIZE, (0, 0))
-
-
-def run(world, seed, disk_full):
-    """The program's exit code, none if it never ended, and what it said."""
+def run(world, command, limits, seed):
+    """The exit code of the command, none if it never ended, and what it said."""
     environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LANG": "de_DE.UTF-8",
                    "LC_ALL": "de_DE.UTF-8", "HOME": world.folder, "PATH": "",
                    "ORVALIS_DRIVER_SEED": str(seed), "ORVALIS_DRIVER_STEPS": str(STEPS),
@@ -30,10 +32,12 @@ def run(world, seed, disk_full):
                    "UBSAN_OPTIONS": f"exitcode={SANITIZER}"}
     try:
         # Python ignores the signal of a full disk, and the program is to see the failed call instead.
-        ended = subprocess.run([world.program], env=environment, timeout=PATIENCE,
+        ended = subprocess.run(command, env=environment, timeout=PATIENCE,
                                restore_signals=False, stdin=subprocess.DEVNULL,
                                stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                               preexec_fn=forbid_writing if disk_full else None, **world.user)
+                               preexec_fn=lambda: [resource.setrlimit(what, (most, most))
+                                                   for what, most in limits.items()],
+                               **world.user)
     except subprocess.TimeoutExpired as late:
         return None, late.output or b""
     return ended.returncode, ended.stdout
@@ -51,18 +55,33 @@ def judge(world, code, settings):
     return f"lost {[line[:80] for line in lost[:3]]}" if lost else None
 
 
+def ask_companion(world, limits, seed):
+    """What is wrong with the companion's answers, if anything, and what it said."""
+    for question in QUESTIONS:
+        before = world.state()
+        code, output = run(world, [COMPANION, *question, "--world", world.folder],
+                           {**limits, resource.RLIMIT_CPU: COMPANION_SECONDS}, seed)
+        if code not in COMPANION_CODES:
+            return f"{question[0]}: exit code {code}", output
+        if world.state() != before:
+            return f"{question[0]} changes the world", output
+    return None, b""
+
+
 def trial(program, source, seed):
     """The exit code of a run that did as it should, else none."""
     chance = random.Random(seed)
     world = World(program, source)
     done = [spoil(chance, world) for _ in range(chance.randint(1, 4))]
-    disk_full = chance.random() < 0.15
+    limits = {resource.RLIMIT_FSIZE: 0} if chance.random() < 0.15 else {}
     settings = world.settings()
     world.hand_over()
-    code, output = run(world, seed, disk_full)
+    code, output = run(world, [world.program], limits, seed)
     failure = judge(world, code, settings)
+    if not failure:
+        failure, output = ask_companion(world, limits, seed)
     if failure:
-        print(f"seed {seed}: {failure}; {', '.join(done)}{', disk full' if disk_full else ''}\n"
+        print(f"seed {seed}: {failure}; {', '.join(done)}{', disk full' if limits else ''}\n"
               f"{output.decode('utf-8', 'replace')[-3000:]}\nkept in {world.folder}", flush=True)
         return None
     world.remove()

@@ -50,6 +50,13 @@ class World:
                  for name in names]
         return sorted(path for path in found if path != self.program)
 
+    def state(self):
+        """What a change of anything in the folder would change."""
+        return {path: (at.st_mode, at.st_size, at.st_mtime_ns)
+                for folder, folders, names in os.walk(self.folder)
+                for path in [os.path.join(folder, name) for name in folders + names]
+                for at in [os.lstat(path)]}
+
     def hand_over(self):
         """Root may do everything, so that a world of root's is run by somebody else, who owns it."""
         if os.getuid() != 0:

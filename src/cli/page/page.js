@@ -406,8 +406,10 @@ let sought = '';
 function fillList() {
   sought = ui.search.value.trim();
   rows = sought ? search(sought) : visible;
+  // An empty list is at its top, and asking it would lay out the page.
+  if (ui.list.firstChild)
+    ui.list.scrollTop = 0;
   ui.list.replaceChildren();
-  ui.list.scrollTop = 0;
   addRows(RowsAtOnce);
   setStop(ui.list, ui.list.querySelector('input'));
   refreshTicks();
@@ -514,13 +516,13 @@ function showRegion(next) {
   const shown = world.regions.indexOf(region);
   [...ui.regions.children].forEach((tab, index) => { tab.ariaSelected = index === shown; });
   setStop(ui.regions, ui.regions.children[shown]);
-  ui.regions.children[shown].scrollIntoView({block: 'nearest', inline: 'nearest'});
   ui.parts.setAttribute('aria-labelledby', `tab-${shown}`);
   ui.map.ariaLabel = fill('mapOf', region.caption);
   recallCategories();
   fillCategories();
   visible = [];
   fitMap();
+  ui.regions.children[shown].scrollIntoView({block: 'nearest', inline: 'nearest'});
   showPicture();
   refresh();
 }
