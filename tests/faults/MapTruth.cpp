@@ -341,14 +341,17 @@ void MapTruth::Resized() {
     Pick(listed_);
 }
 
-QPoint MapTruth::PointOf(int x, int y) const {
+QPoint MapTruth::OnPicture(int x, int y, double scale) const {
   const double twips = TwipsPerPixel(map_);
-  const auto scaled = [this, twips](int pixels, int frame, int position) {
-    return Rounded(std::nearbyint(pixels * twips) * scale_ / std::nearbyint(frame * twips) *
+  const auto scaled = [scale, twips](int pixels, int frame, int position) {
+    return Rounded(std::nearbyint(pixels * twips) * scale / std::nearbyint(frame * twips) *
                    std::nearbyint(position * twips));
   };
-  return {scaled(map_.width(), 1024, x) - Rounded(left_),
-          scaled(map_.height(), 768, y) - Rounded(top_)};
+  return {scaled(map_.width(), 1024, x), scaled(map_.height(), 768, y)};
+}
+
+QPoint MapTruth::PointOf(int x, int y) const {
+  return OnPicture(x, y, scale_) - QPoint(Rounded(left_), Rounded(top_));
 }
 
 QPoint MapTruth::InView(const Spot& spot) const {
@@ -442,18 +445,20 @@ std::string MapTruth::FaultOfShown(const std::vector<Spot>& spots) const {
   return {};
 }
 
-// From the marker's left edge: the name keeps the side that it has at scale 1.
-int MapTruth::NameLeft(const Spot& spot, int width) const {
+// From the marker's corner, in pixels: the name keeps the place that it has at scale 1.
+QPoint MapTruth::BesideMarker(const Spot& spot, int width) const {
   const double twips = TwipsPerPixel(map_);
-  const int left = Rounded(std::nearbyint(map_.width() * twips) / std::nearbyint(1024 * twips) *
-                           std::nearbyint(spot.point.x() * twips)) -
-                   spot.before;
-  const int right = MarkerWidth + NameGap;
-  const int before = -width - NameGap;
-  int at = spot.slot >= 0 && spot.slot % 2 == 0 ? before : right;
-  if (spot.slot >= 0 && left + at < 0)
-    at = right;
-  return left + at + width > Rounded(map_.width() * twips) + Frame ? before : at;
+  const auto pixels = [twips](int length) { return Rounded(length / twips); };
+  const QPoint corner =
+      OnPicture(spot.point.x(), spot.point.y(), 1) - QPoint(spot.before, spot.before);
+  const int right = corner.x() + MarkerWidth + NameGap;
+  const int before = corner.x() - width - NameGap;
+  int left = spot.slot >= 0 && spot.slot % 2 == 0 ? before : right;
+  if (spot.slot >= 0 && left < 0)
+    left = right;
+  if (left + width > Rounded(map_.width() * twips) + Frame)
+    left = before;
+  return {pixels(left) - pixels(corner.x()), pixels(corner.y() - NameRise) - pixels(corner.y())};
 }
 
 std::string MapTruth::FaultOf(const Spot& spot) const {
@@ -462,14 +467,12 @@ std::string MapTruth::FaultOf(const Spot& spot) const {
   const auto& marker = static_cast<const ctlLocation&>(Part(name));
   const QPoint corner = InView(spot);
   // The places of a closer view are sums of many roundings.
-  const int most = scale_ > 1 ? 2 : 0;
-  const auto differs = [most](const QPoint& is, const QPoint& should) {
-    return std::abs(is.x() - should.x()) > most || std::abs(is.y() - should.y()) > most;
-  };
+  const int most = scale_ > 1 ? 1 : 0;
   if (scale_ > 1 && Inside(spot) <= EdgeOfView)
     return {};
   const QPoint at = {Rounded(corner.x() / twips), Rounded(corner.y() / twips)};
-  if (spot.markerShown && differs(marker.pos(), at))
+  const QPoint off = marker.pos() - at;
+  if (spot.markerShown && std::max(std::abs(off.x()), std::abs(off.y())) > most)
     return Said(name, QStringLiteral("at ") + Said(marker.pos()), Said(at));
   if (spot.markerShown && marker.Desc() != spot.name)
     return Said(name, marker.Desc(), spot.name);
@@ -482,11 +485,10 @@ std::string MapTruth::FaultOf(const Spot& spot) const {
   if (label.text() != spot.caption)
     return Said(label.objectName(), label.text(), spot.caption);
   const int width = Rounded(label.width() * twips);
-  const QPoint beside = {Rounded((corner.x() + NameLeft(spot, width)) / twips),
-                         Rounded((corner.y() - NameRise) / twips)};
-  return differs(label.pos(), beside)
-             ? Said(label.objectName(), QStringLiteral("at ") + Said(label.pos()), Said(beside))
-             : std::string();
+  const QPoint beside = (spot.markerShown ? marker.pos() : at) + BesideMarker(spot, width);
+  return label.pos() == beside
+             ? std::string()
+             : Said(label.objectName(), QStringLiteral("at ") + Said(label.pos()), Said(beside));
 }
 
 std::string MapTruth::FaultOfList() const {

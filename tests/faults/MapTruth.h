@@ -75,7 +75,9 @@ class MapTruth : public QObject {
   void BringIntoView(const QPoint& corner);
   void Clamp();
   [[nodiscard]] bool CanZoom();
-  // Where a position is on the map, and the corner of its marker; in twips.
+  // Where a position is on the picture at this scale, on the map, and the corner of its marker; in
+  // twips.
+  [[nodiscard]] QPoint OnPicture(int x, int y, double scale) const;
   [[nodiscard]] QPoint PointOf(int x, int y) const;
   [[nodiscard]] QPoint InView(const Spot& spot) const;
   [[nodiscard]] int Inside(const Spot& spot) const;
@@ -84,7 +86,7 @@ class MapTruth : public QObject {
   [[nodiscard]] std::string FaultOfList() const;
   [[nodiscard]] std::string FaultOfFocus() const;
   [[nodiscard]] QWidget& Part(const QString& name) const;
-  [[nodiscard]] int NameLeft(const Spot& spot, int width) const;
+  [[nodiscard]] QPoint BesideMarker(const Spot& spot, int width) const;
 
   QMainWindow& window_;
   QWidget& map_;

@@ -1,6 +1,7 @@
 #include "controls/windows/MakeControl.h"
 
 #include "controls/windows/DialogLabel.h"
+#include "controls/windows/DialogOption.h"
 #include "controls/windows/GridListbox.h"
 #include "controls/windows/WidgetTwips.h"
 #include "platform/windows/QtText.h"
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTreeWidget>
 
 namespace {
@@ -52,7 +52,7 @@ QWidget* MakeOfKind(ControlKind kind, const QString& text, QWidget* parent) {
     case ControlKind::Button:
       return new QPushButton(text, parent);
     case ControlKind::OptionButton:
-      return new QRadioButton(text, parent);
+      return new DialogOption(text, parent);
     case ControlKind::Frame:
       return new QGroupBox(text, parent);
     case ControlKind::ComboBox:

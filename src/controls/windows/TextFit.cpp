@@ -16,19 +16,22 @@ constexpr int ButtonMargin = 3;
 // A frame's title stands indented in its upper edge.
 constexpr int TitleIndent = 24;
 
-QSize ButtonFrame(const QPushButton& button) {
+// What the style adds to the contents of a button.
+QSize AroundContents(const QAbstractButton& button, QStyle::SubElement contents) {
   QStyleOptionButton option;
   option.initFrom(&button);
   // Large enough for every style to leave room for a text.
   option.rect = QRect(0, 0, 1000, 1000);
-  const QSize contents =
-      button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button).size();
-  return option.rect.size() - contents + QSize(2 * ButtonMargin, 0);
+  return option.rect.size() - button.style()->subElementRect(contents, &option, &button).size();
 }
 
-QSize IndicatorSize(const QRadioButton& button, const QString& text) {
-  const QSize shown = button.fontMetrics().size(Qt::TextShowMnemonic, text);
-  return {button.sizeHint().width() - shown.width(), 0};
+QSize ButtonFrame(const QPushButton& button) {
+  return AroundContents(button, QStyle::SE_PushButtonContents) + QSize(2 * ButtonMargin, 0);
+}
+
+// Left and right of an option button's text.
+int BesideText(const QRadioButton& option) {
+  return AroundContents(option, QStyle::SE_RadioButtonContents).width() + ButtonMargin;
 }
 
 }  // namespace
@@ -50,6 +53,21 @@ int PaintFlags(const QLabel& label, Breaks breaks) {
   return wrapping | (label.buddy() ? Qt::TextShowMnemonic : 0);
 }
 
+QString Lines(const QRadioButton& option, const QFont& font, int width) {
+  const QFontMetrics metrics(font, &option);
+  const int room = width - BesideText(option);
+  QString lines;
+  QString line;
+  for (const QString& word : option.text().split(u' ')) {
+    const QString longer = line.isEmpty() ? word : line + u' ' + word;
+    const bool fits = metrics.size(Qt::TextShowMnemonic, longer).width() <= room;
+    if (!fits && !line.isEmpty())
+      lines += line + u'\n';
+    line = fits ? longer : word;
+  }
+  return lines + line;
+}
+
 QSize Needed(const QWidget& control, const QFont& font, int width, Breaks breaks) {
   const QString text = TextOf(control);
   const QFontMetrics metrics(font, &control);
@@ -62,7 +80,8 @@ QSize Needed(const QWidget& control, const QFont& font, int width, Breaks breaks
   if (qobject_cast<const QGroupBox*>(&control))
     return line + QSize(TitleIndent, 0);
   if (const auto* option = qobject_cast<const QRadioButton*>(&control))
-    return line + IndicatorSize(*option, text);
+    return metrics.size(Qt::TextShowMnemonic, Lines(*option, font, width)) +
+           QSize(BesideText(*option), 0);
   const auto* button = qobject_cast<const QPushButton*>(&control);
   return button ? line + ButtonFrame(*button) : line;
 }

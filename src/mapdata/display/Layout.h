@@ -26,7 +26,7 @@ struct MapLayout {
   int headingLeft = 0;
 };
 
-/// Places the plan. A name stands on the side of its marker that it has at scale 1, so that nothing
-/// jumps while the view moves. `widths` has a caption for each marker.
+/// Places the plan. A name stands beside its marker as at scale 1, on the same side and to the
+/// pixel, so that nothing jumps while the view moves. `widths` has a caption for each marker.
 [[nodiscard]] MapLayout Layout(const MapPlan& plan, const Viewport& viewport,
                                const TextWidths& widths);

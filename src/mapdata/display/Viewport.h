@@ -19,6 +19,9 @@ class Viewport {
 
   [[nodiscard]] const Twips2Pixel_Module::Twips& MapSize() const { return mapSize_; }
 
+  /// The screen that the map is on.
+  [[nodiscard]] const Twips2Pixel_Module::Screen& OnScreen() const { return screen_; }
+
   /// What lies left of and above the map, as parts of the whole picture's width and height.
   [[nodiscard]] double LeftPart() const;
   [[nodiscard]] double TopPart() const;

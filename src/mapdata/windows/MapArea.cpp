@@ -25,6 +25,7 @@ void MapArea::SetStartPicture(const Text& path) {
   if (LoadPicture(path))
     startPicture_ = path;
   ShowStartPicture();
+  picture_.Keep();
 }
 
 bool MapArea::LoadPicture(TextView path) {
@@ -39,8 +40,7 @@ bool MapArea::LoadPicture(TextView path) {
 
 void MapArea::ShowStartPicture() {
   ShowPart({0, 0, 1, 1});
-  if (!LoadPicture(startPicture_))
-    static_cast<void>(LoadPicture(BuiltIn));
+  static_cast<void>(LoadPicture(startPicture_));
   showsStart_ = true;
 }
 

@@ -13,13 +13,14 @@ class MapArea : public QWidget {
  public:
   explicit MapArea(QWidget* parent);
 
-  /// Shows the picture of the start, from now on this one if it can be read.
+  /// Shows the start picture: this one if it can be read, else the one built into the program. Its
+  /// file is read here and never again.
   void SetStartPicture(const Text& path);
 
   /// Shows all of the picture in the file; false, and nothing changed, if it can't be read.
   [[nodiscard]] bool LoadPicture(TextView path);
 
-  /// Shows the start picture, or the one built into the program where that can't be read any more.
+  /// Shows the start picture.
   void ShowStartPicture();
 
   /// Whether that is what it shows.

@@ -66,14 +66,14 @@ std::optional<size_t> MapPicture::Find(TextView path) const {
 bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   const auto stamp = StampOf(path);
   auto known = Find(path);
-  const bool same = known && pictures_[*known].stamp == stamp;
+  const bool same = known && (pictures_[*known].kept || pictures_[*known].stamp == stamp);
   const bool ready =
       same && (!pictures_[*known].pixels.isNull() || pictures_[*known].scaled.size() == size);
   if (!ready) {
     PackAllBut(known);
     // Its pixels make room before others are read.
     if (shown_ && shown_ != known)
-      Shown().pixels = {};
+      Shown().DropPixels();
     QImage pixels = PictureReader::Read(path, screen);
     if (pixels.isNull()) {
       static_cast<void>(Pixels());
@@ -93,9 +93,14 @@ bool MapPicture::Load(TextView path, const QSize& size, const QSize& screen) {
   }
   // What was shown keeps how it looked.
   if (shown_ && shown_ != known)
-    Shown().pixels = {};
+    Shown().DropPixels();
   shown_ = known;
   return true;
+}
+
+void MapPicture::Keep() {
+  if (!Pixels().isNull())
+    Shown().kept = true;
 }
 
 void MapPicture::FinishLoading() {

@@ -21,6 +21,9 @@ class MapPicture {
   /// device pixels; false, and nothing changed, if it can't be read.
   [[nodiscard]] bool Load(TextView path, const QSize& size, const QSize& screen);
 
+  /// Keeps the pixels of the picture shown from now on, whatever becomes of its file.
+  void Keep();
+
   /// The picture at exactly this size in device pixels.
   [[nodiscard]] const QImage& At(const QSize& size);
 
@@ -57,6 +60,12 @@ class MapPicture {
     std::optional<PosixFile::Stamp> stamp;
     QImage pixels;
     QImage scaled;
+    bool kept = false;
+
+    void DropPixels() {
+      if (!kept)
+        pixels = {};
+    }
   };
 
   [[nodiscard]] std::optional<size_t> Find(TextView path) const;

@@ -18,7 +18,7 @@ bool ShiftCursor::eventFilter(QObject* watched, QEvent* event) {
     qApp->removeEventFilter(this);
     Show(false);
   } else if (type == QEvent::KeyPress || type == QEvent::KeyRelease) {
-    if (static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Shift)
+    if (widget_->underMouse() && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Shift)
       Show(type == QEvent::KeyPress);
   }
   return false;

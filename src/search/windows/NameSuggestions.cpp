@@ -25,6 +25,7 @@ NameSuggestions::NameSuggestions(QLineEdit& box, std::function<std::vector<Text>
   list_->setWidget(&box);
   list_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
   list_->setMaxVisibleItems(MaximumVisibleRows);
+  list_->popup()->setFont(box.font());
   connect(list_, qOverload<const QString&>(&QCompleter::activated), &box, &QLineEdit::setText);
   connect(&box, &QLineEdit::textEdited, this, [this] {
     if (list_->popup()->isVisible())

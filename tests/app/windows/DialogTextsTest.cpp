@@ -45,7 +45,7 @@ constexpr TextView Lungo =
     u"thanksto=Grazie per prove e aiuto ad Ansgar Riedweg, Friederike Halm, Jorin Kesselbach, "
     u"Mathis Ohlendorf, Svea Brandlechner e Tilda Wiesengrund.\r\n"
     u"[frmPrint]\r\ncaption=Stampa della mappa\r\nlabel=&Stampanti disponibili:\r\n"
-    u"optionlandscape=&Orizzontale\r\noptionportrait=&Verticale\r\n"
+    u"optionlandscape=&Orientamento orizzontale\r\noptionportrait=Orientamento &verticale\r\n"
     u"buttonprint=Stampa la &mappa adesso\r\nbuttoncancel=&Annulla la stampa\r\n"
     u"[frmInfo]\r\nbuttonclose=&Chiudi questa finestra\r\n"
     u"[frmExtras]\r\nbtnSelect=&Apri il documento scelto\r\nbtnCancel=&Chiudi la finestra\r\n"

@@ -4,6 +4,9 @@
 #include "support/GermanNames.h"
 #include "support/TemporaryFolder.h"
 
+#include <cmath>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 using Kind = ViewState::Kind;
@@ -107,10 +110,28 @@ TEST_F(PlanTest, IsLaidOutByTheRulesAndKeepsTheSidesInACloserView) {
   EXPECT_EQ(zoomed.headingLeft, at100.headingLeft);
   EXPECT_TRUE(zoomed.places[2].inView);
   EXPECT_FALSE(zoomed.places[0].inView);
-  for (size_t i = 0; i < plan.markers.size(); ++i) {
-    EXPECT_TRUE(at100.places[i].inView) << "also beyond the map";
-    EXPECT_EQ(zoomed.places[i].caption.x - zoomed.places[i].marker.x,
-              at100.places[i].caption.x - at100.places[i].marker.x);
+  for (const MapLayout::Place& place : at100.places)
+    EXPECT_TRUE(place.inView) << "also beyond the map";
+}
+
+TEST_F(PlanTest, ANameStandsBesideItsMarkerToThePixelWhileTheViewMoves) {
+  const MapPlan plan = PlanOf({Kind::Markers, {}, data, u"t", {}, false, {}, {}});
+  for (const double perPixel : {15.0, 12.0, 1440 / 110.0}) {
+    const Viewport whole({perPixel, perPixel}, {15360, 11520});
+    const auto apart = [&](const MapLayout::Place& place) {
+      const auto pixels = [perPixel](int caption, int marker) {
+        return std::nearbyint(caption / perPixel) - std::nearbyint(marker / perPixel);
+      };
+      return std::pair(pixels(place.caption.x, place.marker.x),
+                       pixels(place.caption.y, place.marker.y));
+    };
+    const MapLayout at100 = Layout(plan, whole, Widths(plan));
+    for (int step = 0; step < 20; ++step) {
+      const Viewport closer = whole.ZoomedAt({5000, 5000}, 3.7).Panned({step, 2 * step});
+      const MapLayout layout = Layout(plan, closer, Widths(plan));
+      for (size_t i = 0; i < plan.markers.size(); ++i)
+        EXPECT_EQ(apart(layout.places[i]), apart(at100.places[i])) << step;
+    }
   }
 }
 
