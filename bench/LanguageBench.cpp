@@ -1,8 +1,8 @@
 #include "Ratios.h"
+#include "StartedLanguage.h"
 #include "app/MenuTable.h"
 #include "i18n/InterfaceTexts.h"
 #include "platform/Windows1252.h"
-#include "support/StartedLanguage.h"
 #include "support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,7 @@
 #include "Frame.h"
 #include "MapWorld.h"
 #include "Ratios.h"
+#include "StartedLanguage.h"
 #include "app/Context.h"
 #include "app/windows/frmMain.h"
 #include "mapdata/windows/MapArea.h"
@@ -11,7 +12,6 @@
 #include "platform/windows/QtText.h"
 #include "support/GermanNames.h"
 #include "support/RecordingDesktop.h"
-#include "support/StartedLanguage.h"
 
 #include <benchmark/benchmark.h>
 
