@@ -70,7 +70,7 @@ int main(int, char** argv) {
               bare.kibibytes / 1024, start * 1e3, program[0].kibibytes / 1024);
   std::fflush(stdout);
   const bool held[] = {
-      Ratios::Holds({"StartToFirstFrame", "BareWindow", 1.5}, start / bare.seconds),
+      Ratios::Holds({"StartToFirstFrame", "BareWindow", 1.35}, start / bare.seconds),
       Ratios::Holds({"MemoryOfOneRegion", "DecodedPicture", 1.5}, oneRegion / KibibytesOfPicture),
       Ratios::Holds({"MemoryOfFurtherRegion", "PictureOfWindow", 1},
                     furtherRegion / KibibytesOfWindow)};
