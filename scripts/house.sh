@@ -8,7 +8,7 @@ status=0
 scripts/commit_titles.sh || status=1
 scripts/unused.py || status=1
 scripts/sizes.py || status=1
-python3 tests/page/lint.py src/cli/page || status=1
+python3 scripts/page_lint.py src/cli/page || status=1
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror || status=1
 # A table made by a lambda, ::umask and a member called max are beyond cppcheck.
 git ls-files 'src/*.cpp' 'tools/*.cpp' |

@@ -1,4 +1,4 @@
-"""lint.py FOLDER: what can be said about page.html, page.js and page.css without a browser."""
+"""page_lint.py FOLDER: what can be said about page.html, page.js and page.css without a browser."""
 
 import os
 import re

@@ -1,4 +1,4 @@
-"""opening.py EXPORTED.html [TIMES]: how long the page takes to a region with 81 markers, against bare Leaflet.
+"""page_opening.py EXPORTED.html [TIMES]: how long the page takes to a region with 81 markers, against bare Leaflet.
 
 The bare page carries the same bytes, shows the same picture and the same markers, and nothing else.
 Times run from the start of navigation to the frame in which picture and markers are there.
@@ -13,6 +13,7 @@ import statistics
 import sys
 import tempfile
 
+sys.path.append(str(pathlib.Path(__file__).parent.parent / "tests/page"))
 from browser import Browser, wait_for
 
 MARKERS = 81
