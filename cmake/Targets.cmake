@@ -23,6 +23,8 @@ function(orvalis_test_program name)
   cmake_parse_arguments(TEST "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   set_target_properties(${name} PROPERTIES UNITY_BUILD ${ORVALIS_UNITY})
+  # Tests are compiled oftener than run.
+  target_compile_options(${name} PRIVATE $<$<NOT:$<CONFIG:Release>>:-O0>)
   if(ORVALIS_UNITY)
     # A fixture of a file is none of a header, though the compiler reads it like one.
     target_compile_options(${name} PRIVATE -Wno-subobject-linkage)

@@ -2,6 +2,7 @@
 #include "check/Fixes.h"
 #include "check/Words.h"
 #include "cli/Commands.h"
+#include "cli/Console.h"
 #include "cli/Diff.h"
 #include "cli/Pictures.h"
 #include "cli/Watch.h"
@@ -20,11 +21,10 @@ namespace {
 
 constexpr int Clean = 0;
 constexpr int Faults = 1;
-constexpr int WrongUse = 2;
 // Fixes bring to light what other mistakes had hidden.
 constexpr int MostRounds = 5;
 
-struct Options {
+struct CheckOptions {
   std::vector<std::string> files;
   std::string world;
   std::string language = "all";
@@ -41,16 +41,6 @@ struct Options {
   bool listRules = false;
   bool verbose = false;
 };
-
-Text FromArgument(const std::string& argument) {
-  return NativePath::FromBytes(argument);
-}
-
-std::vector<Text> FromArguments(const std::vector<std::string>& arguments) {
-  std::vector<Text> texts;
-  std::ranges::transform(arguments, std::back_inserter(texts), &FromArgument);
-  return texts;
-}
 
 bool AreRules(const std::vector<Text>& numbers) {
   return std::ranges::all_of(numbers, [](const Text& number) {
@@ -76,12 +66,12 @@ void Narrow(Check::Answer& answer, const std::vector<Text>& names) {
 
 class CheckRun {
  public:
-  CheckRun(const Options& options, const Text& world) : options_(options) {
+  CheckRun(const CheckOptions& options, const Text& world) : options_(options) {
     question_.folder = world;
     question_.pictureOf = &Pictures::SizeOf;
-    question_.select = FromArguments(options.select);
-    question_.ignore = FromArguments(options.ignore);
-    const Text language = FromArgument(options.language);
+    question_.select = Console::FromArguments(options.select);
+    question_.ignore = Console::FromArguments(options.ignore);
+    const Text language = NativePath::FromBytes(options.language);
     question_.wantsLanguage = [language](TextView folder) {
       return language == u"all" || (language != u"none" && folder == language);
     };
@@ -89,9 +79,9 @@ class CheckRun {
 
   int Run() {
     if (!AreRules(question_.select) || !AreRules(question_.ignore) || !ReadNames())
-      return WrongUse;
+      return Commands::WrongUse;
     if (options_.fix && !Fix())
-      return WrongUse;
+      return Commands::WrongUse;
     return Report();
   }
 
@@ -140,7 +130,7 @@ class CheckRun {
     const auto answer = Ask();
     if (!HasLanguage(*answer)) {
       Console::Complain("there is no language \"" + options_.language + "\" in this world");
-      return WrongUse;
+      return Commands::WrongUse;
     }
     const Console::Style style = Console::OfOutput();
     std::string report;
@@ -157,20 +147,21 @@ class CheckRun {
       report = Reports::AsText(*answer, style, options_.verbose);
     if (!Console::Write(report)) {
       Console::Complain("the report could not be written");
-      return WrongUse;
+      return Commands::WrongUse;
     }
     return StatusOf(*answer);
   }
 
   [[nodiscard]] bool HasLanguage(const Check::Answer& answer) const {
-    const Text language = FromArgument(options_.language);
+    const Text language = NativePath::FromBytes(options_.language);
     return !answer.index.languages.empty() || language == u"all" || language == u"none" ||
            language == LOCAL::German;
   }
 
   [[nodiscard]] int StatusOf(const Check::Answer& answer) const {
-    const auto least = options_.strict ? Rules::Severity::Note
-                                       : Rules::SeverityOf(FromArgument(options_.minimum)).value();
+    const auto least = options_.strict
+                           ? Rules::Severity::Note
+                           : Rules::SeverityOf(NativePath::FromBytes(options_.minimum)).value();
     return std::ranges::any_of(
                answer.findings,
                [least](const Finding& finding) { return finding.severity <= least; })
@@ -178,7 +169,7 @@ class CheckRun {
                : Clean;
   }
 
-  const Options& options_;
+  const CheckOptions& options_;
   Check::Question question_;
   std::vector<Text> names_;
 };
@@ -196,7 +187,7 @@ int ListRules() {
   std::string list;
   for (const Rules::Rule& rule : Rules::All())
     list += Row(rule, style);
-  return Console::Write(list) ? Clean : WrongUse;
+  return Console::Write(list) ? Clean : Commands::WrongUse;
 }
 
 std::string FixingOf(const Rules::Rule& rule) {
@@ -214,10 +205,10 @@ std::string FixingOf(const Rules::Rule& rule) {
 }
 
 int Explain(const std::string& number) {
-  const Rules::Rule* rule = Rules::Find(FromArgument(number));
+  const Rules::Rule* rule = Rules::Find(NativePath::FromBytes(number));
   if (!rule) {
     Console::Complain("there is no rule \"" + number + "\"");
-    return WrongUse;
+    return Commands::WrongUse;
   }
   const Console::Style style = Console::OfOutput();
   const auto print = [&style](TextView text) { return Console::Printable(text, style); };
@@ -227,10 +218,10 @@ int Explain(const std::string& number) {
       print(rule->number) + " " + print(rule->name) + ", " + print(Rules::NameOf(rule->severity)) +
       guess + "\n  example: " + print(rule->example) + "\n  result:  " + print(rule->consequence) +
       "\n  advice:  " + print(rule->advice) + "\n  mending: " + FixingOf(*rule) + "\n";
-  return Console::Write(words) ? Clean : WrongUse;
+  return Console::Write(words) ? Clean : Commands::WrongUse;
 }
 
-int Run(const Options& options) {
+int Run(const CheckOptions& options) {
   if (options.listRules)
     return ListRules();
   if (!options.explain.empty())
@@ -238,7 +229,7 @@ int Run(const Options& options) {
   const auto world = WorldFolder::Find(options.world, options.files);
   if (!world) {
     Console::Complain("there is no world here; --world names its folder");
-    return WrongUse;
+    return Commands::WrongUse;
   }
   const auto run = [&options, &world] { return CheckRun(options, *world).Run(); };
   return options.watch ? Watch::Repeat(*world, run) : run();
@@ -247,7 +238,7 @@ int Run(const Options& options) {
 }  // namespace
 
 void Commands::AddCheck(CLI::App& app, int& status) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<CheckOptions>();
   CLI::App* check = app.add_subcommand("check", "Finds mistakes in the files of a world");
   check->add_option("file", options->files, "Files and folders to be told of; else all");
   check->add_option("--world", options->world, "The world's folder");

@@ -8,6 +8,9 @@ class App;
 /// it was chosen and has run.
 namespace Commands {
 
+/// The exit status where the program was called wrongly, or could not do what it was to.
+inline constexpr int WrongUse = 2;
+
 void AddCheck(CLI::App& app, int& status);
 void AddFind(CLI::App& app, int& status);
 void AddExport(CLI::App& app, int& status);

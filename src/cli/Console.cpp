@@ -6,10 +6,12 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 namespace {
@@ -66,6 +68,12 @@ namespace Console {
 std::string_view Environment(const char* name) {
   const char* value = std::getenv(name);
   return value ? value : "";
+}
+
+std::vector<Text> FromArguments(const std::vector<std::string>& arguments) {
+  std::vector<Text> texts;
+  std::ranges::transform(arguments, std::back_inserter(texts), &NativePath::FromBytes);
+  return texts;
 }
 
 Style OfOutput() {

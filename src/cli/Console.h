@@ -4,12 +4,16 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Where the command line writes to, and what it is told of it.
 namespace Console {
 
 /// A variable of the environment; empty if it is not set.
 [[nodiscard]] std::string_view Environment(const char* name);
+
+/// Arguments of the command line as texts.
+[[nodiscard]] std::vector<Text> FromArguments(const std::vector<std::string>& arguments);
 
 /// How text is to be written.
 struct Style {

@@ -13,9 +13,7 @@
 
 namespace {
 
-constexpr int WrongUse = 2;
-
-struct Options {
+struct ExportOptions {
   OpenedWorld::Choice choice;
   std::string format;
   std::string title = NativePath::ToBytes(ProgramInfo::Title);
@@ -24,7 +22,7 @@ struct Options {
   bool noPortraits = false;
 };
 
-std::string Export(const Options& options, OpenedWorld::Contents& contents) {
+std::string Export(const ExportOptions& options, OpenedWorld::Contents& contents) {
   const Text title = NativePath::FromBytes(options.title);
   if (options.format == "csv")
     return Csv::OfWorld(contents.maps);
@@ -34,17 +32,17 @@ std::string Export(const Options& options, OpenedWorld::Contents& contents) {
                   {title, !options.noPictures, !options.noPortraits});
 }
 
-int Run(const Options& options) {
+int Run(const ExportOptions& options) {
   auto contents = OpenedWorld::Read(options.choice);
   if (!contents)
-    return WrongUse;
-  return Console::Put(options.output, Export(options, *contents)) ? 0 : WrongUse;
+    return Commands::WrongUse;
+  return Console::Put(options.output, Export(options, *contents)) ? 0 : Commands::WrongUse;
 }
 
 }  // namespace
 
 void Commands::AddExport(CLI::App& app, int& status) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ExportOptions>();
   CLI::App* command =
       app.add_subcommand("export", "Takes a world to the phone, to the wiki, to a spreadsheet");
   command->add_option("--format", options->format, "A page for any browser, a table, or points")

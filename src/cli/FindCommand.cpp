@@ -15,9 +15,8 @@ namespace {
 
 constexpr int Found = 0;
 constexpr int NothingFound = 1;
-constexpr int WrongUse = 2;
 
-struct Options {
+struct FindOptions {
   OpenedWorld::Choice choice;
   std::string term;
   std::vector<std::string> in = {"names", "descriptions"};
@@ -25,7 +24,7 @@ struct Options {
   bool exact = false;
 };
 
-Share::Query QueryOf(const Options& options) {
+Share::Query QueryOf(const FindOptions& options) {
   const auto isIn = [&options](const char* texts) {
     return std::ranges::find(options.in, texts) != options.in.end();
   };
@@ -51,24 +50,24 @@ std::string AsText(const std::vector<Share::Hit>& hits, TextView term) {
   return lines;
 }
 
-int Run(const Options& options) {
+int Run(const FindOptions& options) {
   const auto contents = OpenedWorld::Read(options.choice);
   if (!contents)
-    return WrongUse;
+    return Commands::WrongUse;
   const Share::Query query = QueryOf(options);
   const auto hits = Share::Find(contents->maps, query);
   const std::string answer = options.format == "csv"    ? Csv::OfHits(hits)
                              : options.format == "json" ? Json::OfHits(hits)
                                                         : AsText(hits, query.term);
   if (!Console::Put("-", answer))
-    return WrongUse;
+    return Commands::WrongUse;
   return hits.empty() ? NothingFound : Found;
 }
 
 }  // namespace
 
 void Commands::AddFind(CLI::App& app, int& status) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FindOptions>();
   CLI::App* find =
       app.add_subcommand("find", "Finds entities by a part of their names and descriptions");
   find->add_option("term", options->term, "What to look for, whatever its case and accents")

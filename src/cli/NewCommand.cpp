@@ -17,11 +17,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int Failed = 1;
-constexpr int WrongUse = 2;
 constexpr const char* Viewer = "orvalis";
 constexpr const char* Companion = "orvalis-world";
 
-struct Options {
+struct NewOptions {
   std::string folder;
   std::string world;
   bool empty = false;
@@ -91,19 +90,20 @@ int Fail(int status, const std::string& why) {
   return status;
 }
 
-int Run(const Options& options) {
+int Run(const NewOptions& options) {
   const fs::path folder = options.folder;
   if (!IsFree(folder))
-    return Fail(WrongUse, options.folder + " is there already and not empty");
+    return Fail(Commands::WrongUse, options.folder + " is there already and not empty");
   bool made = false;
   if (options.empty) {
     made = SmallestWorld::Write(options.folder);
   } else {
     const auto world = WorldFolder::Find(options.world, {});
     if (!world)
-      return Fail(WrongUse, "there is no world to copy; --world names one, --empty begins anew");
+      return Fail(Commands::WrongUse,
+                  "there is no world to copy; --world names one, --empty begins anew");
     if (IsInside(folder, NativePath::ToBytes(*world)))
-      return Fail(WrongUse, options.folder + " lies in the world that it would copy");
+      return Fail(Commands::WrongUse, options.folder + " lies in the world that it would copy");
     made = Copy().Folder(NativePath::ToBytes(*world), folder);
   }
   if (!made)
@@ -123,7 +123,7 @@ int Run(const Options& options) {
 }  // namespace
 
 void Commands::AddNew(CLI::App& app, int& status) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<NewOptions>();
   CLI::App* command = app.add_subcommand("new", "Makes a program folder of your own");
   command->add_option("folder", options->folder, "A folder that is not there yet, or empty")
       ->required();

@@ -12,12 +12,6 @@
 
 namespace {
 
-std::vector<Text> FromArguments(const std::vector<std::string>& arguments) {
-  std::vector<Text> texts;
-  std::ranges::transform(arguments, std::back_inserter(texts), &NativePath::FromBytes);
-  return texts;
-}
-
 // A world may lack some of its regions.
 bool IsThere(const World& world) {
   return std::ranges::any_of(world.paths.regions, [](const ProgramPaths::RegionFiles& region) {
@@ -82,8 +76,8 @@ std::optional<Contents> Read(const Choice& choice) {
     Console::Complain("there is no language \"" + choice.language + "\" in this world");
     return std::nullopt;
   }
-  const Share::Selection selection = {FromArguments(choice.regions),
-                                      FromArguments(choice.sections)};
+  const Share::Selection selection = {Console::FromArguments(choice.regions),
+                                      Console::FromArguments(choice.sections)};
   auto maps = Share::Read(*world);
   if (const auto missing = Share::Missing(maps, selection)) {
     Console::Complain("there is no \"" + NativePath::ToBytes(*missing) + "\" in this world");

@@ -11,9 +11,7 @@
 
 namespace {
 
-constexpr int WrongUse = 2;
-
-struct Options {
+struct TemplateOptions {
   std::string world;
   std::string language;
   std::string output = "-";
@@ -21,27 +19,27 @@ struct Options {
   bool missing = false;
 };
 
-int Run(const Options& options) {
+int Run(const TemplateOptions& options) {
   const auto world = WorldFolder::Find(options.world, {});
   if (!world) {
     Console::Complain("there is no world here; --world names its folder");
-    return WrongUse;
+    return Commands::WrongUse;
   }
   const Text wanted = NativePath::FromBytes(options.language);
   Index index(*world, &Pictures::SizeOf, [&wanted](TextView name) { return name == wanted; }, {});
   if (!wanted.empty() && (index.languages.empty() || !index.languages.front().file)) {
     Console::Complain("there is no language \"" + options.language + "\" in this world");
-    return WrongUse;
+    return Commands::WrongUse;
   }
   const Template::Question question = {wanted.empty() ? nullptr : &index.languages.front(),
                                        options.german, options.missing};
-  return Console::Put(options.output, Template::Make(index, question)) ? 0 : WrongUse;
+  return Console::Put(options.output, Template::Make(index, question)) ? 0 : Commands::WrongUse;
 }
 
 }  // namespace
 
 void Commands::AddTemplate(CLI::App& app, int& status) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<TemplateOptions>();
   CLI::App* command =
       app.add_subcommand("template", "Prints a language file that is ready to be filled in");
   command->add_option("--world", options->world, "The world's folder");

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int WrongUse = 2;
-
 constexpr auto All = {&Commands::AddCheck, &Commands::AddFind, &Commands::AddNew,
                       &Commands::AddTemplate, &Commands::AddExport};
 
@@ -28,7 +26,7 @@ int Run(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == EXIT_SUCCESS ? EXIT_SUCCESS : WrongUse;
+    return app.exit(error) == EXIT_SUCCESS ? EXIT_SUCCESS : Commands::WrongUse;
   }
   return status;
 }
@@ -42,6 +40,6 @@ int main(int argc, char** argv) {
     return Run(argc, argv);
   } catch (const std::exception& error) {
     Console::Complain(error.what());
-    return WrongUse;
+    return Commands::WrongUse;
   }
 }
