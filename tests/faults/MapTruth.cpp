@@ -57,8 +57,8 @@ QString Padded(const QString& name) {
   return QStringLiteral(" %1 ").arg(name);
 }
 
-std::string Said(const QString& what, const QString& is, const QString& should) {
-  return QStringLiteral("%1 is %2 and not %3").arg(what, is, should).toStdString();
+std::string Said(const QString& part, const QString& is, const QString& should) {
+  return QStringLiteral("%1 is %2 and not %3").arg(part, is, should).toStdString();
 }
 
 QString Said(const QPoint& point) {
