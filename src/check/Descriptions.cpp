@@ -50,6 +50,8 @@ class InfoCheck {
   void TellNoSection() {
     Finding& finding = findings_.Add(Id::I06, source_, source_.Bytes().substr(0, 0));
     finding.message = u"this file has no section \"info\"";
+    finding.consequence = Join(u"no entity has a description: ",
+                               Count(source_.EntryCount(), u"line", u"lines"), u" never read");
   }
 
   // A key as look-ups take it.

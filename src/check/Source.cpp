@@ -47,6 +47,12 @@ void Source::ReadLines() {
   }
 }
 
+size_t Source::EntryCount() const {
+  return static_cast<size_t>(std::ranges::count_if(lines_, [](const Line& line) {
+    return line.entry.kind == ProfileLines::LineKind::KeyWithValue;
+  }));
+}
+
 void Source::CloseSections() {
   size_t end = lines_.size();
   size_t listEnd = end;

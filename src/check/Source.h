@@ -64,6 +64,9 @@ class Source {
 
   [[nodiscard]] const std::vector<Line>& Lines() const { return lines_; }
 
+  /// How many lines have a key and a value.
+  [[nodiscard]] size_t EntryCount() const;
+
   [[nodiscard]] const std::vector<Section>& Sections() const { return sections_; }
 
   /// The number of the section whose values a look-up of this name finds; `None` without one.

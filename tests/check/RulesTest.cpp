@@ -256,6 +256,8 @@ const std::vector<Case>& Others() {
       {"L03", arvenna, "[hunters]\nAlrik=#,hunters\n", "",
        "the marker stands at 0,0, the search shows it at 0,0"},
       {"L04", arvenna, "[NPC]\nAlrik=#;smiths\n[smiths]\nAlrik=1,2\n", "", listed + "0,0"},
+      {"I06", "info.data", "[infos]\nAlrik=He.\nBerta=She.\n", "", "2 lines never read"},
+      {"G03", "PICS/pic.ini", "[pic]\nAlrik=x.jpg\nBerta=\n", "", "2 lines never read"},
       {"I08", "info.data", "[info]\nAlrik=He\n[who] waits.\nBerta=x\nWolf=y\n", "",
        "2 lines below"},
       {"T01", "LANG/notes.txt", "x", "", "LANG/notes.txt: listed as"},
