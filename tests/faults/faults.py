@@ -6,8 +6,10 @@ it may neither crash nor hang nor change anything."""
 import os
 import random
 import resource
+import shutil
 import subprocess
 import sys
+import tempfile
 
 from worlds import World, spoil
 
@@ -55,11 +57,11 @@ def judge(world, code, settings):
     return f"lost {[line[:80] for line in lost[:3]]}" if lost else None
 
 
-def ask_companion(world, limits, seed):
+def ask_companion(companion, world, limits, seed):
     """What is wrong with the companion's answers, if anything, and what it said."""
     for question in QUESTIONS:
         before = world.state()
-        code, output = run(world, [COMPANION, *question, "--world", world.folder],
+        code, output = run(world, [companion, *question, "--world", world.folder],
                            {**limits, resource.RLIMIT_CPU: COMPANION_SECONDS}, seed)
         if code not in COMPANION_CODES:
             return f"{question[0]}: exit code {code}", output
@@ -68,7 +70,7 @@ def ask_companion(world, limits, seed):
     return None, b""
 
 
-def trial(program, source, seed):
+def trial(program, companion, source, seed):
     """The exit code of a run that did as it should, else none."""
     chance = random.Random(seed)
     world = World(program, source)
@@ -79,7 +81,7 @@ def trial(program, source, seed):
     code, output = run(world, [world.program], limits, seed)
     failure = judge(world, code, settings)
     if not failure:
-        failure, output = ask_companion(world, limits, seed)
+        failure, output = ask_companion(companion, world, limits, seed)
     if failure:
         print(f"seed {seed}: {failure}; {', '.join(done)}{', disk full' if limits else ''}\n"
               f"{output.decode('utf-8', 'replace')[-3000:]}\nkept in {world.folder}", flush=True)
@@ -91,7 +93,11 @@ def trial(program, source, seed):
 def main():
     program, source, count = sys.argv[1], sys.argv[2], int(sys.argv[3])
     first = int(sys.argv[4]) if len(sys.argv) > 4 else 1
-    codes = [trial(program, source, seed) for seed in range(first, first + count)]
+    with tempfile.TemporaryDirectory() as folder:
+        # The user of the worlds may not reach where it was built.
+        os.chmod(folder, 0o755)
+        companion = shutil.copy(COMPANION, folder)
+        codes = [trial(program, companion, source, seed) for seed in range(first, first + count)]
     failed = codes.count(None)
     print(f"{count} broken worlds, {codes.count(FILE_MISSING)} of them without a region's file, "
           f"{failed} failures")
