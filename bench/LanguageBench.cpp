@@ -90,9 +90,9 @@ void Translate(benchmark::State& state, size_t count) {
   StartedLanguage language(start, world.Root(), u"English");
   for (auto _ : state) {
     Snapshot files(cache);
+    const auto nameFile = language.NameFile(files);
     for (size_t i = 0; i < count; ++i)
-      benchmark::DoNotOptimize(
-          language.LocalizeEntityName(language.NameFile(files), world.names[i]));
+      benchmark::DoNotOptimize(language.LocalizeEntityName(nameFile, world.names[i]));
   }
 }
 

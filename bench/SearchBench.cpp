@@ -108,9 +108,9 @@ void TranslateNames(benchmark::State& state) {
   IniOps::Cache cache;
   for (auto _ : state) {
     Snapshot files(cache);
+    const auto nameFile = english.language.NameFile(files);
     for (const Text& name : names)
-      benchmark::DoNotOptimize(
-          english.language.LocalizeEntityName(english.language.NameFile(files), name));
+      benchmark::DoNotOptimize(english.language.LocalizeEntityName(nameFile, name));
   }
 }
 

@@ -20,9 +20,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
   language.CacheTranslationTable(files);
   ScannedNames rule(file.Path());
   rule.CacheTranslationTable(files);
+  const auto nameFile = language.NameFile(files);
   while (!input.empty()) {
     const Text name = Windows1252::Decode(TakeField(input));
-    const Text shown = language.LocalizeEntityName(language.NameFile(files), name);
+    const Text shown = language.LocalizeEntityName(nameFile, name);
     Require(shown == rule.LocalizeEntityName(files, name), "the name shown is the rule's");
     Require(language.UnlocalizeEntityName(shown) == rule.UnlocalizeEntityName(shown),
             "the key behind it is the rule's");

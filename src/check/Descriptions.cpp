@@ -28,7 +28,7 @@ class InfoCheck {
       return;
     const size_t number = source_.FindSection(Section);
     if (number == Source::None)
-      return TellNoSection();
+      return findings_.AddNoSection(Id::I06, source_, u"info");
     section_ = &source_.Sections()[number];
     CheckRedirects();
     for (size_t line = section_->line + 1; line < section_->end; ++line)
@@ -45,13 +45,6 @@ class InfoCheck {
     finding.key = Decoded(line.entry.key);
     finding.message = std::move(message);
     return finding;
-  }
-
-  void TellNoSection() {
-    Finding& finding = findings_.Add(Id::I06, source_, source_.Bytes().substr(0, 0));
-    finding.message = u"this file has no section \"info\"";
-    finding.consequence = Join(u"no entity has a description: ",
-                               Count(source_.EntryCount(), u"line", u"lines"), u" never read");
   }
 
   // A key as look-ups take it.

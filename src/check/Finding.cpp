@@ -1,5 +1,7 @@
 #include "check/Finding.h"
 
+#include "check/Words.h"
+
 Finding& Findings::Count(Finding finding) {
   ++counts_[static_cast<size_t>(finding.rule)];
   const Rules::Rule& rule = Rules::Of(finding.rule);
@@ -25,4 +27,11 @@ Finding& Findings::Add(Rules::Id rule, Text file) {
   finding.rule = rule;
   finding.file = std::move(file);
   return Count(std::move(finding));
+}
+
+void Findings::AddNoSection(Rules::Id rule, const Source& source, TextView section) {
+  Finding& finding = Add(rule, source, source.Bytes().substr(0, 0));
+  finding.message = Texts::Join(u"this file has no section ", Words::Quoted(section));
+  finding.consequence +=
+      Texts::Join(u": ", Words::Count(source.EntryCount(), u"line", u"lines"), u" never read");
 }

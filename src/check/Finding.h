@@ -46,6 +46,9 @@ class Findings {
   /// A mistake of a whole file, given by its path below the world's folder.
   Finding& Add(Rules::Id rule, Text file);
 
+  /// The file lacks the section that it is read for, and none of its lines counts.
+  void AddNoSection(Rules::Id rule, const Source& source, TextView section);
+
   /// How many findings of the rule there are: what takes time is only told of the first ones.
   [[nodiscard]] size_t CountOf(Rules::Id rule) const { return counts_[static_cast<size_t>(rule)]; }
 

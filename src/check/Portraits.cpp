@@ -30,7 +30,7 @@ class PortraitCheck {
       return;
     const size_t number = source_.FindSection(Section);
     if (number == Source::None) {
-      TellNoSection();
+      findings_.AddNoSection(Id::G03, source_, u"pics");
       return;
     }
     const Source::Section& section = source_.Sections()[number];
@@ -42,13 +42,6 @@ class PortraitCheck {
   }
 
  private:
-  void TellNoSection() {
-    Finding& finding = findings_.Add(Id::G03, source_, source_.Bytes().substr(0, 0));
-    finding.message = u"this file has no section \"pics\"";
-    finding.consequence = Join(u"every portrait is the placeholder: ",
-                               Count(source_.EntryCount(), u"line", u"lines"), u" never read");
-  }
-
   void CheckEntry(const Source::Line& line) {
     const std::string_view key = line.entry.key;
     const std::string_view value = ProfileLines::Unquoted(line.entry.value);

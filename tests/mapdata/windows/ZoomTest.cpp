@@ -1,11 +1,8 @@
 #include "controls/windows/WidgetTwips.h"
 #include "mapdata/windows/MapFocus.h"
-#include "mapdata/windows/MapView.h"
 #include "mapdata/windows/ctlLocation.h"
-#include "support/GermanNames.h"
-#include "support/TemporaryFolder.h"
+#include "support/MapFixture.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QEnterEvent>
@@ -28,22 +25,17 @@ namespace {
 constexpr int Notch = 120;
 
 // A map of four markers whose picture is red in its left upper quarter.
-class ZoomTest : public testing::Test {
+class ZoomTest : public MapFixture {
  protected:
-  ZoomTest() {
+  ZoomTest()
+      : MapFixture("[t]\r\nWolf=256,192\r\nElch=300,192\r\nFern=900,700\r\nRand=1020,9\r\n") {
     QImage picture(640, 480, QImage::Format_RGB32);
     picture.fill(Qt::darkGreen);
     for (int y = 0; y < 240; ++y)
       for (int x = 0; x < 320; ++x)
         picture.setPixelColor(x, y, Qt::red);
     picture.save(QString::fromStdString(folder.Native("a.jpg")), "PNG");
-    folder.Write("a.data",
-                 "[t]\r\nWolf=256,192\r\nElch=300,192\r\nFern=900,700\r\nRand=1020,9\r\n");
-    view.SetTexts(u"  Wahl", u"Tip", u"marked", u"Wahl");
-    view.resize(1000, 700);
-    view.show();
-    QApplication::setActiveWindow(&view);
-    view.ChangeMulti(map, data, u"t", u"H", false);
+    Multi();
   }
 
   void Wheel(const QPoint& at, const QPoint& angle, const QPoint& pixels = {}) {
@@ -73,12 +65,6 @@ class ZoomTest : public testing::Test {
     Drag(from, by);
   }
 
-  TemporaryFolder folder;
-  Text map = folder.Path(u"a.jpg");
-  Text data = folder.Path(u"a.data");
-  IniOps::Cache cache;
-  GermanNames names{folder.Path(u"info.data")};
-  MapView view{cache, names};
   QPoint start_;
 };
 
