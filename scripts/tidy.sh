@@ -5,9 +5,7 @@ cd "$(dirname "$0")/.."
 
 scripts/install.sh run test ci
 cmake --preset dev >/dev/null
-for tool in painter composer; do
-  cmake -G Ninja -S "tools/$tool" -B "build/tidy/$tool" -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
-done
+cmake -G Ninja -S tools/pictures -B build/tools >/dev/null
 
 # "FOLDER SOURCE" for what is compiled into the libraries and programs, not for what the build makes.
 sources() {
@@ -25,6 +23,6 @@ for folder in sys.argv[1:]:
                 print(folder, command["file"])
 END
 }
-sources build/dev build/tidy/painter build/tidy/composer |
+sources build/dev build/tools |
   xargs -L1 -P"$(nproc)" clang-tidy --quiet --checks=-bugprone-suspicious-include -p 2>&1 | grep -vE '^[0-9]+ warnings? generated' && exit 1
 [ "${PIPESTATUS[1]}" -eq 0 ]
