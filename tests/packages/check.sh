@@ -30,7 +30,8 @@ lintian --allow-root --fail-on error "$packages"/*.deb
 
 say "A fresh Debian 12"
 if [ ! -e "$root/.made" ]; then
-  rm -rf "$root"
+  # Whatever an earlier run left mounted is not part of it.
+  rm -rf --one-file-system "$root"
   debootstrap --variant=minbase bookworm "$root" "${DEBIAN_MIRROR:-http://deb.debian.org/debian}"
   chroot "$root" useradd --create-home "$user"
   touch "$root/.made"
