@@ -1,11 +1,13 @@
 #include "docs/Document.h"
 
+#include "platform/NativePath.h"
+
 #include <fstream>
 #include <regex>
 
 namespace {
 
-std::map<std::string, std::string> Attributes(const std::string& fence) {
+std::map<std::string, std::string> ReadAttributes(const std::string& fence) {
   static const std::regex attribute(R"re((\w+)=(?:"([^"]*)"|(\S+)))re");
   std::map<std::string, std::string> found;
   for (std::sregex_iterator at(fence.begin(), fence.end(), attribute), end; at != end; ++at)
@@ -47,7 +49,7 @@ Document Document::Read(const std::string& name) {
     if (line.starts_with("```")) {
       fenced = !fenced;
       if (fenced)
-        document.blocks.push_back({number, chapter, Attributes(line), {}});
+        document.blocks.push_back({number, chapter, ReadAttributes(line), {}});
     } else if (fenced) {
       document.blocks.back().body.push_back(line);
     } else if (line.starts_with('#')) {
@@ -68,4 +70,8 @@ std::vector<std::vector<std::string>> Document::Table(const std::string& heading
     if (row.heading == heading)
       table.push_back(row.cells);
   return table;
+}
+
+std::string Narrow(TextView text) {
+  return NativePath::ToBytes(text);
 }

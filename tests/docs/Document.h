@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Text.h"
+
 #include <map>
 #include <string>
 #include <vector>
@@ -34,3 +36,6 @@ struct Document {
   /// The rows of all tables directly below that heading.
   [[nodiscard]] std::vector<std::vector<std::string>> Table(const std::string& heading) const;
 };
+
+/// A text in UTF-8, as the pages are written.
+[[nodiscard]] std::string Narrow(TextView text);

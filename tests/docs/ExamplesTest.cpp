@@ -29,10 +29,6 @@ Text Wide(const std::string& utf8) {
   return NativePath::FromBytes(utf8);
 }
 
-std::string Narrow(TextView text) {
-  return NativePath::ToBytes(text);
-}
-
 std::string Encoded(TextView text) {
   return Windows1252::Encode(text).value();
 }

@@ -18,10 +18,6 @@ namespace {
 
 using Table = std::vector<std::vector<std::string>>;
 
-std::string Narrow(TextView text) {
-  return NativePath::ToBytes(text);
-}
-
 std::string Mode(DisplayMode mode) {
   static constexpr std::array Names = {"list", "names", "hover"};
   return Names.at(static_cast<size_t>(mode));
