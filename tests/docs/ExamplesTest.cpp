@@ -25,13 +25,8 @@ namespace {
 using Lines = std::vector<std::string>;
 using Attributes = std::map<std::string, std::string>;
 
-Text Wide(const std::string& utf8) {
-  return NativePath::FromBytes(utf8);
-}
-
-std::string Narrow(TextView text) {
-  return NativePath::ToBytes(text);
-}
+constexpr auto* Wide = &NativePath::FromBytes;
+constexpr auto* Narrow = &NativePath::ToBytes;
 
 std::string Encoded(TextView text) {
   return Windows1252::Encode(text).value();

@@ -18,9 +18,7 @@ namespace {
 
 using Table = std::vector<std::vector<std::string>>;
 
-std::string Narrow(TextView text) {
-  return NativePath::ToBytes(text);
-}
+constexpr auto* Narrow = &NativePath::ToBytes;
 
 std::string Mode(DisplayMode mode) {
   static constexpr std::array Names = {"list", "names", "hover"};

@@ -6,11 +6,10 @@
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
+#include "support/Content.h"
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
@@ -32,8 +31,6 @@ constexpr TextView PlantSections[] = {u"dragonroots", u"goblinberries", u"kings 
 // the name of an entity.
 constexpr size_t CopiedRun = 6;
 constexpr TextView NameSign = u"¤";
-// Begins names that are put together from this word and another entry.
-constexpr TextView Temple = u"Tempel von";
 
 // What is told of a person, in their name or in their description, and the mark that the name of
 // their portrait then has.
@@ -54,14 +51,11 @@ const Look Looks[] = {
     {std::regex("Einohr="), std::regex("-oneear[-.]"), true},
     {std::regex("trägt seit zwei Jahren denselben Hut"), std::regex("-hat[-.]"), true}};
 
-std::string Bytes(TextView text) {
-  return NativePath::ToBytes(text);
-}
+constexpr auto* Bytes = &NativePath::ToBytes;
 
 std::string PageOf(TextView folder, TextView document) {
   const Text path = Texts::Join(folder, document.substr(0, document.rfind(u'.')), u".html");
-  std::ifstream page(Bytes(path), std::ios::binary);
-  return {std::istreambuf_iterator<char>(page), {}};
+  return ContentOf(Bytes(path));
 }
 
 bool IsLetter(char16_t unit) {
@@ -216,8 +210,6 @@ TEST_F(WorldTest, SpeaksEveryLanguageCompletely) {
   for (const TextView folder : Translations) {
     Speak(folder);
     for (const Text& key : names) {
-      const TextView entry = key.starts_with(Temple) ? Temple : TextView(key);
-      EXPECT_NE(files.IniRead(language.LanguageFile(), u"entities", entry, u""), u"") << Bytes(key);
       const Text shown = Shown(key);
       EXPECT_EQ(Shown(shown), shown) << Bytes(shown);
     }
