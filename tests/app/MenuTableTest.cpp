@@ -13,13 +13,6 @@ TEST(MenuTable, OffersPerksWhereARegionHasThem) {
     EXPECT_EQ(offered.contains(row.region), row.hasPerks);
 }
 
-TEST(MenuTable, CaptionsEveryMenuInBothLanguages) {
-  const auto captions = MenuTable::Captions();
-  EXPECT_EQ(captions.size(), 180U);
-  for (const TextRow& caption : captions)
-    EXPECT_FALSE(caption.english.empty() || caption.german.empty());
-}
-
 TEST(MenuTable, NoTwoCommandsShareAShortcut) {
   std::set<TextView> shortcuts;
   for (const MenuRow& row : MenuTable::Rows())

@@ -3,8 +3,6 @@
 #include "platform/ProgramInfo.h"
 #include "support/TestWorld.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 class OpenedWorld : public testing::Test, protected TestWorld {};
@@ -13,7 +11,6 @@ class OpenedWorld : public testing::Test, protected TestWorld {};
 
 TEST_F(OpenedWorld, NamesTheEdition) {
   const std::pair<std::string, TextView> cases[] = {
-      {"", u""},
       {"NoExtras= YES \r\n", u"Lite"},
       {"NoLang=yes\r\n", u" "},
       {"NoExtras=yes\r\nNoLang=Yes\r\nLocalizedString= English \r\n", u"Lite English"},

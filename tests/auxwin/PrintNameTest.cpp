@@ -4,7 +4,6 @@
 
 TEST(PrintName, IsTheHeadingAsAFileCanBeNamed) {
   EXPECT_EQ(PrintName::Of(u" Arvenna: Lehrer "), u"Arvenna - Lehrer.pdf");
-  EXPECT_EQ(PrintName::Of(u""), u"Orvalis.pdf");
   EXPECT_EQ(PrintName::Of(u"  "), u"Orvalis.pdf");
   EXPECT_EQ(PrintName::Of(u"Suche nach: a/b\\c?\t\"x\""), u"Suche nach - a_b_c___x_.pdf");
   EXPECT_EQ(PrintName::Of(u"../x"), u"_._x.pdf");

@@ -1,7 +1,5 @@
 #include "docs/Document.h"
 
-#include "platform/NativePath.h"
-
 #include <fstream>
 #include <regex>
 
@@ -70,8 +68,4 @@ std::vector<std::vector<std::string>> Document::Table(const std::string& heading
     if (row.heading == heading)
       table.push_back(row.cells);
   return table;
-}
-
-std::string Narrow(TextView text) {
-  return NativePath::ToBytes(text);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Text.h"
+#include "platform/NativePath.h"
 
 #include <map>
 #include <string>
@@ -38,4 +38,4 @@ struct Document {
 };
 
 /// A text in UTF-8, as the pages are written.
-[[nodiscard]] std::string Narrow(TextView text);
+inline constexpr auto* Narrow = &NativePath::ToBytes;

@@ -25,9 +25,7 @@ namespace {
 using Lines = std::vector<std::string>;
 using Attributes = std::map<std::string, std::string>;
 
-Text Wide(const std::string& utf8) {
-  return NativePath::FromBytes(utf8);
-}
+constexpr auto* Wide = &NativePath::FromBytes;
 
 std::string Encoded(TextView text) {
   return Windows1252::Encode(text).value();

@@ -1,9 +1,7 @@
 // Holds the pages for readers of the repository against the repository.
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include "support/Content.h"
+
 #include <regex>
-#include <string>
 
 #include <gtest/gtest.h>
 
@@ -12,11 +10,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path Repository = ORVALIS_SOURCES;
-
-std::string Content(const fs::path& page) {
-  std::ifstream file(page);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // Every place in the page that the pattern matches.
 std::vector<std::smatch> All(const std::string& content, const std::regex& pattern) {
@@ -51,7 +44,7 @@ TEST_P(Pages, NameOnlyWhatIsThere) {
   static const std::regex path(
       R"(`((?:src|tests|docs|world|bench|tools|packaging|scripts|fuzz)/[^`* ]*)[ `])");
   const fs::path page = Repository / GetParam();
-  const std::string content = Content(page);
+  const std::string content = ContentOf(page);
   ASSERT_GT(content.size(), 500U);
   for (const std::smatch& named : All(content, path))
     EXPECT_TRUE(fs::exists(Repository / named[1].str())) << page << " names " << named[1];

@@ -111,10 +111,6 @@ class Reader:
         self.read(window)
         return window
 
-    def tool_tip(self):
-        return next((tip.get_name() for tip in children(self.application)
-                     if tip.get_role_name() == "tool tip" and "showing" in states(tip)), None)
-
     def map(self):
         view = next(child for child in children(self.main) if child.get_role_name() == "filler")
         return next(child for child in children(view) if child.get_role_name() == "list")

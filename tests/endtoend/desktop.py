@@ -47,10 +47,6 @@ class Picture:
         return GOLD in [self.at(x + dx, y + dy) for dx in (-1, 0, 1) for dy in (-1, 0, 1)
                         if 0 <= x + dx < self.width and 0 <= y + dy < self.height]
 
-    def part(self, left, top, width, height):
-        """The pixels of a rectangle."""
-        return [self.pixels[((top + y) * self.width + left) * 3:][:width * 3] for y in range(height)]
-
 
 class Screen(Picture):
     """The pixels of the whole screen."""

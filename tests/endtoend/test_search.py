@@ -1,16 +1,14 @@
-"""Finds entities by name in all regions, and uses markers and names with the pointer."""
+"""Finds entities by name in all regions, and opens what was found with the pointer."""
 
 import re
 import sys
 
 import accessibility
 from accessibility import Reader
-from desktop import GOLD, MARKER_OFFSET, Program, Screen, positions, read_section, wait_for
+from desktop import MARKER_OFFSET, Program, Screen, positions, wait_for
 
 REGIONS = ("arvenna", "skaldor", "sarrakh", "ostrakh", "ancestors")
 TERM = "Schmied T"
-# Beside a marker, in pixels: where a name's ground shows for certain.
-BESIDE = range(10, 60)
 
 
 def hits(program, term):
@@ -53,32 +51,6 @@ def open_by_pointer(program, reader, name, x, y):
     assert reader.markers() == [name]
 
 
-def rest_on_a_name(program, reader):
-    """Rests on a marker whose name shows only then, on the name, and on another marker."""
-    program.keys("alt+a", "Right", "l")
-    reader.shows("the teachers", lambda markers: len(markers) > 5)
-    teachers = positions(program.path("arvenna.data"), "teachers")
-    descriptions = read_section(program.path("info.data"), "info")
-    name, *position = next(teacher for teacher in teachers if teacher[0].startswith("Bibliothekar"))
-    x, y = program.spot(position)
-
-    def side_of_name():
-        screen = Screen()
-        for side in (-1, 1):
-            gold = [screen.at(x + side * beside, y + dy) == GOLD for beside in BESIDE for dy in range(-4, 5)]
-            if sum(gold) > len(gold) / 3:
-                return side
-        return None
-    assert side_of_name() is None, "names show before the pointer comes"
-    program.point(x, y)
-    side = wait_for(side_of_name, "the name beside the marker")
-    wait_for(lambda: reader.tool_tip() == name, "the marker's tooltip")
-    program.point(x + side * 30, y)
-    wait_for(lambda: reader.tool_tip() == descriptions[name].replace("\\n", " ")[:80] + "...", "the name's tooltip")
-    program.point(*program.spot(teachers[0][1:]))
-    wait_for(lambda: side_of_name() is None, "the end of the name")
-
-
 with Program(sys.argv[1], environment=accessibility.ENVIRONMENT) as program:
     reader = Reader(program)
     name, position = search(program, reader)
@@ -89,4 +61,3 @@ with Program(sys.argv[1], environment=accessibility.ENVIRONMENT) as program:
     x, y = program.spot(position)
     open_by_pointer(program, reader, name, x, y)
     open_by_pointer(program, reader, name, x + 30, y)
-    rest_on_a_name(program, reader)

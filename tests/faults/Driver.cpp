@@ -18,8 +18,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
@@ -39,13 +37,14 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double MostSeconds = 2;
 constexpr unsigned MostSecondsByClock = 300;
 constexpr int HangCode = 3;
 constexpr int UntrueCode = 4;
-constexpr int MostMenuKeys = 60;
 constexpr int StepsInDialog = 6;
 
 constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSize(1024, 800),
@@ -152,7 +151,7 @@ class Driver : public QObject {
   // As the desktop sends it: to a popup, else to what has the focus, seen or not, else the window.
   static void PressAt(const QWidget& window, Qt::Key key) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      const QString text = key == Qt::Key_A ? QStringLiteral("a") : QString();
+      const QString text = key == Qt::Key_A ? u"a"_s : QString();
       QKeyEvent event(type, key, Qt::NoModifier, text);
       QApplication::sendEvent(window.windowHandle(), &event);
     }
@@ -186,7 +185,7 @@ class Driver : public QObject {
         break;
       case 1:
         what = "picking from the list";
-        Pick(*window.findChild<QComboBox*>(QStringLiteral("cboItems")));
+        Pick(*window.findChild<QComboBox*>(u"cboItems"_s));
         break;
       case 2:
       case 3:
@@ -218,51 +217,8 @@ class Driver : public QObject {
     command_ = QtText::ToQt(row.name).toLatin1();
     what = command_.constData();
     auto* action = window.findChild<QAction*>(QtText::ToQt(row.name));
-    if (!action || !action->isEnabled() || !action->isVisible())
-      return;
-    if (random_() % 2 == 0 || !ChooseByKeys(window, *action))
+    if (action && action->isEnabled() && action->isVisible())
       action->trigger();
-  }
-
-  // Opens the menus with the keyboard, down to the one that holds the action, and presses Enter on
-  // it; false, and all menus closed, if the keys lead nowhere.
-  static bool ChooseByKeys(QMainWindow& window, QAction& action) {
-    QMenuBar& bar = *window.menuBar();
-    std::vector<QAction*> way = {&action};
-    while (!bar.actions().contains(way.front())) {
-      auto* const menu = qobject_cast<QMenu*>(way.front()->associatedObjects().value(0));
-      if (!menu)
-        return false;
-      way.insert(way.begin(), menu->menuAction());
-    }
-    const QString first = bar.actions().constFirst()->text();
-    const QString key = first.section(u'&', 1).left(1).toUpper();
-    if (key.isEmpty())
-      return false;
-    QWidget* const focused = window.focusWidget();
-    QTest::keyClick(focused ? focused : &window, static_cast<Qt::Key>(key.at(0).unicode()),
-                    Qt::AltModifier);
-    const bool there = Walk(window, bar, way);
-    if (there)
-      PressAt(window, Qt::Key_Return);
-    while (!there && QApplication::activePopupWidget())
-      QApplication::activePopupWidget()->close();
-    return there;
-  }
-
-  static bool Walk(const QWidget& window, const QMenuBar& bar, const std::vector<QAction*>& way) {
-    for (int i = 0; i < MostMenuKeys && bar.activeAction() != way.front(); ++i)
-      PressAt(window, Qt::Key_Right);
-    for (size_t level = 1; level < way.size(); ++level) {
-      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      for (int i = 0; menu && i < MostMenuKeys && menu->activeAction() != way[level]; ++i)
-        PressAt(window, Qt::Key_Down);
-      if (!menu || menu->activeAction() != way[level])
-        return false;
-      if (level + 1 < way.size())
-        PressAt(window, Qt::Key_Right);
-    }
-    return bar.activeAction() == way.front();
   }
 
   void Pick(QComboBox& items) {
@@ -280,17 +236,13 @@ class Driver : public QObject {
     if (!widget->isVisible())
       return;
     const QPoint at = widget->rect().center();
-    const auto send = [widget, at](QEvent::Type type, Qt::MouseButton button) {
-      QMouseEvent event(type, at, widget->mapToGlobal(at), button, button, Qt::NoModifier);
-      QApplication::sendEvent(widget, &event);
-    };
-    send(QEvent::MouseMove, Qt::NoButton);
+    Send(*widget, QEvent::MouseMove, at, Qt::NoButton);
     if (doubleClick)
-      send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+      Send(*widget, QEvent::MouseButtonDblClick, at, Qt::LeftButton);
   }
 
   void LookCloser(QMainWindow& window) {
-    QWidget* const map = window.centralWidget()->findChild<QWidget*>(QStringLiteral("imgMap"));
+    QWidget* const map = window.centralWidget()->findChild<QWidget*>(u"imgMap"_s);
     const auto any = [this](int length) {
       return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, length)));
     };
@@ -310,20 +262,17 @@ class Driver : public QObject {
         QTest::keyClick(focused, Any(PanKeys), Qt::ShiftModifier);
         break;
       default:
-        Drag(*map, at, {any(map->width()), any(map->height())});
+        Send(*map, QEvent::MouseButtonPress, at, Qt::LeftButton);
+        const QPoint to = {any(map->width()), any(map->height())};
+        Send(*map, QEvent::MouseMove, to, Qt::LeftButton);
+        Send(*map, QEvent::MouseButtonRelease, to, Qt::NoButton);
     }
   }
 
-  static void Drag(QWidget& map, const QPoint& from, const QPoint& to) {
-    const auto send = [&map](QEvent::Type type, const QPoint& at, Qt::MouseButtons held) {
-      QMouseEvent event(type, at, map.mapToGlobal(at),
-                        type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held,
-                        Qt::NoModifier);
-      QApplication::sendEvent(&map, &event);
-    };
-    send(QEvent::MouseButtonPress, from, Qt::LeftButton);
-    send(QEvent::MouseMove, to, Qt::LeftButton);
-    send(QEvent::MouseButtonRelease, to, Qt::NoButton);
+  static void Send(QWidget& to, QEvent::Type type, const QPoint& at, Qt::MouseButtons held) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, to.mapToGlobal(at), button, held, Qt::NoModifier);
+    QApplication::sendEvent(&to, &event);
   }
 
   void PressKey(QWidget& window) {

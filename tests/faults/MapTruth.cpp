@@ -27,6 +27,7 @@
 
 using QtText::FromQt;
 using QtText::ToQt;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,9 +41,12 @@ constexpr int HeadingGap = 120;
 // In twips.
 constexpr int EdgeOfView = 30;
 
-QString Indexed(const char* name, int slot) {
-  return slot < 0 ? QLatin1String(name)
-                  : QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(slot);
+QString MarkerName(int slot) {
+  return slot < 0 ? u"ITEM"_s : u"DOT(%1)"_s.arg(slot);
+}
+
+QString LabelName(int slot) {
+  return slot < 0 ? u"lblCaption"_s : u"lblDOT(%1)"_s.arg(slot);
 }
 
 int Rounded(double value) {
@@ -54,15 +58,15 @@ double TwipsPerPixel(const QWidget& widget) {
 }
 
 QString Padded(const QString& name) {
-  return QStringLiteral(" %1 ").arg(name);
+  return u" %1 "_s.arg(name);
 }
 
 std::string Said(const QString& part, const QString& is, const QString& should) {
-  return QStringLiteral("%1 is %2 and not %3").arg(part, is, should).toStdString();
+  return u"%1 is %2 and not %3"_s.arg(part, is, should).toStdString();
 }
 
 QString Said(const QPoint& point) {
-  return QStringLiteral("%1,%2").arg(point.x()).arg(point.y());
+  return u"%1,%2"_s.arg(point.x()).arg(point.y());
 }
 
 }  // namespace
@@ -91,9 +95,9 @@ void MapTruth::Connect() {
     if (row.kind == MenuRow::Kind::Category)
       connect(window_.findChild<QAction*>(ToQt(row.name)), &QAction::triggered, this,
               [this, &row] { Category(row); });
-  connect(window_.findChild<QAction*>(QStringLiteral("miFindAgain")), &QAction::triggered, this,
+  connect(window_.findChild<QAction*>(u"miFindAgain"_s), &QAction::triggered, this,
           [this] { ShowHit(Search::FindNext(search_)); });
-  auto* const items = map_.findChild<QComboBox*>(QStringLiteral("cboItems"));
+  auto* const items = map_.findChild<QComboBox*>(u"cboItems"_s);
   connect(items, &QComboBox::activated, this, [this, items](int row) {
     if (kind_ != Kind::List)
       return;
@@ -102,7 +106,7 @@ void MapTruth::Connect() {
       BringIntoView(InView(*item_));
   });
   for (int slot = 0; slot < Slots; ++slot)
-    connect(map_.findChild<ctlLocation*>(Indexed("DOT", slot)), &ctlLocation::MouseMove, this,
+    connect(map_.findChild<ctlLocation*>(MarkerName(slot)), &ctlLocation::MouseMove, this,
             [this, slot] { hovered_ = slot; });
   const auto* gestures = map_.findChild<MapGestures*>();
   connect(gestures, &MapGestures::ZoomWanted, this, &MapTruth::Zoom);
@@ -128,7 +132,7 @@ void MapTruth::Repeated() {
   hovered_ = -1;
   const QWidget* focused = window_.focusWidget();
   for (int slot = 0; focused && slot < Slots; ++slot)
-    if (focused->objectName() == Indexed("DOT", slot))
+    if (focused->objectName() == MarkerName(slot))
       hovered_ = slot;
   if (kind_ == Kind::List || kind_ == Kind::Hit)
     Pick(listed_);
@@ -139,10 +143,6 @@ void MapTruth::Begin() {
   anchor_ = marker ? marker->geometry().center() : map_.rect().center();
 }
 
-bool MapTruth::CanZoom() {
-  return kind_ != Kind::Nothing && (kind_ != Kind::Markers || IsReadable(picture_));
-}
-
 void MapTruth::ShowWhole() {
   scale_ = 1;
   left_ = 0;
@@ -150,7 +150,7 @@ void MapTruth::ShowWhole() {
 }
 
 void MapTruth::Zoom(const QPoint& at, double factor) {
-  if (!CanZoom())
+  if (kind_ == Kind::Nothing || (kind_ == Kind::Markers && !IsReadable(picture_)))
     return;
   const double scale = factor > 0 ? std::clamp(scale_ * factor, 1.0, 8.0) : 1;
   const QPointF point = QPointF(at) * TwipsPerPixel(map_);
@@ -182,7 +182,7 @@ void MapTruth::Clamp() {
 
 void MapTruth::Watch(QWidget& dialog) {
   if (const auto* find = qobject_cast<frmFind*>(&dialog)) {
-    const auto* names = find->findChild<QRadioButton*>(QStringLiteral("rbNamesOnly"));
+    const auto* names = find->findChild<QRadioButton*>(u"rbNamesOnly"_s);
     connect(names, &QRadioButton::toggled, this, [this](bool chosen) {
       search_.SearchMode = chosen ? Search::Mode::Names : Search::Mode::Descriptions;
     });
@@ -234,7 +234,7 @@ void MapTruth::Category(const MenuRow& row) {
   size_t caption = 0;
   for (const MenuRow& other : MenuTable::Rows()) {
     if (other.kind == MenuRow::Kind::Menu && other.region == row.region && heading.isEmpty())
-      heading = ToQt(captions_.at(caption)) + QStringLiteral(": ");
+      heading = ToQt(captions_.at(caption)) + u": "_s;
     if (&other == &row)
       heading += ToQt(captions_.at(caption));
     caption += other.kind == MenuRow::Kind::BarDivider ? 0 : 1;
@@ -279,18 +279,15 @@ void MapTruth::ShowMarkers(const Text& picture, const Text& data, const Text& ca
   hovered_ = -1;
 }
 
-std::optional<EntityFile::Position> MapTruth::PositionOf(const QString& name) {
-  IniOps::Snapshot files(world_.cache);
-  return EntityFile::ReadPicked(files.File(data_), category_, world_.language.Key(FromQt(name)));
-}
-
 void MapTruth::Pick(const QString& name) {
   listed_ = name;
   item_.reset();
   if (name.startsWith(u' '))
     return;
   found_ = name.isEmpty() ? found_ : name;
-  if (const auto position = PositionOf(found_)) {
+  IniOps::Snapshot files(world_.cache);
+  const Text key = world_.language.Key(FromQt(found_));
+  if (const auto position = EntityFile::ReadPicked(files.File(data_), category_, key)) {
     item_ = Spot{.point = {position->x, position->y},
                  .before = Before,
                  .name = found_,
@@ -350,12 +347,9 @@ QPoint MapTruth::OnPicture(int x, int y, double scale) const {
   return {scaled(map_.width(), 1024, x), scaled(map_.height(), 768, y)};
 }
 
-QPoint MapTruth::PointOf(int x, int y) const {
-  return OnPicture(x, y, scale_) - QPoint(Rounded(left_), Rounded(top_));
-}
-
 QPoint MapTruth::InView(const Spot& spot) const {
-  return PointOf(spot.point.x(), spot.point.y()) - QPoint(spot.before, spot.before);
+  return OnPicture(spot.point.x(), spot.point.y(), scale_) -
+         QPoint(Rounded(left_) + spot.before, Rounded(top_) + spot.before);
 }
 
 // How far a marker's nearest side lies inside of the map, in twips; below 0 it is outside.
@@ -410,35 +404,32 @@ std::string MapTruth::Fault() {
 }
 
 std::string MapTruth::FaultOfShown(const std::vector<Spot>& spots) const {
-  std::set<QString> wanted = {QStringLiteral("imgMap"), QStringLiteral("linMenuSep")};
+  std::set<QString> wanted = {u"imgMap"_s, u"linMenuSep"_s};
   std::set<QString> either;
   for (const Spot& spot : spots) {
     // By a rounding a marker at the very edge may be seen or not.
     if (scale_ > 1 && std::abs(Inside(spot)) <= EdgeOfView)
-      either.insert({spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot),
-                     spot.slot < 0 ? QStringLiteral("lblCaption") : Indexed("lblDOT", spot.slot)});
+      either.insert({MarkerName(spot.slot), LabelName(spot.slot)});
     if (scale_ > 1 && Inside(spot) <= 0)
       continue;
     if (spot.markerShown)
-      wanted.insert(spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot));
+      wanted.insert(MarkerName(spot.slot));
     if (spot.labelShown)
-      wanted.insert(spot.slot < 0 ? QStringLiteral("lblCaption") : Indexed("lblDOT", spot.slot));
+      wanted.insert(LabelName(spot.slot));
   }
   const bool titled = kind_ == Kind::Hit || (kind_ == Kind::Markers && readable_.at(picture_));
   if (titled)
-    wanted.insert(QStringLiteral("lblMultiInfo"));
+    wanted.insert(u"lblMultiInfo"_s);
   if (kind_ == Kind::List)
-    wanted.insert({QStringLiteral("cboItems"), QStringLiteral("btnInfo")});
+    wanted.insert({u"cboItems"_s, u"btnInfo"_s});
   for (const QWidget* child : map_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     const QString name = child->objectName();
     if (!name.isEmpty() && either.count(name) == 0 && child->isHidden() == (wanted.count(name) > 0))
-      return (name +
-              (child->isHidden() ? QStringLiteral(" is hidden") : QStringLiteral(" is shown")))
-          .toStdString();
+      return (name + (child->isHidden() ? u" is hidden"_s : u" is shown"_s)).toStdString();
   }
-  const auto& heading = static_cast<const QLabel&>(Part(QStringLiteral("lblMultiInfo")));
+  const auto& heading = static_cast<const QLabel&>(Part(u"lblMultiInfo"_s));
   if (titled && heading.text() != heading_)
-    return Said(QStringLiteral("the heading"), heading.text(), heading_);
+    return Said(u"the heading"_s, heading.text(), heading_);
   const int gap = Rounded((HeadingGap - Frame) / TwipsPerPixel(map_));
   if (titled && std::abs(map_.width() - gap - heading.width() - heading.x()) > 1)
     return "the heading is not in its corner";
@@ -463,7 +454,7 @@ QPoint MapTruth::BesideMarker(const Spot& spot, int width) const {
 
 std::string MapTruth::FaultOf(const Spot& spot) const {
   const double twips = TwipsPerPixel(map_);
-  const QString name = spot.slot < 0 ? QStringLiteral("ITEM") : Indexed("DOT", spot.slot);
+  const QString name = MarkerName(spot.slot);
   const auto& marker = static_cast<const ctlLocation&>(Part(name));
   const QPoint corner = InView(spot);
   // The places of a closer view are sums of many roundings.
@@ -473,28 +464,27 @@ std::string MapTruth::FaultOf(const Spot& spot) const {
   const QPoint at = {Rounded(corner.x() / twips), Rounded(corner.y() / twips)};
   const QPoint off = marker.pos() - at;
   if (spot.markerShown && std::max(std::abs(off.x()), std::abs(off.y())) > most)
-    return Said(name, QStringLiteral("at ") + Said(marker.pos()), Said(at));
+    return Said(name, u"at "_s + Said(marker.pos()), Said(at));
   if (spot.markerShown && marker.Desc() != spot.name)
     return Said(name, marker.Desc(), spot.name);
   if (marker.BorderColor() != (spot.highlighted ? ctlLocation::Green : ctlLocation::DarkRed))
-    return (name + QStringLiteral(" has another's colour")).toStdString();
+    return (name + u" has another's colour"_s).toStdString();
   if (!spot.labelShown)
     return {};
-  const auto& label = static_cast<const QLabel&>(
-      Part(spot.slot < 0 ? QStringLiteral("lblCaption") : Indexed("lblDOT", spot.slot)));
+  const auto& label = static_cast<const QLabel&>(Part(LabelName(spot.slot)));
   if (label.text() != spot.caption)
     return Said(label.objectName(), label.text(), spot.caption);
   const int width = Rounded(label.width() * twips);
   const QPoint beside = (spot.markerShown ? marker.pos() : at) + BesideMarker(spot, width);
   return label.pos() == beside
              ? std::string()
-             : Said(label.objectName(), QStringLiteral("at ") + Said(label.pos()), Said(beside));
+             : Said(label.objectName(), u"at "_s + Said(label.pos()), Said(beside));
 }
 
 std::string MapTruth::FaultOfList() const {
   if (kind_ != Kind::List)
     return {};
-  const auto& items = static_cast<const QComboBox&>(Part(QStringLiteral("cboItems")));
+  const auto& items = static_cast<const QComboBox&>(Part(u"cboItems"_s));
   QStringList shown;
   for (int row = 0; row < items.count(); ++row)
     shown << items.itemText(row);
@@ -502,15 +492,14 @@ std::string MapTruth::FaultOfList() const {
   shown.sort();
   wanted.sort();
   if (shown != wanted)
-    return Said(QStringLiteral("the list"), shown.join(u'|'), wanted.join(u'|'));
-  return items.currentText() == listed_
-             ? std::string()
-             : Said(QStringLiteral("the list's row"), items.currentText(), listed_);
+    return Said(u"the list"_s, shown.join(u'|'), wanted.join(u'|'));
+  return items.currentText() == listed_ ? std::string()
+                                        : Said(u"the list's row"_s, items.currentText(), listed_);
 }
 
 std::string MapTruth::FaultOfFocus() const {
   const QWidget* focused = window_.focusWidget();
   return !focused || focused->isVisible()
              ? std::string()
-             : (focused->objectName() + QStringLiteral(" has the focus unseen")).toStdString();
+             : (focused->objectName() + u" has the focus unseen"_s).toStdString();
 }

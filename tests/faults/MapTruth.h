@@ -66,7 +66,6 @@ class MapTruth : public QObject {
   void Repeated();
   void SpeakAs(const InterfaceTexts& texts, const Text& file);
   [[nodiscard]] bool IsReadable(const Text& picture);
-  [[nodiscard]] std::optional<EntityFile::Position> PositionOf(const QString& name);
   [[nodiscard]] std::vector<Spot> MarkersOfCategory();
   [[nodiscard]] std::vector<Spot> Spots();
   void ShowWhole();
@@ -74,11 +73,9 @@ class MapTruth : public QObject {
   void Pan(double right, double down);
   void BringIntoView(const QPoint& corner);
   void Clamp();
-  [[nodiscard]] bool CanZoom();
   // Where a position is on the picture at this scale, on the map, and the corner of its marker; in
   // twips.
   [[nodiscard]] QPoint OnPicture(int x, int y, double scale) const;
-  [[nodiscard]] QPoint PointOf(int x, int y) const;
   [[nodiscard]] QPoint InView(const Spot& spot) const;
   [[nodiscard]] int Inside(const Spot& spot) const;
   [[nodiscard]] std::string FaultOf(const Spot& spot) const;

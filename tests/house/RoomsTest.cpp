@@ -1,10 +1,8 @@
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include "support/Content.h"
+
 #include <map>
 #include <optional>
 #include <regex>
-#include <string>
 
 #include <gtest/gtest.h>
 
@@ -80,11 +78,6 @@ std::optional<std::string> Offence(const std::string& file, const std::string& i
   return "does not stand left of it";
 }
 
-std::string Content(const fs::path& file) {
-  std::ifstream stream(file);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 template <typename Visit>
 void ForEachInclude(const Visit& visit) {
   static const std::regex include(R"re(#include (["<])([^">]+)[">])re");
@@ -92,7 +85,7 @@ void ForEachInclude(const Visit& visit) {
     const std::string file = fs::relative(entry.path(), Sources).generic_string();
     if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp")
       continue;
-    const std::string content = Content(entry.path());
+    const std::string content = ContentOf(entry.path());
     for (std::sregex_iterator it(content.begin(), content.end(), include), end; it != end; ++it)
       visit(file, (*it)[1] == "<", (*it)[2].str());
   }

@@ -1,8 +1,6 @@
 #include "support/ScannedNames.h"
 #include "support/TestWorld.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 using IniOps::Snapshot;

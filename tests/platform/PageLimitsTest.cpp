@@ -1,10 +1,7 @@
 #include "platform/PageLimits.h"
 
 #include "platform/NativePath.h"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include "support/Content.h"
 
 #include <gtest/gtest.h>
 
@@ -26,9 +23,7 @@ TEST(PageLimits, HoldEveryPageOfTheWorld) {
   for (const auto& entry : fs::recursive_directory_iterator(fs::path(ORVALIS_SOURCES) / "world")) {
     if (entry.path().extension() != ".html")
       continue;
-    std::ifstream file(entry.path());
-    const std::string bytes(std::istreambuf_iterator<char>(file), {});
-    EXPECT_TRUE(PageLimits::Hold(NativePath::EntryName(bytes))) << entry.path();
+    EXPECT_TRUE(PageLimits::Hold(NativePath::EntryName(ContentOf(entry.path())))) << entry.path();
     ++pages;
   }
   EXPECT_GT(pages, 20);

@@ -35,7 +35,6 @@ TEST(WaveFile, OnlyWholeFilesOfPlainSamplesArePlayed) {
       {"compressed", Wave(64, 64, 85), false},
       {"no samples", Wave(0, 0), false},
       {"no format", "RIFF" + Little(12, 4) + "WAVEdata" + Little(4, 4) + "abcd", false},
-      {"only a header", Wave(64, 64).substr(0, 12), false},
       {"no wave file", "ID3 something else altogether", false},
       {"empty", "", false},
   };

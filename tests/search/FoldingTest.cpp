@@ -13,7 +13,6 @@ TEST(Folding, LeavesCaseAndAccentsOut) {
 
 TEST(Folding, FindsAPartOfAText) {
   EXPECT_TRUE(Holds(u"Händlerin Mara", u"HANDLERIN M"));
-  EXPECT_TRUE(Holds(u"Handler", u"händl"));
   EXPECT_TRUE(Holds(u"STRASSE", u"ß"));
   EXPECT_TRUE(Holds(u"Wolf", u""));
   EXPECT_FALSE(Holds(u"Wolf", u"Wolfs"));

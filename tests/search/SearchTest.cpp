@@ -6,8 +6,6 @@
 #include <optional>
 #include <string>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 class Searching : public testing::Test, protected TestWorld {

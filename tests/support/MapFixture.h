@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/windows/WidgetTwips.h"
 #include "mapdata/windows/MapView.h"
 #include "support/GermanNames.h"
 #include "support/Windows.h"
@@ -7,6 +8,14 @@
 #include <QApplication>
 
 #include <gtest/gtest.h>
+
+/// The pixel of something whose left and top edge are so many twips before a position of the frame.
+inline QPoint PixelOnMap(const MapView& map, int x, int y, int before = 65) {
+  const auto screen = WidgetTwips::ScreenOf(map);
+  const auto point = Twips2Pixel_Module::PointOnMap(screen, map.MapSize(), x, y);
+  return {WidgetTwips::ToPixelsX(screen, point.x - before),
+          WidgetTwips::ToPixelsY(screen, point.y - before)};
+}
 
 /// A map over one data file, with the category "t", and one description, that of a wolf.
 class MapFixture : public testing::Test {

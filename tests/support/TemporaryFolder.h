@@ -2,12 +2,9 @@
 
 #include "platform/NativePath.h"
 #include "platform/Text.h"
+#include "support/Content.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <string>
 
 /// A folder of a test's own, gone with its object.
 class TemporaryFolder {
@@ -39,10 +36,7 @@ class TemporaryFolder {
     std::ofstream(Native(name), std::ios::binary) << bytes;
   }
 
-  [[nodiscard]] std::string Read(const std::string& name) const {
-    std::ifstream file(Native(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  [[nodiscard]] std::string Read(const std::string& name) const { return ContentOf(Native(name)); }
 
  private:
   std::string path_;

@@ -5,6 +5,13 @@
 
 #include <gtest/gtest.h>
 
+std::vector<Text> RowsOf(const GridListbox& list) {
+  std::vector<Text> rows;
+  for (int row = 1; row <= list.ListCount(); ++row)
+    rows.push_back(list.List(row));
+  return rows;
+}
+
 void ShowActive(QWidget& window) {
   window.show();
   window.activateWindow();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/windows/GridListbox.h"
 #include "support/TemporaryFolder.h"
 
 #include <QPushButton>
@@ -31,6 +32,9 @@ inline std::string TitleOf(const QWidget& window) {
 inline void Press(const QObject& window, const char* button) {
   Part<QPushButton>(window, button).click();
 }
+
+/// The texts of all its rows, from the first.
+std::vector<Text> RowsOf(const GridListbox& list);
 
 /// Shows the window, and waits until it has the keyboard.
 void ShowActive(QWidget& window);

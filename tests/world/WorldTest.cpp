@@ -6,11 +6,10 @@
 #include "perks/PerkCatalogue.h"
 #include "platform/NativePath.h"
 #include "platform/Windows1252.h"
+#include "support/Content.h"
 
 #include <algorithm>
 #include <cctype>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
@@ -54,14 +53,11 @@ const Look Looks[] = {
     {std::regex("Einohr="), std::regex("-oneear[-.]"), true},
     {std::regex("trägt seit zwei Jahren denselben Hut"), std::regex("-hat[-.]"), true}};
 
-std::string Bytes(TextView text) {
-  return NativePath::ToBytes(text);
-}
+constexpr auto* Bytes = &NativePath::ToBytes;
 
 std::string PageOf(TextView folder, TextView document) {
   const Text path = Texts::Join(folder, document.substr(0, document.rfind(u'.')), u".html");
-  std::ifstream page(Bytes(path), std::ios::binary);
-  return {std::istreambuf_iterator<char>(page), {}};
+  return ContentOf(Bytes(path));
 }
 
 bool IsLetter(char16_t unit) {

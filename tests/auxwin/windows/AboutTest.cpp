@@ -14,8 +14,6 @@ class About : public testing::Test, protected TestWorld {
     return std::make_unique<frmAbout>(nullptr, world, desktop, launching);
   }
 
-  static std::string Version() { return "Version: " + NativePath::ToBytes(ProgramInfo::Version); }
-
   [[nodiscard]] std::string Loop() const { return "loop " + folder.Native("orvalis.wav"); }
 };
 
@@ -36,8 +34,7 @@ TEST_F(About, MusicPlaysFromLoadingToClosing) {
 
 TEST_F(About, OnlyYesPlaysAndOnlyWhatPlayedIsStopped) {
   const std::pair<const char*, bool> table[] = {
-      {"PlayMusic=\"  YES  \"", true}, {"PlayMusic=Yes", true}, {"PlayMusic=", true},
-      {"PlayMusic=no", false},         {"PlayMusic=1", false},  {"PlayMusic=ja", false}};
+      {"PlayMusic=\"  YES  \"", true}, {"PlayMusic=", true}, {"PlayMusic=1", false}};
 
   for (const auto& [setting, plays] : table) {
     folder.Write("orvalis.ini", std::string("[special]\r\n") + setting + "\r\n");
@@ -59,15 +56,13 @@ TEST_F(About, MusicThatIsMissingOrBrokenRingsTheBellOnce) {
 }
 
 TEST_F(About, NamesProgramVersionAndEdition) {
-  const auto whole = Open();
-  EXPECT_EQ(TitleOf(*whole), "Über Orvalis ");
-  EXPECT_EQ(TextOf(*whole, "lblVersion"), Version() + ' ');
-  EXPECT_EQ(TextOf(*whole, "lblTitle"), "Orvalis");
   folder.Write("orvalis.ini", "[special]\r\nNoExtras=yes\r\n");
   World reduced(folder.Folder());
   const frmAbout german(nullptr, reduced, desktop, launching);
   EXPECT_EQ(TitleOf(german), "Über Orvalis Lite");
-  EXPECT_EQ(TextOf(german, "lblVersion"), Version() + " Lite");
+  EXPECT_EQ(TextOf(german, "lblVersion"),
+            "Version: " + NativePath::ToBytes(ProgramInfo::Version) + " Lite");
+  EXPECT_EQ(TextOf(german, "lblTitle"), "Orvalis");
   SpeakEnglish(u"[frmAbout]\r\ncaption=About\r\nsources=Travellers & books\r\n");
   const auto english = Open();
   EXPECT_EQ(TitleOf(*english), "About Orvalis");

@@ -1,6 +1,5 @@
 #include "auxwin/windows/frmExtras.h"
 
-#include "controls/windows/GridListbox.h"
 #include "support/TestWorld.h"
 #include "support/Windows.h"
 
@@ -12,13 +11,7 @@ class Extras : public testing::Test, protected TestWorld {
     return std::make_unique<frmExtras>(nullptr, world, launching);
   }
 
-  static std::vector<Text> Names(const frmExtras& window) {
-    const auto& list = Part<GridListbox>(window);
-    std::vector<Text> names;
-    for (int i = 1; i <= list.ListCount(); ++i)
-      names.push_back(list.List(i));
-    return names;
-  }
+  std::vector<Text> Names() { return RowsOf(Part<GridListbox>(*Open())); }
 
   // Opens the documents of these names in a window of the moment's language.
   void Choose(std::initializer_list<TextView> documents) {
@@ -33,39 +26,30 @@ class Extras : public testing::Test, protected TestWorld {
 }  // namespace
 
 TEST_F(Extras, ListsItsDocumentsInTheOrderOfTheirNames) {
-  EXPECT_EQ(Names(*Open()),
+  EXPECT_EQ(Names(),
             (std::vector<Text>{u"Cheatliste", u"Perk-Übersicht", u"Pflanzen und Kräuter",
                                u"Rufliste", u"Rüstungsliste", u"Teleportsteine", u"Zauberbuch"}));
   SpeakEnglish(u"[frmExtras]\r\nSpellbook=A spellbook\r\nbtnSelect=&Open\r\n");
   EXPECT_EQ(TextOf(*Open(), "btnSelect"), "&Open");
-  EXPECT_EQ(Names(*Open()),
-            (std::vector<Text>{u"A spellbook", u"Armor list", u"Cheat list", u"Perklist",
-                               u"Plant list", u"Reputation list", u"Teleporter stones"}));
+  EXPECT_EQ(Names(), (std::vector<Text>{u"A spellbook", u"Armor list", u"Cheat list", u"Perklist",
+                                        u"Plant list", u"Reputation list", u"Teleporter stones"}));
 }
 
 TEST_F(Extras, PrefersTheLanguagesOwnCopyButNeverInGerman) {
   folder.Write("EXTRAS/cheatlist.html", "<p>de");
   folder.Write("EXTRAS/spellbook.chm", "de");
   folder.Write("LANG/English/cheatlist.html", "<p>en");
+  folder.Write("LANG/English/plantlist.html", "<p>en");
   folder.Write("LANG/Deutsch/cheatlist.html", "<p>nie");
   desktop.viewers.insert("application/vnd.ms-htmlhelp");
   Choose({u"Cheatliste", u"Zauberbuch"});
   ExpectCalls({"open " + folder.Native("EXTRAS/cheatlist.html"),
                "open " + folder.Native("EXTRAS/spellbook.chm")});
   SpeakEnglish(u"");
-  Choose({u"Cheat list", u"Spellbook"});
+  Choose({u"Cheat list", u"Spellbook", u"Plant list", u"Perklist"});
   ExpectCalls({"open " + folder.Native("LANG/English/cheatlist.html"),
-               "open " + folder.Native("EXTRAS/spellbook.chm")});
-}
-
-TEST_F(Extras, HelpFilesAreTheirPagesOnAPlainDesktop) {
-  folder.Write("EXTRAS/armorlist.html", "<p>de");
-  folder.Write("LANG/English/plantlist.html", "<p>en");
-  SpeakEnglish(u"");
-  desktop.viewers.clear();
-  Choose({u"Armor list", u"Plant list", u"Perklist"});
-  ExpectCalls({"page " + folder.Native("EXTRAS/armorlist.html"),
-               "page " + folder.Native("LANG/English/plantlist.html")});
+               "open " + folder.Native("EXTRAS/spellbook.chm"),
+               "open " + folder.Native("LANG/English/plantlist.html")});
 }
 
 TEST_F(Extras, OpensByDoubleClickAndEnterAndStaysOpen) {

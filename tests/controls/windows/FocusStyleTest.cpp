@@ -53,19 +53,15 @@ TEST(FocusStyle, TheFocusStandsOutOfButtonAndListInLightAndDark) {
   const FocusStyle style(QStringLiteral("fusion"));
   const QPushButton button;
   const QComboBox list;
+  const auto drawButton = [&](const auto& option, QPainter& painter) {
+    style.drawControl(QStyle::CE_PushButton, &option, &painter, &button);
+  };
+  const auto drawList = [&](const auto& option, QPainter& painter) {
+    style.drawComplexControl(QStyle::CC_ComboBox, &option, &painter, &list);
+  };
   for (const QPalette& theme : {Theme(Qt::lightGray, Qt::black), Theme(Qt::black, Qt::white)}) {
     constexpr int around = 2 * 60 + 2 * 15;
-    EXPECT_GE(Marked<QStyleOptionButton>(theme, button,
-                                         [&](const auto& option, QPainter& painter) {
-                                           style.drawControl(QStyle::CE_PushButton, &option,
-                                                             &painter, &button);
-                                         }),
-              around);
-    EXPECT_GE(Marked<QStyleOptionComboBox>(theme, list,
-                                           [&](const auto& option, QPainter& painter) {
-                                             style.drawComplexControl(QStyle::CC_ComboBox, &option,
-                                                                      &painter, &list);
-                                           }),
-              around);
+    EXPECT_GE(Marked<QStyleOptionButton>(theme, button, drawButton), around);
+    EXPECT_GE(Marked<QStyleOptionComboBox>(theme, list, drawList), around);
   }
 }

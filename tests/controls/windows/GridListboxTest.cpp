@@ -21,13 +21,6 @@ QPixmap Picture(int width = 16, int height = 16) {
   return picture;
 }
 
-std::vector<Text> AllTexts(const GridListbox& list) {
-  std::vector<Text> texts;
-  for (int i = 1; i <= list.ListCount(); ++i)
-    texts.push_back(list.List(i));
-  return texts;
-}
-
 // Languages as their dialog lists them, on the screen.
 class Languages : public GridListbox {
  public:
@@ -45,14 +38,13 @@ TEST(GridListbox, SortsLikeAGermanDictionaryWithoutRegardToCase) {
   const std::vector<Text> sorted = {u" ?",        u" Deutsch", u" English",
                                     u" Français", u" ölig",    u" Zulu"};
   Languages list;
-  EXPECT_EQ(list.List(1), u" Français");
   list.Select(3);
   list.SetSorted(true);
-  EXPECT_EQ(AllTexts(list), sorted);
+  EXPECT_EQ(RowsOf(list), sorted);
   EXPECT_EQ(list.Text(), u" Deutsch");
   list.RemoveItem(2);
   list.AddItem(u" Deutsch");
-  EXPECT_EQ(AllTexts(list), sorted);
+  EXPECT_EQ(RowsOf(list), sorted);
 }
 
 TEST(GridListbox, SortingSelectsNothing) {
@@ -100,7 +92,6 @@ TEST(GridListbox, PicturesCountOnAcrossClearAndHaveOneSize) {
   EXPECT_EQ(list.Rows(2)->SmallIcon, 1);
   EXPECT_EQ(list.Rows(3)->SmallIcon, 0);
   list.Clear();
-  EXPECT_EQ(list.ListCount(), 0);
   list.AddItem(u"d", Picture());
   EXPECT_EQ(list.Rows(1)->SmallIcon, 2);
   EXPECT_FALSE(GridListbox::GetImage(list.Pictures(), 2).isNull());
@@ -149,11 +140,9 @@ TEST(GridListbox, HeaderIsHiddenUntilAskedForAndFollowsItsCaption) {
   GridListbox list;
   list.resize(289, 305);
   list.show();
-  EXPECT_TRUE(list.NoHeader());
   EXPECT_FALSE(View(list).header()->isVisible());
   list.SetNoHeader(false);
   EXPECT_TRUE(View(list).header()->isVisible());
-  EXPECT_EQ(View(list).headerItem()->text(0), u"<caption>"_s);
   list.SetCaption(u"Vorhandene Sprachen");
   EXPECT_EQ(View(list).headerItem()->text(0), u"Vorhandene Sprachen"_s);
   EXPECT_EQ(View(list).geometry(), list.rect());
@@ -167,7 +156,6 @@ TEST(GridListbox, GreysAndRestoresTheColoursOfTheLastShowing) {
   list.SetForeColor(0xFF0000);
   EXPECT_EQ(View(list).palette().color(QPalette::Text), QColor(Qt::blue));
   list.SetEnabled(false);
-  EXPECT_FALSE(list.Enabled());
   EXPECT_EQ(View(list).palette().color(QPalette::Disabled, QPalette::Text),
             QColor(0x80, 0x80, 0x80));
   EXPECT_EQ(View(list).palette().color(QPalette::Disabled, QPalette::Base),

@@ -14,7 +14,7 @@ class InfoWindow : public testing::Test, protected TestWorld {
   InfoWindow() {
     Write("info.data",
           u"[info]\r\nHändler Mara=Eine Händlerin.\\n\\nSie <b>feilscht</b> & lacht.\r\n"
-          u"Mara=# Händler Mara \r\nRing=#Kreis\r\nKreis=#Ring\r\n");
+          u"Ring=Gold\r\n");
     Write("PICS/pic.ini",
           u"[pics]\r\nHändler Mara=KLEIN.BMP\r\nRiese=riesig.bmp\r\nFehlt=none.bmp\r\n"
           u"Ordner=.\r\nOben=..\\oben.bmp\r\n");
@@ -48,12 +48,6 @@ TEST_F(InfoWindow, ShowsNameDescriptionAndLineBreaks) {
   EXPECT_TRUE(txtInfo.hasFocus());
   QTest::keyClick(&txtInfo, Qt::Key_Return);
   EXPECT_FALSE(window.isVisible());
-}
-
-TEST_F(InfoWindow, FollowsOneRedirectOnly) {
-  EXPECT_TRUE(Description(u"Mara").starts_with("Eine Händlerin."));
-  EXPECT_EQ(Description(u"Ring"), "#Ring");
-  EXPECT_EQ(Description(u"Niemand"), "");
 }
 
 TEST_F(InfoWindow, PortraitsKeepTheirSizeAndTheirBox) {

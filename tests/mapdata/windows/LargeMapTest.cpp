@@ -3,19 +3,10 @@
 
 #include <QPainter>
 
-#include <cmath>
-
 namespace {
 
 // Wider than 32767 twips at 15 twips a pixel, as every screen of this size is.
 constexpr QSize Large = {3840, 2160};
-constexpr int Point = 65;
-
-// Left or top edge in pixels of the marker for a coordinate of the frame.
-int MarkerEdge(int coordinate, int frame, int length, double twipsPerPixel) {
-  const double twips = std::nearbyint(length * twipsPerPixel / frame * coordinate) - Point;
-  return static_cast<int>(std::nearbyint(twips / twipsPerPixel));
-}
 
 class LargeMap : public MapFixture {
  protected:
@@ -25,14 +16,12 @@ class LargeMap : public MapFixture {
 }  // namespace
 
 TEST_F(LargeMap, KeepsMarkersOnTheirSpots) {
-  view.resize(Large);
   Multi();
-  const double twips = 1440.0 / view.logicalDpiX();
+  view.resize(Large);
   int slot = 0;
   for (const QPoint& at : {QPoint(1, 1), QPoint(600, 400), QPoint(1020, 760)}) {
     const auto& dot = Part<ctlLocation>(view, ("DOT(" + std::to_string(slot++) + ")").c_str());
-    EXPECT_EQ(dot.pos(), QPoint(MarkerEdge(at.x(), 1024, view.width(), twips),
-                                MarkerEdge(at.y(), 768, view.height(), twips)));
+    EXPECT_EQ(dot.pos(), PixelOnMap(view, at.x(), at.y()));
     EXPECT_TRUE(view.rect().intersects(dot.geometry()));
   }
 }

@@ -54,6 +54,10 @@ TEST_F(MapFocusTest, IsOneTabStopAndWalksOverWhatIsShown) {
   EXPECT_EQ(Focus(), "nothing");
   EnterMap();
   EXPECT_EQ(Focus(), "DOT(2)") << "where it was left";
+  QSignalSpy asked(&view, &MapView::InfoRequested);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(asked.count(), 1);
+  EXPECT_EQ(view.InfoEntityName(), u"Amsel");
 }
 
 TEST_F(MapFocusTest, DoesWhatRestingThePointerDoes) {
@@ -91,16 +95,6 @@ TEST_F(MapFocusTest, ComingBackToTheWindowTakesNoMarkerThatHadNoFocus) {
   Multi();
   comeBack();
   EXPECT_FALSE(Ring().isVisible()) << "the list had the focus and is hidden";
-}
-
-TEST_F(MapFocusTest, EnterOpensTheInformation) {
-  QSignalSpy asked(&view, &MapView::InfoRequested);
-  Multi();
-  EnterMap();
-  Press(Qt::Key_Down);
-  Press(Qt::Key_Return);
-  EXPECT_EQ(asked.count(), 1);
-  EXPECT_EQ(view.InfoEntityName(), u"Grab");
 }
 
 TEST_F(MapFocusTest, RingsTheMarkerOnlyWhileTheMapHasTheFocus) {

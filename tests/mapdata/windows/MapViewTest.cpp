@@ -1,7 +1,5 @@
 #include "mapdata/windows/MapView.h"
 
-#include "controls/windows/WidgetTwips.h"
-#include "mapdata/display/Placement.h"
 #include "mapdata/windows/ctlLocation.h"
 #include "support/MapFixture.h"
 
@@ -9,9 +7,6 @@
 #include <QSignalSpy>
 
 #include <cstring>
-
-using WidgetTwips::ToPixelsX;
-using WidgetTwips::ToPixelsY;
 
 namespace {
 
@@ -45,14 +40,6 @@ class MapViewTest : public MapFixture {
     return shown.join(u' ').toStdString();
   }
 
-  // The marker's place for a position of the frame, in pixels.
-  [[nodiscard]] QPoint MarkerPlace(int x, int y) {
-    const auto screen = WidgetTwips::ScreenOf(view);
-    const auto at =
-        Placement::MarkerAt(Twips2Pixel_Module::PointOnMap(screen, view.MapSize(), x, y));
-    return {ToPixelsX(screen, at.x), ToPixelsY(screen, at.y)};
-  }
-
   QComboBox& items = Part<QComboBox>(view, "cboItems");
 };
 
@@ -61,9 +48,9 @@ class MapViewTest : public MapFixture {
 TEST_F(MapViewTest, ShowsEverySlotBesideItsMarker) {
   Multi();
   EXPECT_EQ(Shown(), AllSlots);
-  EXPECT_EQ(At("DOT(0)").pos(), MarkerPlace(512, 384));
-  EXPECT_EQ(At("DOT(3)").pos(), MarkerPlace(10, 20)) << "a link";
-  EXPECT_EQ(At("DOT(5)").pos(), MarkerPlace(0, 0)) << "no numbers";
+  EXPECT_EQ(At("DOT(0)").pos(), PixelOnMap(view, 512, 384));
+  EXPECT_EQ(At("DOT(3)").pos(), PixelOnMap(view, 10, 20)) << "a link";
+  EXPECT_EQ(At("DOT(5)").pos(), PixelOnMap(view, 0, 0)) << "no numbers";
   EXPECT_EQ(TextOf(view, "lblDOT(2)"), " Äpfel ");
   EXPECT_LT(At("lblDOT(2)").x(), At("DOT(2)").x()) << "even: left";
   EXPECT_GT(At("lblDOT(3)").x(), At("DOT(3)").x()) << "odd: right";
@@ -75,16 +62,6 @@ TEST_F(MapViewTest, ShowsEverySlotBesideItsMarker) {
   EXPECT_EQ(Shown(), "DOT(0) lblDOT(0) lblMultiInfo");
   Multi(false, u"T");
   EXPECT_EQ(Shown(), "lblMultiInfo") << "headers are exact";
-}
-
-TEST_F(MapViewTest, FollowsTheWindowsSize) {
-  Multi();
-  for (const QSize size : {QSize(1920, 1100), QSize(200, 100), QSize(3840, 2160)}) {
-    view.resize(size);
-    EXPECT_EQ(At("imgMap").size(), size);
-    EXPECT_EQ(At("DOT(0)").pos(), MarkerPlace(512, 384));
-    EXPECT_NEAR(At("DOT(0)").x(), size.width() / 2 - 4, 2);
-  }
 }
 
 TEST_F(MapViewTest, LabelsOnHoverShowTheLastOneOnly) {
@@ -108,13 +85,13 @@ TEST_F(MapViewTest, ListsSortedBehindThePromptAndMarksThePick) {
   EXPECT_EQ(rows.join(u'|').toStdString(), "  ----- Bitte Auswählen -----|Alm|Äpfel|bad|Edge|Wolf");
   EXPECT_EQ(Shown(), "btnInfo cboItems");
   Pick(Alm);
-  EXPECT_EQ(At("ITEM").pos(), MarkerPlace(10, 20));
+  EXPECT_EQ(At("ITEM").pos(), PixelOnMap(view, 10, 20));
   EXPECT_EQ(TextOf(view, "lblCaption"), " Alm ");
   EXPECT_GT(At("lblCaption").x(), At("ITEM").x());
   Pick(Edge);
   EXPECT_LT(At("lblCaption").x(), At("ITEM").x()) << "at the right edge";
   view.resize(1500, 900);
-  EXPECT_EQ(At("ITEM").pos(), MarkerPlace(1020, 9));
+  EXPECT_EQ(At("ITEM").pos(), PixelOnMap(view, 1020, 9));
   Pick(Bad);
   EXPECT_EQ(Shown(), "btnInfo cboItems") << "no position";
   Pick(Wolf);
@@ -195,7 +172,7 @@ TEST_F(MapViewTest, TheOneUnderThePointerComesFirstAndNoNameCoversAMarker) {
 TEST(ctlLocation, KeepsItsSizeAndColours) {
   ctlLocation marker;
   const QSize size = marker.size();
-  EXPECT_EQ(size.width(), ToPixelsX(WidgetTwips::ScreenOf(marker), 160));
+  EXPECT_EQ(size.width(), WidgetTwips::ToPixelsX(WidgetTwips::ScreenOf(marker), 160));
   marker.resize(50, 50);
   EXPECT_EQ(marker.size(), size);
   marker.setProperty("BorderColor", 2263842);

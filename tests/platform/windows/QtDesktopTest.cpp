@@ -114,7 +114,6 @@ TEST(QtDesktop, SoundThatCannotBePlayedTroublesNobody) {
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << name;
   }
   desktop.StopSound();
-  desktop.StopSound();
 }
 
 namespace {
