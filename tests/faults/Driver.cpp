@@ -18,6 +18,8 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
@@ -45,6 +47,7 @@ constexpr double MostSeconds = 2;
 constexpr unsigned MostSecondsByClock = 300;
 constexpr int HangCode = 3;
 constexpr int UntrueCode = 4;
+constexpr int MostMenuKeys = 60;
 constexpr int StepsInDialog = 6;
 
 constexpr std::array<QSize, 8> Sizes = {QSize(200, 100),  QSize(640, 480),   QSize(1024, 800),
@@ -217,8 +220,51 @@ class Driver : public QObject {
     command_ = QtText::ToQt(row.name).toLatin1();
     what = command_.constData();
     auto* action = window.findChild<QAction*>(QtText::ToQt(row.name));
-    if (action && action->isEnabled() && action->isVisible())
+    if (!action || !action->isEnabled() || !action->isVisible())
+      return;
+    if (random_() % 2 == 0 || !ChooseByKeys(window, *action))
       action->trigger();
+  }
+
+  // Opens the menus with the keyboard, down to the one that holds the action, and presses Enter on
+  // it; false, and all menus closed, if the keys lead nowhere.
+  static bool ChooseByKeys(QMainWindow& window, QAction& action) {
+    QMenuBar& bar = *window.menuBar();
+    std::vector<QAction*> way = {&action};
+    while (!bar.actions().contains(way.front())) {
+      auto* const menu = qobject_cast<QMenu*>(way.front()->associatedObjects().value(0));
+      if (!menu)
+        return false;
+      way.insert(way.begin(), menu->menuAction());
+    }
+    const QString first = bar.actions().constFirst()->text();
+    const QString key = first.section(u'&', 1).left(1).toUpper();
+    if (key.isEmpty())
+      return false;
+    QWidget* const focused = window.focusWidget();
+    QTest::keyClick(focused ? focused : &window, static_cast<Qt::Key>(key.at(0).unicode()),
+                    Qt::AltModifier);
+    const bool there = Walk(window, bar, way);
+    if (there)
+      PressAt(window, Qt::Key_Return);
+    while (!there && QApplication::activePopupWidget())
+      QApplication::activePopupWidget()->close();
+    return there;
+  }
+
+  static bool Walk(const QWidget& window, const QMenuBar& bar, const std::vector<QAction*>& way) {
+    for (int i = 0; i < MostMenuKeys && bar.activeAction() != way.front(); ++i)
+      PressAt(window, Qt::Key_Right);
+    for (size_t level = 1; level < way.size(); ++level) {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      for (int i = 0; menu && i < MostMenuKeys && menu->activeAction() != way[level]; ++i)
+        PressAt(window, Qt::Key_Down);
+      if (!menu || menu->activeAction() != way[level])
+        return false;
+      if (level + 1 < way.size())
+        PressAt(window, Qt::Key_Right);
+    }
+    return bar.activeAction() == way.front();
   }
 
   void Pick(QComboBox& items) {
