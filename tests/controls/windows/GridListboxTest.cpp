@@ -254,9 +254,11 @@ TEST(GridListbox, KeysHaveTheirClassicCodes) {
                    [&characters](int16_t& KeyAscii) { characters.push_back(KeyAscii); });
   for (const auto key :
        {Qt::Key_Return, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Home,
-        Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Delete, Qt::Key_A})
+        Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_A})
     QTest::keyClick(&View(list), key);
-  EXPECT_EQ(codes, (std::vector<int>{13, 27, 33, 34, 35, 36, 37, 38, 39, 40, 46, 65}));
+  // A keyboard gives it a character too.
+  QTest::sendKeyEvent(QTest::Click, &View(list), Qt::Key_Delete, u"\x7F"_s, {});
+  EXPECT_EQ(codes, (std::vector<int>{13, 27, 33, 34, 35, 36, 37, 38, 39, 40, 65, 46}));
   EXPECT_EQ(characters, (std::vector<int>{13, 27, 'a'})) << "none for Delete";
 }
 

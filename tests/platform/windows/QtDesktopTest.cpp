@@ -108,7 +108,7 @@ TEST(QtDesktop, SoundThatCannotBePlayedTroublesNobody) {
   QtDesktop desktop;
   desktop.StopSound();
   for (const char* name : {"broken.wav", "none.wav"}) {
-    desktop.LoopSound(folder.Native(name));
+    EXPECT_FALSE(desktop.LoopSound(folder.Native(name)));
     // The file is read while events are handled.
     QTest::qWait(100);
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << name;
