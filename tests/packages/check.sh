@@ -58,6 +58,11 @@ chroot "$root" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y --no-install-re
   install "/tmp/$(basename "$packages"/*.deb)"
 chroot "$root" rm -rf "/home/$user/.local" "/home/$user/My maps"
 
+say "The companion, its manual and its completions"
+chroot "$root" orvalis-world check --strict --world /usr/share/orvalis
+chroot "$root" gzip -t /usr/share/man/man1/orvalis-world.1.gz
+test -e "$root/usr/share/bash-completion/completions/orvalis-world"
+
 say "Starting as a new user"
 xvfb-run -a -s "-screen 0 1280x960x24 -ac" tests/packages/first-start.sh "$root" "$user" "$pictures"
 
