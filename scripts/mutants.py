@@ -77,7 +77,7 @@ def prepare():
         target.parent.mkdir(parents=True, exist_ok=True)
         if (ROOT / name).is_file():
             shutil.copy2(ROOT / name, target)
-    configured = run("cmake", "--preset", "core")
+    configured = run("cmake", "--preset", "core", "-DORVALIS_SANITIZE=")
     if configured.returncode:
         sys.exit(configured.stderr)
 
