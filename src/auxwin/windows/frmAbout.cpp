@@ -20,7 +20,7 @@ using WindowTexts::Row;
 
 namespace {
 
-constexpr ControlDesign Controls[] = {
+constexpr ControlDesign AboutControls[] = {
     {.name = u"picBanner",
      .kind = ControlKind::Picture,
      .place = {120, 120, 6060, 2325},
@@ -68,12 +68,12 @@ constexpr ControlDesign Controls[] = {
      .bold = true},
 };
 
-constexpr DialogDesign WindowDesign = {.name = u"frmAbout",
-                                       .width = 6270,
-                                       .height = 9330,
-                                       .defaultButton = u"btnOK",
-                                       .cancelButton = u"btnOK",
-                                       .controls = Controls};
+constexpr DialogDesign AboutDesign = {.name = u"frmAbout",
+                                      .width = 6270,
+                                      .height = 9330,
+                                      .defaultButton = u"btnOK",
+                                      .cancelButton = u"btnOK",
+                                      .controls = AboutControls};
 
 // Pixels between the control's edge and the picture.
 constexpr int BannerFrame = 2;
@@ -101,7 +101,7 @@ void Fill(QWidget& line, int color) {
 }  // namespace
 
 frmAbout::frmAbout(QWidget* parent, World& world, Desktop& desktop, Launching& launching)
-    : Dialog(parent, WindowDesign), desktop_(desktop) {
+    : Dialog(parent, AboutDesign), desktop_(desktop) {
   IniOps::Snapshot snapshot(world.cache);
   StartMusic(snapshot, world.paths);
   Hyperlink::CreateAddressLink(Label(u"lblEMail"), launching, u"mailto:");

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int PictureSize = 16;
 
-constexpr ControlDesign Controls[] = {
+constexpr ControlDesign ExtrasControls[] = {
     {.name = u"glbExtras",
      .kind = ControlKind::GridList,
      .place = {0, 0, 4335, 4575},
@@ -31,18 +31,18 @@ constexpr ControlDesign Controls[] = {
     {.name = u"imgList", .kind = ControlKind::Picture, .place = {120, 4680, 240, 240}},
 };
 
-constexpr DialogDesign WindowDesign = {.name = u"frmExtras",
+constexpr DialogDesign ExtrasDesign = {.name = u"frmExtras",
                                        .caption = &Row(u"frmExtras", u"caption"),
                                        .width = 4335,
                                        .height = 5145,
                                        .defaultButton = u"btnSelect",
                                        .cancelButton = u"btnAbort",
-                                       .controls = Controls};
+                                       .controls = ExtrasControls};
 
 }  // namespace
 
 frmExtras::frmExtras(QWidget* parent, World& world, Launching& launching)
-    : Dialog(parent, WindowDesign),
+    : Dialog(parent, ExtrasDesign),
       paths_(world.paths),
       language_(world.language),
       launching_(launching),

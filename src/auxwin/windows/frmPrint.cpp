@@ -34,7 +34,7 @@ constexpr double FadeWidth = 0.1;
 // Pixels of the picture.
 constexpr QSize BannerSize(150, 158);
 
-constexpr ControlDesign Controls[] = {
+constexpr ControlDesign PrintControls[] = {
     {.name = u"imgBanner",
      .kind = ControlKind::Picture,
      .place = {0, 0, 2235, 2325},
@@ -64,18 +64,18 @@ constexpr ControlDesign Controls[] = {
      .caption = &Row(u"frmPrint", u"buttoncancel")},
 };
 
-constexpr DialogDesign WindowDesign = {.name = u"frmPrint",
-                                       .caption = &Row(u"frmPrint", u"caption"),
-                                       .width = 5475,
-                                       .height = 2415,
-                                       .defaultButton = {},
-                                       .cancelButton = u"btnCancel",
-                                       .controls = Controls};
+constexpr DialogDesign PrintDesign = {.name = u"frmPrint",
+                                      .caption = &Row(u"frmPrint", u"caption"),
+                                      .width = 5475,
+                                      .height = 2415,
+                                      .defaultButton = {},
+                                      .cancelButton = u"btnCancel",
+                                      .controls = PrintControls};
 
 }  // namespace
 
 frmPrint::frmPrint(QWidget* parent, World& world, Desktop& desktop, Printout printout)
-    : Dialog(parent, WindowDesign),
+    : Dialog(parent, PrintDesign),
       desktop_(desktop),
       printout_(std::move(printout)),
       imgBanner(Control<QLabel>(u"imgBanner")),
