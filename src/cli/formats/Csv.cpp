@@ -27,7 +27,7 @@ Text Row(std::initializer_list<TextView> values) {
 }
 
 // Of one of the position's numbers; "" without a position.
-Text Number(const Share::Entity& entity, int EntityFile::Position::*number) {
+Text Coordinate(const Share::Entity& entity, int EntityFile::Position::*number) {
   return entity.position ? QtText::FromQt(QString::number(*entity.position.*number)) : Text();
 }
 
@@ -44,10 +44,10 @@ std::string OfWorld(std::span<const Share::RegionMap> maps) {
   for (const Share::RegionMap& map : maps)
     for (const Share::Category& category : map.categories)
       for (const Share::Entity& entity : category.entities)
-        table +=
-            Row({map.key, category.section, entity.name, Number(entity, &EntityFile::Position::x),
-                 Number(entity, &EntityFile::Position::y), entity.highlighted ? u"*" : u"",
-                 entity.link, entity.description});
+        table += Row({map.key, category.section, entity.name,
+                      Coordinate(entity, &EntityFile::Position::x),
+                      Coordinate(entity, &EntityFile::Position::y), entity.highlighted ? u"*" : u"",
+                      entity.link, entity.description});
   return Bytes(table);
 }
 
@@ -55,8 +55,8 @@ std::string OfHits(std::span<const Share::Hit> hits) {
   Text table = Row({u"region", u"section", u"key", u"name", u"x", u"y", u"description"});
   for (const auto& [map, category, entity] : hits)
     table += Row({map->key, category->section, entity->key, entity->name,
-                  Number(*entity, &EntityFile::Position::x),
-                  Number(*entity, &EntityFile::Position::y), entity->description});
+                  Coordinate(*entity, &EntityFile::Position::x),
+                  Coordinate(*entity, &EntityFile::Position::y), entity->description});
   return Bytes(table);
 }
 

@@ -1,7 +1,6 @@
 #include "check/Words.h"
 #include "cli/reports/Reports.h"
-#include "platform/NativePath.h"
-#include "platform/windows/QtText.h"
+#include "cli/reports/ShownText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,13 +8,9 @@
 
 namespace {
 
-QString Shown(TextView text) {
-  return QtText::ToQt(NativePath::ForDisplay(text));
-}
-
 QJsonObject OfEdit(const Edit& edit) {
   const QByteArray bytes = QByteArray::fromStdString(edit.bytes);
-  return {{QStringLiteral("file"), Shown(edit.source->name)},
+  return {{QStringLiteral("file"), ShownText(edit.source->name)},
           {QStringLiteral("offset"), static_cast<qint64>(edit.offset)},
           {QStringLiteral("length"), static_cast<qint64>(edit.length)},
           {QStringLiteral("bytes"), QString::fromLatin1(bytes.toBase64())}};
@@ -49,22 +44,22 @@ QJsonObject OfFinding(const Finding& finding) {
   const Rules::Rule& rule = Rules::Of(finding.rule);
   const bool sure = rule.confidence == Rules::Confidence::Sure;
   QJsonObject object = {
-      {QStringLiteral("rule"), Shown(rule.number)},
-      {QStringLiteral("name"), Shown(rule.name)},
-      {QStringLiteral("severity"), Shown(Rules::NameOf(finding.severity))},
+      {QStringLiteral("rule"), ShownText(rule.number)},
+      {QStringLiteral("name"), ShownText(rule.name)},
+      {QStringLiteral("severity"), ShownText(Rules::NameOf(finding.severity))},
       {QStringLiteral("confidence"), sure ? QStringLiteral("sure") : QStringLiteral("guess")},
-      {QStringLiteral("file"), Shown(finding.file)},
-      {QStringLiteral("section"), Shown(finding.section)},
-      {QStringLiteral("key"), Shown(finding.key)},
-      {QStringLiteral("message"), Shown(finding.message)},
-      {QStringLiteral("consequence"), Shown(finding.consequence)},
-      {QStringLiteral("advice"), Shown(finding.advice)},
+      {QStringLiteral("file"), ShownText(finding.file)},
+      {QStringLiteral("section"), ShownText(finding.section)},
+      {QStringLiteral("key"), ShownText(finding.key)},
+      {QStringLiteral("message"), ShownText(finding.message)},
+      {QStringLiteral("consequence"), ShownText(finding.consequence)},
+      {QStringLiteral("advice"), ShownText(finding.advice)},
       {QStringLiteral("fix"), FixOf(finding)}};
   AddPlace(object, finding);
   if (!finding.details.empty()) {
     QJsonArray details;
     for (const Text& detail : finding.details)
-      details.append(Shown(detail));
+      details.append(ShownText(detail));
     object[QStringLiteral("details")] = details;
   }
   return object;
@@ -79,9 +74,9 @@ std::string Reports::AsJson(const Check::Answer& answer) {
   QJsonObject summary;
   const auto counts = answer.Counts();
   for (size_t severity = 0; severity < counts.size(); ++severity)
-    summary[Shown(Rules::NameOf(static_cast<Rules::Severity>(severity)))] =
+    summary[ShownText(Rules::NameOf(static_cast<Rules::Severity>(severity)))] =
         static_cast<qint64>(counts[severity]);
-  const QJsonObject report = {{QStringLiteral("world"), Shown(answer.index.base)},
+  const QJsonObject report = {{QStringLiteral("world"), ShownText(answer.index.base)},
                               {QStringLiteral("findings"), findings},
                               {QStringLiteral("summary"), summary}};
   return QJsonDocument(report).toJson().toStdString();

@@ -1,7 +1,6 @@
 #include "cli/reports/Reports.h"
-#include "platform/NativePath.h"
+#include "cli/reports/ShownText.h"
 #include "platform/ProgramInfo.h"
-#include "platform/windows/QtText.h"
 
 #include <QCryptographicHash>
 #include <QJsonArray>
@@ -15,12 +14,8 @@ namespace {
 
 constexpr size_t MostResults = 5000;
 
-QString Shown(TextView text) {
-  return QtText::ToQt(NativePath::ForDisplay(text));
-}
-
 QJsonObject Message(TextView text) {
-  return {{QStringLiteral("text"), Shown(text)}};
+  return {{QStringLiteral("text"), ShownText(text)}};
 }
 
 QString LevelOf(Rules::Severity severity) {
@@ -38,8 +33,8 @@ QString LevelOf(Rules::Severity severity) {
 
 QJsonObject OfRule(const Rules::Rule& rule) {
   const Text help = Texts::Join(rule.example, u": ", rule.consequence, u". ", rule.advice, u".");
-  return {{QStringLiteral("id"), Shown(rule.number)},
-          {QStringLiteral("name"), Shown(rule.name)},
+  return {{QStringLiteral("id"), ShownText(rule.number)},
+          {QStringLiteral("name"), ShownText(rule.name)},
           {QStringLiteral("shortDescription"), Message(rule.name)},
           {QStringLiteral("help"), Message(help)},
           {QStringLiteral("defaultConfiguration"),
@@ -47,7 +42,7 @@ QJsonObject OfRule(const Rules::Rule& rule) {
 }
 
 QJsonObject FileAddress(TextView name) {
-  const QString address = QString::fromLatin1(QUrl::toPercentEncoding(Shown(name), "/"));
+  const QString address = QString::fromLatin1(QUrl::toPercentEncoding(ShownText(name), "/"));
   return {{QStringLiteral("uri"), address}, {QStringLiteral("uriBaseId"), QStringLiteral("WORLD")}};
 }
 
@@ -72,7 +67,7 @@ QString FingerprintOf(const Finding& finding) {
   const Text words = Texts::Join(Rules::Of(finding.rule).number, u"\n", finding.file, u"\n",
                                  finding.section, u"\n", finding.key);
   return QString::fromLatin1(
-      QCryptographicHash::hash(Shown(words).toUtf8(), QCryptographicHash::Sha256).toHex());
+      QCryptographicHash::hash(ShownText(words).toUtf8(), QCryptographicHash::Sha256).toHex());
 }
 
 QJsonArray FixesOf(const Finding& finding) {
@@ -90,10 +85,10 @@ QJsonArray FixesOf(const Finding& finding) {
                       {QStringLiteral("artifactChanges"), QJsonArray{change}}}};
 }
 
-QJsonObject OfFinding(const Finding& finding) {
+QJsonObject ResultOf(const Finding& finding) {
   const Text words = Texts::Join(finding.message, u": ", finding.consequence);
   QJsonObject result = {
-      {QStringLiteral("ruleId"), Shown(Rules::Of(finding.rule).number)},
+      {QStringLiteral("ruleId"), ShownText(Rules::Of(finding.rule).number)},
       {QStringLiteral("ruleIndex"), static_cast<int>(finding.rule)},
       {QStringLiteral("level"), LevelOf(finding.severity)},
       {QStringLiteral("message"), Message(words)},
@@ -114,9 +109,9 @@ std::string Reports::AsSarif(const Check::Answer& answer) {
   QJsonArray results;
   const size_t count = std::min(answer.findings.size(), MostResults);
   for (size_t i = 0; i < count; ++i)
-    results.append(OfFinding(answer.findings[i]));
+    results.append(ResultOf(answer.findings[i]));
   const QJsonObject driver = {{QStringLiteral("name"), QStringLiteral("orvalis-world")},
-                              {QStringLiteral("version"), Shown(ProgramInfo::Version)},
+                              {QStringLiteral("version"), ShownText(ProgramInfo::Version)},
                               {QStringLiteral("rules"), rules}};
   const QJsonObject run = {
       {QStringLiteral("tool"), QJsonObject{{QStringLiteral("driver"), driver}}},
