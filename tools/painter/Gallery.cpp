@@ -20,7 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int MapQuality = 93;
 constexpr int PortraitQuality = 95;
 
 /// Pictures still to be painted; each is made and written by the thread that takes it.
@@ -76,7 +75,7 @@ void AddRegions(Easel& easel, const fs::path& world, const fs::path& out) {
         [&shape, data = WorldData::DataFile(world / (name + ".data"))] {
           return Map::PaintRegion(shape, data);
         },
-        MapQuality);
+        Gallery::MapQuality);
   }
 }
 

@@ -22,8 +22,8 @@ int Fail(const std::string& what) {
   return 1;
 }
 
-int Save(const QImage& image, const std::string& file) {
-  const bool saved = image.save(QString::fromStdString(file));
+int Save(const QImage& image, const std::string& file, int quality = -1) {
+  const bool saved = image.save(QString::fromStdString(file), nullptr, quality);
   return saved ? 0 : Fail("cannot write " + file);
 }
 
@@ -42,7 +42,8 @@ int PaintRegion(const std::string& region, const std::filesystem::path& world,
   if (!shape) {
     return Fail("no region named " + region);
   }
-  return Save(Map::PaintRegion(*shape, WorldData::DataFile(world / (region + ".data"))), file);
+  return Save(Map::PaintRegion(*shape, WorldData::DataFile(world / (region + ".data"))), file,
+              Gallery::MapQuality);
 }
 
 int PaintWorld(const std::string& world, const std::string& out) {
