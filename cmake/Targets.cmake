@@ -8,6 +8,10 @@ endif()
 # What is delivered reads files of strangers: hardened as Debian's own programs are.
 target_compile_options(orvalis_options INTERFACE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
 target_link_options(orvalis_options INTERFACE $<$<CONFIG:Release>:-Wl,-z,relro,-z,now>)
+# A room that is compiled as one soon has all the inlining that the compiler allows to a unit: files
+# would be read a quarter slower.
+target_compile_options(orvalis_options INTERFACE
+  $<$<AND:$<CONFIG:Release>,$<CXX_COMPILER_ID:GNU>>:--param=inline-unit-growth=400>)
 if(ORVALIS_SANITIZE)
   target_compile_options(orvalis_options INTERFACE -fsanitize=${ORVALIS_SANITIZE}
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)
