@@ -92,12 +92,13 @@ class NameTable {
                         [](char byte) { return static_cast<unsigned char>(byte) > 0x7F; });
   }
 
+  // No plain functions: the compiler calls those for each byte.
   [[nodiscard]] static uint32_t AsciiHash(std::string_view name) {
-    return NameHash::Of(name, ProfileLines::LowerAscii);
+    return NameHash::Of(name, [](unsigned char byte) { return ProfileLines::LowerAscii(byte); });
   }
 
   [[nodiscard]] static uint32_t FoldedHash(std::string_view name) {
-    return NameHash::Of(name, Windows1252::Fold);
+    return NameHash::Of(name, [](unsigned char byte) { return Windows1252::Fold(byte); });
   }
 
   HashTable ascii_;
