@@ -32,20 +32,16 @@ def states(node):
     return {state.value_nick for state in node.get_state_set().get_states()}
 
 
-def walk(node, depth=0):
-    yield node, depth
+def walk(node):
+    yield node
     for child in children(node):
-        yield from walk(child, depth + 1)
+        yield from walk(child)
 
 
 def find(node, role, name=None):
     """The nodes of this role below a node, with this name if one is given."""
-    return [found for found, _ in walk(node)
+    return [found for found in walk(node)
             if found.get_role_name() == role and name in (None, found.get_name())]
-
-
-def focused(node):
-    return [found for found, _ in walk(node) if "focused" in states(found)]
 
 
 def needs_name(node, parent):
@@ -122,7 +118,7 @@ class Reader:
         wait_for(lambda: condition(self.markers()), what, 30)
 
     def focus(self):
-        return [node.get_name() for node in focused(self.map())]
+        return [node.get_name() for node in walk(self.map()) if "focused" in states(node)]
 
     def heading(self):
         return self.map().get_name()

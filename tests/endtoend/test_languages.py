@@ -49,7 +49,7 @@ def check_list(program, reader, language):
 def check_dialog(program, reader, language):
     """The captions of the language dialog, which is open then."""
     dialog = reader.opened("the languages")
-    shown = [node.get_name() for node, _ in walk(dialog)]
+    shown = [node.get_name() for node in walk(dialog)]
     caption, available, current, author, mail, site, select, cancel = texts(program, language, "frmLang")
     assert shown[:2] == [caption, available], f"{language}: {shown}"
     assert [name for name in shown if name in (select, cancel)] == [select, cancel], f"{language}: {shown}"

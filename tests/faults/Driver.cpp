@@ -103,8 +103,10 @@ class Driver : public QObject {
  private:
   template <typename List>
   auto& Any(List& list) {
-    return list[static_cast<decltype(list.size())>(random_() % static_cast<unsigned>(list.size()))];
+    return list[static_cast<decltype(list.size())>(Below(static_cast<int>(list.size())))];
   }
+
+  int Below(int most) { return static_cast<int>(random_() % static_cast<unsigned>(most)); }
 
   void Step() {
     // Ordered before the step is done: that may open a dialog, which is to be driven too.
@@ -270,7 +272,7 @@ class Driver : public QObject {
   void Pick(QComboBox& items) {
     if (items.isHidden() || items.count() == 0)
       return;
-    items.setCurrentIndex(static_cast<int>(random_() % static_cast<unsigned>(items.count())));
+    items.setCurrentIndex(Below(items.count()));
     Q_EMIT items.activated(items.currentIndex());
   }
 
@@ -289,10 +291,11 @@ class Driver : public QObject {
 
   void LookCloser(QMainWindow& window) {
     QWidget* const map = window.centralWidget()->findChild<QWidget*>(u"imgMap"_s);
-    const auto any = [this](int length) {
-      return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, length)));
+    const auto anywhere = [this, map] {
+      const int x = Below(std::max(1, map->width()));
+      return QPoint(x, Below(std::max(1, map->height())));
     };
-    const QPoint at = {any(map->width()), any(map->height())};
+    const QPoint at = anywhere();
     QWidget* const focused = window.focusWidget() ? window.focusWidget() : &window;
     switch (random_() % 4) {
       case 0: {
@@ -309,7 +312,7 @@ class Driver : public QObject {
         break;
       default:
         Send(*map, QEvent::MouseButtonPress, at, Qt::LeftButton);
-        const QPoint to = {any(map->width()), any(map->height())};
+        const QPoint to = anywhere();
         Send(*map, QEvent::MouseMove, to, Qt::LeftButton);
         Send(*map, QEvent::MouseButtonRelease, to, Qt::NoButton);
     }
@@ -356,8 +359,7 @@ class Driver : public QObject {
     } else if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
       const int rows = view->model() ? view->model()->rowCount() : 0;
       if (rows > 0)
-        view->setCurrentIndex(
-            view->model()->index(static_cast<int>(random_() % static_cast<unsigned>(rows)), 0));
+        view->setCurrentIndex(view->model()->index(Below(rows), 0));
       QTest::keyClick(view, Any(Keys));
     } else {
       PressKey(dialog);

@@ -27,9 +27,8 @@ COMPANION_CODES = (0, 1, 2)
 
 def run(world, command, limits, seed):
     """The exit code of the command, none if it never ended, and what it said."""
-    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LANG": "de_DE.UTF-8",
-                   "LC_ALL": "de_DE.UTF-8", "HOME": world.folder, "PATH": "",
-                   "ORVALIS_DRIVER_SEED": str(seed), "ORVALIS_DRIVER_STEPS": str(STEPS),
+    environment = {**world.environment(), "ORVALIS_DRIVER_SEED": str(seed),
+                   "ORVALIS_DRIVER_STEPS": str(STEPS),
                    "ASAN_OPTIONS": f"detect_leaks=0:allocator_may_return_null=0:exitcode={SANITIZER}",
                    "UBSAN_OPTIONS": f"exitcode={SANITIZER}"}
     try:

@@ -57,6 +57,11 @@ class World:
                 for path in [os.path.join(folder, name) for name in folders + names]
                 for at in [os.lstat(path)]}
 
+    def environment(self):
+        """What every run of the program here finds, whoever runs it."""
+        return {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LANG": "de_DE.UTF-8",
+                "LC_ALL": "de_DE.UTF-8", "HOME": self.folder, "PATH": ""}
+
     def hand_over(self):
         """Root may do everything, so that a world of root's is run by somebody else, who owns it."""
         if os.getuid() != 0:

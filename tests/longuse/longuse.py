@@ -21,9 +21,7 @@ def resident(line):
 def main():
     program, source, minutes = sys.argv[1], sys.argv[2], float(sys.argv[3])
     world = World(program, source)
-    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LANG": "de_DE.UTF-8",
-                   "LC_ALL": "de_DE.UTF-8", "HOME": world.folder, "PATH": "",
-                   "ORVALIS_DRIVER_STEPS": str(ENDLESS)}
+    environment = {**world.environment(), "ORVALIS_DRIVER_STEPS": str(ENDLESS)}
     process = subprocess.Popen([world.program], env=environment, stdout=subprocess.PIPE, text=True,
                                stderr=subprocess.DEVNULL)
     sizes = []

@@ -8,8 +8,8 @@ import time
 import urllib.error
 import urllib.request
 
-KEYS = {"Tab": "\ue004", "Enter": "\ue007", "Shift": "\ue008", "Escape": "\ue00c", "Space": " ",
-        "PageDown": "\ue00f", "End": "\ue010", "Home": "\ue011", "Left": "\ue012", "Up": "\ue013",
+KEYS = {"Tab": "\ue004", "Enter": "\ue007", "Escape": "\ue00c", "Space": " ",
+        "PageDown": "\ue00f", "Home": "\ue011", "Left": "\ue012",
         "Right": "\ue014", "Down": "\ue015"}
 
 
@@ -98,16 +98,8 @@ class Browser:
                                                     "actions": list(actions)}]})
 
     def press(self, *keys):
-        """Presses keys, one after the other: names of KEYS, "Shift+" before one, or a text to type."""
-        actions = []
-        for key in keys:
-            shifted = key.startswith("Shift+")
-            name = key.removeprefix("Shift+")
-            strokes = [{"type": kind, "value": value} for value in KEYS.get(name, name)
-                       for kind in ("keyDown", "keyUp")]
-            shift = KEYS["Shift"]
-            actions += ([{"type": "keyDown", "value": shift}, *strokes, {"type": "keyUp", "value": shift}]
-                        if shifted else strokes)
+        """Presses keys, one after the other, by their names in KEYS."""
+        actions = [{"type": kind, "value": KEYS[key]} for key in keys for kind in ("keyDown", "keyUp")]
         self.send("POST", "/actions", {"actions": [{"type": "key", "id": "keys", "actions": actions}]})
 
     def picture(self, file):

@@ -5,22 +5,17 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 namespace {
-
-using QtText::FromQt;
 
 std::string NamesOf(const QWidget& menu) {
   QStringList names;
   for (const QAction* action : menu.actions())
     names << (action->isSeparator() ? u"-"_s : action->objectName());
   return names.join(u' ').toStdString();
-}
-
-// The caption of the menu or command.
-Text CaptionOf(const MenuBar& bar, TextView name) {
-  return FromQt(bar.findChild<QAction*>(QtText::ToQt(name))->text());
 }
 
 }  // namespace
@@ -61,9 +56,7 @@ TEST(MenuBar, DisabledAndHiddenCommandsDontAnswerTheirShortcuts) {
 TEST(MenuBar, HeadingFollowsTheCaptionsShown) {
   MenuBar bar;
   const auto rows = MenuTable::Rows();
-  const auto& teachers = *std::find_if(rows.begin(), rows.end(), [](const MenuRow& row) {
-    return row.name == u"miSkaldorTeachers";
-  });
+  const auto& teachers = *std::ranges::find(rows, u"miSkaldorTeachers", &MenuRow::name);
   EXPECT_EQ(bar.Heading(teachers), u"&Skaldor: &Lehrer");
   std::vector<Text> english;
   for (const TextRow& caption : MenuTable::Captions())
@@ -73,6 +66,7 @@ TEST(MenuBar, HeadingFollowsTheCaptionsShown) {
   bar.SetCaptions({});
   for (const MenuRow& row : rows) {
     const bool divider = row.kind == MenuRow::Kind::BarDivider;
-    EXPECT_EQ(CaptionOf(bar, row.name), divider ? u"|" : row.caption.english);
+    const auto* action = bar.findChild<QAction*>(QtText::ToQt(row.name));
+    EXPECT_EQ(QtText::FromQt(action->text()), divider ? u"|" : row.caption.english);
   }
 }

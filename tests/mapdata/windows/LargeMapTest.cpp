@@ -1,30 +1,15 @@
-#include "mapdata/windows/ctlLocation.h"
 #include "support/MapFixture.h"
 
 #include <QPainter>
 
 namespace {
 
-// Wider than 32767 twips at 15 twips a pixel, as every screen of this size is.
-constexpr QSize Large = {3840, 2160};
-
 class LargeMap : public MapFixture {
  protected:
-  LargeMap() : MapFixture("[t]\r\na=1,1\r\nb=600,400\r\nc=1020,760\r\n") {}
+  LargeMap() : MapFixture("") {}
 };
 
 }  // namespace
-
-TEST_F(LargeMap, KeepsMarkersOnTheirSpots) {
-  Multi();
-  view.resize(Large);
-  int slot = 0;
-  for (const QPoint& at : {QPoint(1, 1), QPoint(600, 400), QPoint(1020, 760)}) {
-    const auto& dot = Part<ctlLocation>(view, ("DOT(" + std::to_string(slot++) + ")").c_str());
-    EXPECT_EQ(dot.pos(), PixelOnMap(view, at.x(), at.y()));
-    EXPECT_TRUE(view.rect().intersects(dot.geometry()));
-  }
-}
 
 TEST_F(LargeMap, ShowsAPictureOfItsOwnSizePixelForPixel) {
   view.resize(900, 600);

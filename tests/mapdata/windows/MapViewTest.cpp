@@ -90,8 +90,10 @@ TEST_F(MapViewTest, ListsSortedBehindThePromptAndMarksThePick) {
   EXPECT_GT(At("lblCaption").x(), At("ITEM").x());
   Pick(Edge);
   EXPECT_LT(At("lblCaption").x(), At("ITEM").x()) << "at the right edge";
-  view.resize(1500, 900);
+  // Wider than 32767 twips at 15 twips a pixel, as every screen of this size is.
+  view.resize(3840, 2160);
   EXPECT_EQ(At("ITEM").pos(), PixelOnMap(view, 1020, 9));
+  EXPECT_TRUE(view.rect().intersects(At("ITEM").geometry()));
   Pick(Bad);
   EXPECT_EQ(Shown(), "btnInfo cboItems") << "no position";
   Pick(Wolf);
